@@ -1,0 +1,284 @@
+// The kernel skeleton: every export is an instance of it.
+//
+// A kernel is a struct K that has
+//
+//     using signature = one_argument<float>;              which lanes come in and go out (calling.h)
+//     static constexpr auto& block = ...;                 its constant block, or no_block
+//     static constexpr double spare = 0.75;               lane 3 of every input of a 3-wide vector
+//     static constexpr auto& slow_path = ...;             only if it can have special lanes
+//
+//     template <int W> static auto vector_path(block, x...)
+//
+// where the formula runs on W lanes of each argument and returns an `answer`: the result, a second result or
+// out-lane, and the special lanes, as a lane of ones each. The rest of an instance is here: spare lane, copy-up of
+// low lanes, the formula register by register, the one branch of the ordinary path, the callout, results in their
+// places.
+//
+// A kernel may have more:
+//
+//     template <int W> static auto settle(block, x..., answer)        finishes some special lanes without a slow
+//     path:
+//                                                                      the answer with those lanes out of `special`
+//     template <int W> static auto large_path(block, x..., answer)    an inline path for the lanes that the formula
+//                                                                      left as special; gives all results, and as
+//                                                                      special what needs the slow path
+//     template <int W> static auto reduce(block, x...)                a step before the formula that gives what
+//     template <int W> static auto large_reduce(block, x..., reduced) vector_path(block, x..., reduced) takes; where
+//                                                                      reduced.special has lanes, large_reduce gives
+//                                                                      the reduced arguments anew
+//     static constexpr bool all_lanes = true;                          no formula: every lane is a slow-path lane
+//
+// large_path and large_reduce each stand behind a branch that ordinary vectors never take and run register by
+// register. A kernel that finishes every lane has no `special` in its answer and no slow path.
+#pragma once
+
+#include "calling.h"
+#include "callout.h"
+#include "lanes.h"
+#include "slots.h"
+
+namespace orvane {
+
+struct nothing {};
+
+// What a formula gives: answer{y, special}, or answer{y, second, special} with a second result or out-lane; a formula
+// that finishes every lane returns y alone, or results{y, second}.
+template <class First, class Second, class Special> struct answer {
+    First first;
+    Second second;
+    Special special;
+};
+template <class First, class Special> struct answer<First, nothing, Special> {
+    First first;
+    Special special;
+};
+template <class First, class Special> answer(First, Special) -> answer<First, nothing, Special>;
+template <class First, class Second, class Special> answer(First, Second, Special) -> answer<First, Second, Special>;
+template <class First, class Second> struct results {
+    First first;
+    Second second;
+};
+
+struct no_block_type {};
+inline constexpr no_block_type no_block{};
+
+// Defaults of most kernels.
+template <class S> struct kernel {
+    using signature = S;
+    static constexpr auto& block = no_block;
+    static constexpr double spare = 0.75;
+};
+
+namespace detail {
+
+template <class A> ORVANE_INLINE auto results_of(const A& a) {
+    if constexpr (requires { a.second; })
+        return std::tuple{a.first, a.second};
+    else if constexpr (requires { a.first; })
+        return std::tuple{a.first};
+    else
+        return std::tuple{a};
+}
+
+// Whether K has a member of that name, template or not: with a second base that has one too the name is ambiguous.
+#define ORVANE_HAS_MEMBER(name)                                                                                      \
+    struct with_##name {                                                                                             \
+        int name;                                                                                                    \
+    };                                                                                                               \
+    template <class K> struct beside_##name : K, with_##name {};                                                     \
+    template <class K>                                                                                               \
+    concept has_##name = !requires {                                                                                 \
+        &beside_##name<K>::name;                                                                                     \
+    };
+ORVANE_HAS_MEMBER(settle)
+ORVANE_HAS_MEMBER(large_path)
+ORVANE_HAS_MEMBER(reduce)
+#undef ORVANE_HAS_MEMBER
+
+template <class A>
+concept has_special = requires(A a) {
+    a.special.v;
+};
+
+// Some lane of some chunk is special: with several registers their words are ORed first, so that the ordinary path
+// never packs a mask.
+template <class A, size_t N> ORVANE_INLINE bool any_special(const A (&a)[N]) {
+    auto word = a[0].special;
+    each<N - 1>([&](auto i) ORVANE_LAMBDA { word = word | a[i + 1].special; });
+    return any(word);
+}
+// Bit i is set for special lane i of the whole vector.
+template <int C, class A, size_t N> ORVANE_INLINE unsigned special_mask(const A (&a)[N]) {
+    unsigned mask = 0;
+    each<N>([&](auto i) ORVANE_LAMBDA { mask |= sign_mask(a[i].special) << (C * i); });
+    return mask;
+}
+
+} // namespace detail
+
+template <class K, int W, class Wrapper = void>
+ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uint64_t i0, uint64_t i1,
+                                                           const first_vector<typename K::signature, W>& v0,
+                                                           __m256 v1, __m256 v2, __m256 v3) {
+    using S = typename K::signature;
+    using L = layout<S, W>;
+    constexpr int C = L::chunk, N = L::chunks;
+
+    incoming<S, W> came;
+    came.integer[0] = i0;
+    came.integer[1] = i1;
+    void* result_object = nullptr;
+    void* out = (void*)i0;
+    if constexpr (L::in_memory) {
+        came.stack = v0.bytes;
+        result_object = (void*)i0;
+        out = (void*)i1;
+    } else {
+        came.vector[0] = v0;
+        came.vector[1] = v1;
+        came.vector[2] = v2;
+        came.vector[3] = v3;
+    }
+
+    // Spare lane and copy-up, chunk by chunk.
+    auto admit_chunk = [&](auto i) ORVANE_LAMBDA {
+        return [&]<int... J>(std::integer_sequence<int, J...>) ORVANE_LAMBDA {
+            return std::tuple{
+                admit<C>(came.template chunk<J, i>(), (typename S::arguments::template at<J>)K::spare)...};
+        }
+        (std::make_integer_sequence<int, S::arguments::count>{});
+    };
+    struct {
+        decltype(admit_chunk(std::integral_constant<int, 0>{})) chunk[N];
+    } x;
+    each<N>([&](auto i) ORVANE_LAMBDA { x.chunk[i] = admit_chunk(i); });
+
+    auto on_chunk = [&](auto i, auto f, const auto&... more) ORVANE_LAMBDA {
+        return std::apply([&](const auto&... a) ORVANE_LAMBDA { return f(base_of<i>(K::block), a..., more...); },
+                          x.chunk[i]);
+    };
+
+    if constexpr (calls_for_all_lanes<K>) {
+        // The results are the slow path's alone.
+        using first = lanes<typename S::results::template at<0>, C>;
+        if constexpr (S::has_out) {
+            std::tuple<first, lanes<typename S::out, C>> r[N];
+            call_out<K, W>(x, r, 0, wrapper);
+            return hand_over<S, W>(r, result_object, out);
+        } else {
+            std::tuple<first> r[N];
+            call_out<K, W>(x, r, 0, wrapper);
+            return hand_over<S, W>(r, result_object, out);
+        }
+    } else {
+        auto formula = [&](const auto&... a) ORVANE_LAMBDA { return K::template vector_path<C>(a...); };
+        auto compute = [&](auto i) ORVANE_LAMBDA {
+            if constexpr (detail::has_reduce<K>)
+                return on_chunk(i, [&](const auto&... a) ORVANE_LAMBDA { return K::template reduce<C>(a...); });
+            else
+                return on_chunk(i, formula);
+        };
+        constexpr std::integral_constant<int, 0> first_chunk;
+        decltype(compute(first_chunk)) stage[N];
+        each<N>([&](auto i) ORVANE_LAMBDA { stage[i] = compute(i); });
+
+        // From answers to the return: results alone on the ordinary path, the callout behind its branch.
+        auto finish = [&](auto& a) ORVANE_LAMBDA -> entry_result<S, W> {
+            decltype(detail::results_of(a[0])) r[N];
+            auto take_results = [&]() ORVANE_LAMBDA {
+                each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(a[i]); });
+            };
+            if constexpr (detail::has_special<std::remove_reference_t<decltype(a[0])>>) {
+                if (__builtin_expect(detail::any_special(a), 0)) {
+                    if constexpr (detail::has_settle<K>)
+                        each<N>([&](auto i) ORVANE_LAMBDA {
+                            a[i] = on_chunk(
+                                i, [&](const auto&... b) ORVANE_LAMBDA { return K::template settle<C>(b...); }, a[i]);
+                        });
+                    take_results();
+                    const unsigned mask = detail::special_mask<C>(a);
+                    if (!detail::has_settle<K> || mask)
+                        call_out<K, W>(x, r, mask, wrapper);
+                    return hand_over<S, W>(r, result_object, out);
+                }
+            }
+            take_results();
+            return hand_over<S, W>(r, result_object, out);
+        };
+
+        if constexpr (detail::has_large_path<K>) {
+            // Where it runs, the large path's answers take over, with its own special lanes.
+            if (__builtin_expect(detail::any_special(stage), 0)) {
+                auto large = [&](auto i) ORVANE_LAMBDA {
+                    return on_chunk(
+                        i, [&](const auto&... b) ORVANE_LAMBDA { return K::template large_path<C>(b...); }, stage[i]);
+                };
+                decltype(large(first_chunk)) a[N];
+                each<N>([&](auto i) ORVANE_LAMBDA { a[i] = large(i); });
+                return finish(a);
+            }
+            decltype(detail::results_of(stage[0])) r[N];
+            each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(stage[i]); });
+            return hand_over<S, W>(r, result_object, out);
+        } else if constexpr (detail::has_reduce<K>) {
+            if (__builtin_expect(detail::any_special(stage), 0))
+                each<N>([&](auto i) ORVANE_LAMBDA {
+                    stage[i] = on_chunk(
+                        i, [&](const auto&... b) ORVANE_LAMBDA { return K::template large_reduce<C>(b...); },
+                        stage[i]);
+                });
+            auto after = [&](auto i) ORVANE_LAMBDA { return on_chunk(i, formula, stage[i]); };
+            decltype(after(first_chunk)) a[N];
+            each<N>([&](auto i) ORVANE_LAMBDA { a[i] = after(i); });
+            return finish(a);
+        } else
+            return finish(stage);
+    }
+}
+
+// One export: its kernel instance, and its wrapper.
+#define ORVANE_ENTRY(symbol, K, W, wrapper)                                                                          \
+    extern "C" [[gnu::visibility("default"), gnu::used]] ::orvane::entry_result<K::signature, W> symbol(             \
+        uint64_t i0, uint64_t i1, ::orvane::first_vector<K::signature, W> v0, __m256 v1, __m256 v2, __m256 v3) {     \
+        return ::orvane::enter<K, W>(wrapper, i0, i1, v0, v1, v2, v3);                                               \
+    }
+#define ORVANE_WRAPPER(symbol, K, W)                                                                                 \
+    extern "C" [[gnu::visibility("hidden"), gnu::noipa]] void symbol(                                                \
+        ::orvane::callout_pointer<K, 0> a, ::orvane::callout_pointer<K, 1> b, ::orvane::callout_pointer<K, 2> c,     \
+        ::orvane::callout_pointer<K, 3> d, ::orvane::callout_mask<K, W> mask) {                                      \
+        ::orvane::walk_special_lanes<K, W>(a, b, c, d, mask);                                                        \
+    }
+#define ORVANE_CALLOUT_INSTANCE(family, W, tier, K)                                                                  \
+    ORVANE_WRAPPER(__orvane_l9_##family##W##tier##_cout_wrapper, K, W)                                               \
+    ORVANE_ENTRY(__orvane_l9_##family##W##tier, K, W, &__orvane_l9_##family##W##tier##_cout_wrapper)
+#define ORVANE_SETTLED_INSTANCE(family, W, tier, K)                                                                  \
+    ORVANE_ENTRY(__orvane_l9_##family##W##tier, K, W, (void (*)()) nullptr)
+#define ORVANE_AT_ALL_WIDTHS(INSTANCE, family, tier, ...)                                                            \
+    INSTANCE(family, 1, tier, __VA_ARGS__)                                                                           \
+    INSTANCE(family, 2, tier, __VA_ARGS__)                                                                           \
+    INSTANCE(family, 3, tier, __VA_ARGS__)                                                                           \
+    INSTANCE(family, 4, tier, __VA_ARGS__)                                                                           \
+    INSTANCE(family, 8, tier, __VA_ARGS__)                                                                           \
+    INSTANCE(family, 16, tier, __VA_ARGS__)
+
+// The lines that export a family's tier at all six widths; `tier` is the suffix, empty for the default one.
+// A kernel that can have special lanes, and one that finishes every lane itself:
+#define ORVANE_EXPORT(family, tier, ...) ORVANE_AT_ALL_WIDTHS(ORVANE_CALLOUT_INSTANCE, family, tier, __VA_ARGS__)
+#define ORVANE_EXPORT_SETTLED(family, tier, ...)                                                                     \
+    ORVANE_AT_ALL_WIDTHS(ORVANE_SETTLED_INSTANCE, family, tier, __VA_ARGS__)
+
+// Tiers that are one kernel: the same functions under further names, wrappers included.
+#define ORVANE_ALIAS(visible, symbol, of)                                                                            \
+    extern "C" [[gnu::visibility(visible), gnu::alias(#of)]] decltype(of) symbol;
+#define ORVANE_SETTLED_TWIN_INSTANCE(family, W, tier, of_family, of_tier)                                            \
+    ORVANE_ALIAS("default", __orvane_l9_##family##W##tier, __orvane_l9_##of_family##W##of_tier)
+#define ORVANE_TWIN_INSTANCE(family, W, tier, of_family, of_tier)                                                    \
+    ORVANE_SETTLED_TWIN_INSTANCE(family, W, tier, of_family, of_tier)                                                \
+    ORVANE_ALIAS("hidden", __orvane_l9_##family##W##tier##_cout_wrapper,                                             \
+                 __orvane_l9_##of_family##W##of_tier##_cout_wrapper)
+#define ORVANE_TWIN(family, tier, of_family, of_tier)                                                                \
+    ORVANE_AT_ALL_WIDTHS(ORVANE_TWIN_INSTANCE, family, tier, of_family, of_tier)
+#define ORVANE_TWIN_SETTLED(family, tier, of_family, of_tier)                                                        \
+    ORVANE_AT_ALL_WIDTHS(ORVANE_SETTLED_TWIN_INSTANCE, family, tier, of_family, of_tier)
+
+} // namespace orvane

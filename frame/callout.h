@@ -1,0 +1,148 @@
+// The special-lane callout: spill arrays, the mask, and the wrapper that walks it.
+//
+// Slow paths are scalar code without AVX. A wrapper clears the upper vector state before each of them, and since that
+// destroys the upper halves of vector registers 8 to 15, which a register-form call keeps, it saves these eight whole
+// around its calls; the ordinary path pays nothing for them.
+#pragma once
+
+#include "calling.h"
+
+namespace orvane {
+
+struct no_pointer {};
+struct no_mask {};
+
+// The pointer types of a slow path, read off its own declaration; an empty type, which takes no register, stands for
+// those that it does not have.
+template <class F> struct slow_path_type;
+template <class... P> struct slow_path_type<int(P...)> {
+    static constexpr int count = sizeof...(P);
+    template <int I> static auto pointer() {
+        if constexpr (I < count)
+            return std::tuple_element_t<I, std::tuple<P...>>{};
+        else
+            return no_pointer{};
+    }
+};
+template <class K> using slow_path_of = slow_path_type<std::remove_reference_t<decltype(K::slow_path)>>;
+template <class K, int I> using callout_pointer = decltype(slow_path_of<K>::template pointer<I>());
+
+// A family without a vector formula hands every lane over.
+template <class K>
+concept calls_for_all_lanes = requires {
+    requires K::all_lanes;
+};
+template <class K, int W> using callout_mask =
+    std::conditional_t<W == 1 || calls_for_all_lanes<K>, no_mask, uint32_t>;
+
+template <class K, int W> using wrapper_type = void(callout_pointer<K, 0>, callout_pointer<K, 1>,
+                                                    callout_pointer<K, 2>, callout_pointer<K, 3>, callout_mask<K, W>);
+
+// Vector registers 8 to 15, all 256 bits. The compiler leaves them alone in these objects (-ffixed-xmm8 to 15), so
+// they are as the caller left them.
+struct preserved_registers {
+    unsigned char bytes[8 * 32];
+    ORVANE_INLINE void save() {
+        asm volatile("vmovups %%ymm8, 0(%0)\n\tvmovups %%ymm9, 32(%0)\n\t"
+                     "vmovups %%ymm10, 64(%0)\n\tvmovups %%ymm11, 96(%0)\n\t"
+                     "vmovups %%ymm12, 128(%0)\n\tvmovups %%ymm13, 160(%0)\n\t"
+                     "vmovups %%ymm14, 192(%0)\n\tvmovups %%ymm15, 224(%0)"
+                     :
+                     : "r"(bytes)
+                     : "memory");
+    }
+    ORVANE_INLINE void restore() const {
+        asm volatile("vmovups 0(%0), %%ymm8\n\tvmovups 32(%0), %%ymm9\n\t"
+                     "vmovups 64(%0), %%ymm10\n\tvmovups 96(%0), %%ymm11\n\t"
+                     "vmovups 128(%0), %%ymm12\n\tvmovups 160(%0), %%ymm13\n\t"
+                     "vmovups 192(%0), %%ymm14\n\tvmovups 224(%0), %%ymm15"
+                     :
+                     : "r"(bytes)
+                     : "memory");
+    }
+};
+
+// The body of a wrapper: one call of the slow path for each marked lane, in ascending order, each pointer moved on by
+// the lane's number in elements of its own array.
+template <class K, int W, class A, class B, class C, class D, class M>
+ORVANE_INLINE void walk_special_lanes(A a, B b, C c, D d, M mask) {
+    constexpr bool in_memory = layout<typename K::signature, W>::in_memory;
+    auto call = [&](int i) ORVANE_LAMBDA {
+        if constexpr (!in_memory)
+            clear_upper_state();
+        if constexpr (slow_path_of<K>::count == 2)
+            K::slow_path(a + i, b + i);
+        else if constexpr (slow_path_of<K>::count == 3)
+            K::slow_path(a + i, b + i, c + i);
+        else
+            K::slow_path(a + i, b + i, c + i, d + i);
+    };
+    preserved_registers kept;
+    if constexpr (!in_memory)
+        kept.save();
+    if constexpr (calls_for_all_lanes<K>) {
+        for (int i = 0; i < stored(W); i++)
+            call(i);
+    } else if constexpr (W == 1)
+        call(0);
+    else
+        for (; mask; mask &= mask - 1)
+            call(__builtin_ctz(mask));
+    if constexpr (!in_memory)
+        kept.restore();
+}
+
+// Spills a chunk's lanes to their places in the arrays, calls the wrapper and reloads the results. A lane that was
+// not marked keeps the vector path's value.
+template <class K, int W, class Arguments, class R, size_t N, class Wrapper>
+ORVANE_INLINE void call_out(const Arguments& in, R (&r)[N], unsigned mask, Wrapper* wrapper) {
+    using S = typename K::signature;
+    using L = layout<S, W>;
+    constexpr int C = L::chunk, arguments = S::arguments::count;
+    constexpr int results = std::tuple_size_v<R>;
+
+    constexpr int pointers = slow_path_of<K>::count;
+    static_assert(pointers == arguments + results);
+    // One array an argument and one a result, each on a boundary of 64 bytes. An int array has 4-byte lanes.
+    alignas(64) unsigned char array[pointers][(L::widest * stored(W) + 63) / 64 * 64];
+
+    each<L::chunks>([&](auto i) ORVANE_LAMBDA {
+        each<arguments>([&](auto j) ORVANE_LAMBDA {
+            using T = typename S::arguments::template at<j>;
+            store_lanes<T, C>((T*)array[j] + C * i, std::get<j>(in.chunk[i]));
+        });
+        if constexpr (!calls_for_all_lanes<K>)
+            each<results>([&](auto j) ORVANE_LAMBDA {
+                auto y = std::get<j>(r[i]);
+                using T = typename decltype(y)::element;
+                store_lanes<T, C>((T*)array[arguments + j] + C * i, y);
+            });
+    });
+
+    if constexpr (L::in_memory)
+        clear_upper_state();
+    auto pointer = [&](auto j) ORVANE_LAMBDA {
+        if constexpr (j < pointers)
+            return (callout_pointer<K, j>)array[j];
+        else
+            return no_pointer{};
+    };
+    using index = std::make_integer_sequence<int, 4>;
+    [&]<int... J>(std::integer_sequence<int, J...>) ORVANE_LAMBDA {
+        if constexpr (std::is_same_v<callout_mask<K, W>, no_mask>)
+            wrapper(pointer(std::integral_constant<int, J>{})..., no_mask{});
+        else
+            wrapper(pointer(std::integral_constant<int, J>{})..., mask);
+    }
+    (index{});
+
+    each<L::chunks>([&](auto i) ORVANE_LAMBDA {
+        each<results>([&](auto j) ORVANE_LAMBDA {
+            using V = std::tuple_element_t<j, R>;
+            using T = typename V::element;
+            std::get<j>(r[i]) = load_lanes<T, C>((T*)array[arguments + j] + C * i);
+        });
+    });
+}
+
+} // namespace orvane

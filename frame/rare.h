@@ -1,0 +1,44 @@
+// What slow paths are written with: scalar code, one lane a call, in the baseline instruction set.
+//
+// A slow path reads its lane through pointers, stores its result and returns a status code that only a debugger or a
+// test ever sees. There are no fused operations: every product and every sum rounds by itself, in the order written.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+// Declares or defines the slow path of a family; kernels and slow paths share its name and nothing else.
+#define ORVANE_SLOW_PATH(name, ...) extern "C" [[gnu::visibility("hidden")]] int name(__VA_ARGS__)
+// The slow path of another family whose code is the same.
+#define ORVANE_SLOW_PATH_TWIN(name, of) extern "C" [[gnu::visibility("hidden"), gnu::alias(#of)]] decltype(of) name;
+
+// A read-only table that slow paths share, under its name in the symbol table, and further names of the same bytes.
+#define ORVANE_TABLE(type, name, length) extern "C" [[gnu::visibility("hidden")]] const type name[length]
+#define ORVANE_TABLE_TWIN(name, of) extern "C" [[gnu::visibility("hidden"), gnu::alias(#of)]] const decltype(of) name;
+
+namespace orvane {
+
+enum status : int { ordinary = 0, domain_error = 1, pole = 2, overflow = 3, underflow = 4 };
+
+constexpr uint32_t bits(float x) { return std::bit_cast<uint32_t>(x); }
+constexpr uint64_t bits(double x) { return std::bit_cast<uint64_t>(x); }
+constexpr float f32(uint32_t pattern) { return std::bit_cast<float>(pattern); }
+constexpr double f64(uint64_t pattern) { return std::bit_cast<double>(pattern); }
+
+// A power of two, or what else the field stands for, from a biased exponent under its mask.
+constexpr double power_of_two(uint64_t biased) { return f64((biased & 0x7FF) << 52); }
+constexpr float power_of_two_f32(uint32_t biased) { return f32((biased & 0xFF) << 23); }
+
+// Two values whose exact sum stands for one number.
+template <class T> struct hi_lo { T hi, lo; };
+
+// Dekker's split: v = hi + lo exactly, each with at most half of the significand's bits, so that products of such
+// parts are exact without a fused operation.
+template <class T> constexpr T splitter = sizeof(T) == 8 ? T(134217729.0) : T(4097.0); // 2^27 + 1, 2^12 + 1
+template <class T> [[gnu::always_inline]] inline hi_lo<T> split(T v) {
+    const T a = v * splitter<T>;
+    const T h = a - (a - v);
+    return {h, v - h};
+}
+
+} // namespace orvane

@@ -1,0 +1,55 @@
+// Writes every table that follows a rule: write_tables ROOT [FILE...], or checks them: write_tables --check ROOT.
+#include "tables/table.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+using namespace orvane::tables;
+namespace fs = std::filesystem;
+
+int main(int argc, char** argv) {
+    std::vector<std::string> args(argv + 1, argv + argc);
+    const bool check = !args.empty() && args[0] == "--check";
+    if (check)
+        args.erase(args.begin());
+    if (args.empty() || !fs::is_directory(args[0])) {
+        std::cerr << "usage: write_tables [--check] ROOT [TABLE...], with ROOT the root of the sources\n";
+        return 2;
+    }
+    const fs::path root = args[0];
+    const auto tables = all_tables();
+    for (size_t i = 1; i < args.size(); i++)
+        if (std::none_of(tables.begin(), tables.end(), [&](auto& t) { return t.path == args[i]; })) {
+            std::cerr << "no table '" << args[i] << "': one of";
+            for (auto& t : tables)
+                std::cerr << ' ' << t.path;
+            std::cerr << '\n';
+            return 2;
+        }
+    int wrong = 0;
+    for (const auto& t : tables) {
+        if (args.size() > 1 && std::find(args.begin() + 1, args.end(), t.path) == args.end())
+            continue;
+        writer w;
+        t.rule(w);
+        if (check) {
+            std::ifstream in(root / t.path);
+            std::stringstream have;
+            have << in.rdbuf();
+            if (!in || have.str() != w.text)
+                wrong++, std::cout << t.path << ": differs from its rule\n";
+        } else {
+            const fs::path to = root / t.path, part = to.string() + ".part";
+            fs::create_directories(to.parent_path());
+            std::ofstream(part) << w.text;
+            fs::rename(part, to);
+            std::cout << t.path << '\n';
+        }
+    }
+    if (check)
+        std::cout << tables.size() - wrong << " tables follow their rules, " << wrong << " do not\n";
+    return wrong ? 1 : 0;
+}
