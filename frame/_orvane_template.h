@@ -72,12 +72,9 @@ template <class S> struct kernel {
 namespace detail {
 
 template <class A> ORVANE_INLINE auto results_of(const A& a) {
-    if constexpr (requires { a.second; })
-        return std::tuple{a.first, a.second};
-    else if constexpr (requires { a.first; })
-        return std::tuple{a.first};
-    else
-        return std::tuple{a};
+    if constexpr (requires { a.second; }) return std::tuple{a.first, a.second};
+    else if constexpr (requires { a.first; }) return std::tuple{a.first};
+    else return std::tuple{a};
 }
 
 // Whether K has a member of that name, template or not: with a second base that has one too the name is ambiguous.
@@ -163,11 +160,11 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         using first = lanes<typename S::results::template at<0>, C>;
         if constexpr (S::has_out) {
             std::tuple<first, lanes<typename S::out, C>> r[N];
-            call_out<K, W>(x, r, 0, wrapper);
+            call_out<K, W>(x, r, 0, wrapper, out);
             return hand_over<S, W>(r, result_object, out);
         } else {
             std::tuple<first> r[N];
-            call_out<K, W>(x, r, 0, wrapper);
+            call_out<K, W>(x, r, 0, wrapper, out);
             return hand_over<S, W>(r, result_object, out);
         }
     } else {
@@ -175,8 +172,7 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         auto compute = [&](auto i) ORVANE_LAMBDA {
             if constexpr (detail::has_reduce<K>)
                 return on_chunk(i, [&](const auto&... a) ORVANE_LAMBDA { return K::template reduce<C>(a...); });
-            else
-                return on_chunk(i, formula);
+            else return on_chunk(i, formula);
         };
         constexpr std::integral_constant<int, 0> first_chunk;
         decltype(compute(first_chunk)) stage[N];
@@ -197,8 +193,7 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
                         });
                     take_results();
                     const unsigned mask = detail::special_mask<C>(a);
-                    if (!detail::has_settle<K> || mask)
-                        call_out<K, W>(x, r, mask, wrapper);
+                    if (!detail::has_settle<K> || mask) call_out<K, W>(x, r, mask, wrapper, out);
                     return hand_over<S, W>(r, result_object, out);
                 }
             }
@@ -231,8 +226,7 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
             decltype(after(first_chunk)) a[N];
             each<N>([&](auto i) ORVANE_LAMBDA { a[i] = after(i); });
             return finish(a);
-        } else
-            return finish(stage);
+        } else return finish(stage);
     }
 }
 

@@ -61,8 +61,7 @@ template <class S, int W> struct layout {
     static constexpr bool in_memory = totals<arguments>::registers(W) > 4 || totals<results>::registers(W) > 4;
     static constexpr int widest = [] {
         bool long_out = false;
-        if constexpr (S::has_out)
-            long_out = sizeof(out) == 8;
+        if constexpr (S::has_out) long_out = sizeof(out) == 8;
         return long_out || totals<arguments>::widest == 8 || totals<results>::widest == 8 ? 8 : 4;
     }();
     static constexpr int chunk = W < 32 / widest ? W : 32 / widest; // lanes of one chunk
@@ -76,52 +75,36 @@ template <class S, int W> struct layout {
 template <int W, class T> ORVANE_INLINE lanes<T, W> admit(lanes<T, W> x, T spare) {
     using V = lanes<T, W>;
     if constexpr (W == 3) {
-        if constexpr (sizeof(T) == 4)
-            return (typename V::raw)_mm_blend_ps((__m128)x.v, (__m128)V(spare).v, 8);
-        else
-            return (typename V::raw)_mm256_blend_pd((__m256d)x.v, (__m256d)V(spare).v, 8);
-    } else if constexpr (W == 1 && sizeof(T) == 4)
-        return (typename V::raw)_mm_broadcastss_ps((__m128)x.v);
-    else if constexpr (W * sizeof(T) == 8)
-        return (typename V::raw)_mm_movedup_pd((__m128d)x.v);
-    else
-        return x;
+        if constexpr (sizeof(T) == 4) return (typename V::raw)_mm_blend_ps((__m128)x.v, (__m128)V(spare).v, 8);
+        else return (typename V::raw)_mm256_blend_pd((__m256d)x.v, (__m256d)V(spare).v, 8);
+    } else if constexpr (W == 1 && sizeof(T) == 4) return (typename V::raw)_mm_broadcastss_ps((__m128)x.v);
+    else if constexpr (W * sizeof(T) == 8) return (typename V::raw)_mm_movedup_pd((__m128d)x.v);
+    else return x;
 }
 
 // The low or high part of a 256-bit register, or all of it, as `lanes<T, W>`.
 template <class T, int W> ORVANE_INLINE lanes<T, W> part(__m256 reg, [[maybe_unused]] int half) {
     using V = lanes<T, W>;
-    if constexpr (V::is_wide)
-        return (typename V::raw)reg;
-    else if (half)
-        return (typename V::raw)_mm256_extractf128_ps(reg, 1);
-    else
-        return (typename V::raw)_mm256_castps256_ps128(reg);
+    if constexpr (V::is_wide) return (typename V::raw)reg;
+    else if (half) return (typename V::raw)_mm256_extractf128_ps(reg, 1);
+    else return (typename V::raw)_mm256_castps256_ps128(reg);
 }
 
 // Exactly the lanes of one chunk, from or to memory of any alignment.
 template <class T, int W> ORVANE_INLINE lanes<T, W> load_lanes(const void* at) {
     using raw = typename lanes<T, W>::raw;
     constexpr int bytes = sizeof(T) * stored(W);
-    if constexpr (bytes == 32)
-        return (raw)_mm256_loadu_si256((const __m256i_u*)at);
-    else if constexpr (bytes == 16)
-        return (raw)_mm_loadu_si128((const __m128i_u*)at);
-    else if constexpr (bytes == 8)
-        return (raw)_mm_loadu_si64(at);
-    else
-        return (raw)_mm_loadu_si32(at);
+    if constexpr (bytes == 32) return (raw)_mm256_loadu_si256((const __m256i_u*)at);
+    else if constexpr (bytes == 16) return (raw)_mm_loadu_si128((const __m128i_u*)at);
+    else if constexpr (bytes == 8) return (raw)_mm_loadu_si64(at);
+    else return (raw)_mm_loadu_si32(at);
 }
 template <class T, int W> ORVANE_INLINE void store_lanes(void* at, lanes<T, W> x) {
     constexpr int bytes = sizeof(T) * stored(W);
-    if constexpr (bytes == 32)
-        _mm256_storeu_si256((__m256i_u*)at, (__m256i)x.v);
-    else if constexpr (bytes == 16)
-        _mm_storeu_si128((__m128i_u*)at, (__m128i)x.v);
-    else if constexpr (bytes == 8)
-        _mm_storeu_si64(at, (__m128i)x.v);
-    else
-        _mm_storeu_si32(at, (__m128i)x.v);
+    if constexpr (bytes == 32) _mm256_storeu_si256((__m256i_u*)at, (__m256i)x.v);
+    else if constexpr (bytes == 16) _mm_storeu_si128((__m128i_u*)at, (__m128i)x.v);
+    else if constexpr (bytes == 8) _mm_storeu_si64(at, (__m128i)x.v);
+    else _mm_storeu_si32(at, (__m128i)x.v);
 }
 
 // The first parameter of the memory form beside its pointers: all arguments, by value, on the stack.
@@ -151,8 +134,7 @@ template <class S, int W> struct incoming {
                              (int(sizeof(typename arguments::template at<K>) * stored(W)) + ... + 0)};
         }
         (std::make_integer_sequence<int, J>{});
-        if constexpr (L::in_memory)
-            return load_lanes<T, C>(stack + before.second + sizeof(T) * C * I);
+        if constexpr (L::in_memory) return load_lanes<T, C>(stack + before.second + sizeof(T) * C * I);
         else if constexpr (L::template in_integer_register<T>) {
             // Integer registers count by themselves: with a floating first argument n is in the first of them.
             constexpr int n = is_floating<typename arguments::template at<0>> ? J - 1 : J;
@@ -227,11 +209,9 @@ ORVANE_INLINE entry_result<S, W> hand_over(const R (&r)[N], void* result_object,
     } else if constexpr (L::integer_result) {
         using T = typename results::template at<0>;
         uint64_t value = (uint_of<T>)std::get<0>(r[0]).v[0];
-        if constexpr (results::count == 2)
-            value |= uint64_t((uint32_t)std::get<1>(r[0]).v[0]) << 32;
+        if constexpr (results::count == 2) value |= uint64_t((uint32_t)std::get<1>(r[0]).v[0]) << 32;
         // These have no vector result and integer arguments alone: the one case where the register form clears.
-        if constexpr (!is_floating<typename S::arguments::template at<0>>)
-            clear_upper_halves_0_to_7();
+        if constexpr (!is_floating<typename S::arguments::template at<0>>) clear_upper_halves_0_to_7();
         return value;
     } else {
         __m256 registers[4];
@@ -241,8 +221,7 @@ ORVANE_INLINE entry_result<S, W> hand_over(const R (&r)[N], void* result_object,
             using V = lanes<T, C>;
             if constexpr (V::is_wide)
                 each<L::chunks>([&](auto i) ORVANE_LAMBDA { registers[n++] = (__m256)std::get<j>(r[i]).v; });
-            else if constexpr (L::chunks == 1)
-                registers[n++] = _mm256_castps128_ps256((__m128)std::get<j>(r[0]).v);
+            else if constexpr (L::chunks == 1) registers[n++] = _mm256_castps128_ps256((__m128)std::get<j>(r[0]).v);
             else
                 each<L::chunks / 2>([&](auto i) ORVANE_LAMBDA {
                     registers[n++] = (__m256)join(std::get<j>(r[2 * i]), std::get<j>(r[2 * i + 1])).v;

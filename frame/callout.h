@@ -18,10 +18,8 @@ template <class F> struct slow_path_type;
 template <class... P> struct slow_path_type<int(P...)> {
     static constexpr int count = sizeof...(P);
     template <int I> static auto pointer() {
-        if constexpr (I < count)
-            return std::tuple_element_t<I, std::tuple<P...>>{};
-        else
-            return no_pointer{};
+        if constexpr (I < count) return std::tuple_element_t<I, std::tuple<P...>>{};
+        else return no_pointer{};
     }
 };
 template <class K> using slow_path_of = slow_path_type<std::remove_reference_t<decltype(K::slow_path)>>;
@@ -68,34 +66,37 @@ template <class K, int W, class A, class B, class C, class D, class M>
 ORVANE_INLINE void walk_special_lanes(A a, B b, C c, D d, M mask) {
     constexpr bool in_memory = layout<typename K::signature, W>::in_memory;
     auto call = [&](int i) ORVANE_LAMBDA {
-        if constexpr (!in_memory)
-            clear_upper_state();
-        if constexpr (slow_path_of<K>::count == 2)
-            K::slow_path(a + i, b + i);
-        else if constexpr (slow_path_of<K>::count == 3)
-            K::slow_path(a + i, b + i, c + i);
-        else
-            K::slow_path(a + i, b + i, c + i, d + i);
+        if constexpr (!in_memory) clear_upper_state();
+        if constexpr (slow_path_of<K>::count == 2) K::slow_path(a + i, b + i);
+        else if constexpr (slow_path_of<K>::count == 3) K::slow_path(a + i, b + i, c + i);
+        else K::slow_path(a + i, b + i, c + i, d + i);
     };
     preserved_registers kept;
-    if constexpr (!in_memory)
-        kept.save();
+    if constexpr (!in_memory) kept.save();
     if constexpr (calls_for_all_lanes<K>) {
         for (int i = 0; i < stored(W); i++)
             call(i);
-    } else if constexpr (W == 1)
-        call(0);
+    } else if constexpr (W == 1) call(0);
     else
         for (; mask; mask &= mask - 1)
             call(__builtin_ctz(mask));
-    if constexpr (!in_memory)
-        kept.restore();
+    if constexpr (!in_memory) kept.restore();
 }
 
-// Spills a chunk's lanes to their places in the arrays, calls the wrapper and reloads the results. A lane that was
-// not marked keeps the vector path's value.
-template <class K, int W, class Arguments, class R, size_t N, class Wrapper>
-ORVANE_INLINE void call_out(const Arguments& in, R (&r)[N], unsigned mask, Wrapper* wrapper) {
+// The two integer argument registers, which a register-form call keeps. The compiler never uses them by itself
+// (-ffixed-rdi, -ffixed-rsi), so only the arguments of the wrapper change them.
+struct argument_registers {
+    uint64_t rdi, rsi;
+    ORVANE_INLINE void save() { asm volatile("mov %%rdi, %0\n\tmov %%rsi, %1" : "=m"(rdi), "=m"(rsi) : : "memory"); }
+    ORVANE_INLINE void restore() const {
+        asm volatile("mov %0, %%rdi\n\tmov %1, %%rsi" : : "m"(rdi), "m"(rsi) : "memory");
+    }
+};
+
+// Spills the lanes to their arrays, calls the wrapper and reloads the results. A lane that was not marked keeps the
+// vector path's value. `out` comes back out of the saved registers, so that it need not outlive the call elsewhere.
+template <class K, int W, class Arguments, class R, size_t N, class Wrapper> ORVANE_INLINE void
+call_out(const Arguments& in, R (&r)[N], unsigned mask, Wrapper* wrapper, [[maybe_unused]] void*& out) {
     using S = typename K::signature;
     using L = layout<S, W>;
     constexpr int C = L::chunk, arguments = S::arguments::count;
@@ -119,22 +120,24 @@ ORVANE_INLINE void call_out(const Arguments& in, R (&r)[N], unsigned mask, Wrapp
             });
     });
 
-    if constexpr (L::in_memory)
-        clear_upper_state();
+    [[maybe_unused]] argument_registers kept;
+    if constexpr (L::in_memory) clear_upper_state();
+    else kept.save();
     auto pointer = [&](auto j) ORVANE_LAMBDA {
-        if constexpr (j < pointers)
-            return (callout_pointer<K, j>)array[j];
-        else
-            return no_pointer{};
+        if constexpr (j < pointers) return (callout_pointer<K, j>)array[j];
+        else return no_pointer{};
     };
     using index = std::make_integer_sequence<int, 4>;
     [&]<int... J>(std::integer_sequence<int, J...>) ORVANE_LAMBDA {
         if constexpr (std::is_same_v<callout_mask<K, W>, no_mask>)
             wrapper(pointer(std::integral_constant<int, J>{})..., no_mask{});
-        else
-            wrapper(pointer(std::integral_constant<int, J>{})..., mask);
+        else wrapper(pointer(std::integral_constant<int, J>{})..., mask);
     }
     (index{});
+    if constexpr (!L::in_memory) {
+        kept.restore();
+        if constexpr (S::has_out) out = (void*)kept.rdi;
+    }
 
     each<L::chunks>([&](auto i) ORVANE_LAMBDA {
         each<results>([&](auto j) ORVANE_LAMBDA {

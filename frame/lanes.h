@@ -106,53 +106,33 @@ template <class T, int W> struct lanes {
 
     // Bit operations; on floating lanes they act on the patterns.
     friend ORVANE_INLINE lanes operator&(lanes a, lanes b) {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return _mm256_and_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, float>)
-            return _mm_and_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double> && is_wide)
-            return _mm256_and_pd(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double>)
-            return _mm_and_pd(a.v, b.v);
-        else
-            return a.v & b.v;
+        if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_and_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, float>) return _mm_and_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double> && is_wide) return _mm256_and_pd(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double>) return _mm_and_pd(a.v, b.v);
+        else return a.v & b.v;
     }
     friend ORVANE_INLINE lanes operator|(lanes a, lanes b) {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return _mm256_or_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, float>)
-            return _mm_or_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double> && is_wide)
-            return _mm256_or_pd(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double>)
-            return _mm_or_pd(a.v, b.v);
-        else
-            return a.v | b.v;
+        if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_or_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, float>) return _mm_or_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double> && is_wide) return _mm256_or_pd(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double>) return _mm_or_pd(a.v, b.v);
+        else return a.v | b.v;
     }
     friend ORVANE_INLINE lanes operator^(lanes a, lanes b) {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return _mm256_xor_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, float>)
-            return _mm_xor_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double> && is_wide)
-            return _mm256_xor_pd(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double>)
-            return _mm_xor_pd(a.v, b.v);
-        else
-            return a.v ^ b.v;
+        if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_xor_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, float>) return _mm_xor_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double> && is_wide) return _mm256_xor_pd(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double>) return _mm_xor_pd(a.v, b.v);
+        else return a.v ^ b.v;
     }
     // b with the bits of a taken out: NOT a AND b.
     friend ORVANE_INLINE lanes andnot(lanes a, lanes b) {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return _mm256_andnot_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, float>)
-            return _mm_andnot_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double> && is_wide)
-            return _mm256_andnot_pd(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double>)
-            return _mm_andnot_pd(a.v, b.v);
-        else
-            return ~a.v & b.v;
+        if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_andnot_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, float>) return _mm_andnot_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double> && is_wide) return _mm256_andnot_pd(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double>) return _mm_andnot_pd(a.v, b.v);
+        else return ~a.v & b.v;
     }
     friend ORVANE_INLINE lanes operator~(lanes a) requires(!is_floating<T>) { return ~a.v; }
 
@@ -161,63 +141,43 @@ template <class T, int W> struct lanes {
     friend ORVANE_INLINE lanes operator>>(lanes a, int n) requires(!is_floating<T>) { return a.v >> (T)n; }
     // A count at or above the lane's width gives 0 (the processor's rule), where a built-in shift is undefined.
     friend ORVANE_INLINE lanes shift_left(lanes a, lanes n) requires(!is_floating<T>) {
-        if constexpr (sizeof(T) == 4 && is_wide)
-            return from(_mm256_sllv_epi32((__m256i)a.v, (__m256i)n.v));
-        else if constexpr (sizeof(T) == 4)
-            return from(_mm_sllv_epi32((__m128i)a.v, (__m128i)n.v));
-        else if constexpr (is_wide)
-            return from(_mm256_sllv_epi64((__m256i)a.v, (__m256i)n.v));
-        else
-            return from(_mm_sllv_epi64((__m128i)a.v, (__m128i)n.v));
+        if constexpr (sizeof(T) == 4 && is_wide) return from(_mm256_sllv_epi32((__m256i)a.v, (__m256i)n.v));
+        else if constexpr (sizeof(T) == 4) return from(_mm_sllv_epi32((__m128i)a.v, (__m128i)n.v));
+        else if constexpr (is_wide) return from(_mm256_sllv_epi64((__m256i)a.v, (__m256i)n.v));
+        else return from(_mm_sllv_epi64((__m128i)a.v, (__m128i)n.v));
     }
     friend ORVANE_INLINE lanes shift_right_logical(lanes a, lanes n) requires(!is_floating<T>) {
-        if constexpr (sizeof(T) == 4 && is_wide)
-            return from(_mm256_srlv_epi32((__m256i)a.v, (__m256i)n.v));
-        else if constexpr (sizeof(T) == 4)
-            return from(_mm_srlv_epi32((__m128i)a.v, (__m128i)n.v));
-        else if constexpr (is_wide)
-            return from(_mm256_srlv_epi64((__m256i)a.v, (__m256i)n.v));
-        else
-            return from(_mm_srlv_epi64((__m128i)a.v, (__m128i)n.v));
+        if constexpr (sizeof(T) == 4 && is_wide) return from(_mm256_srlv_epi32((__m256i)a.v, (__m256i)n.v));
+        else if constexpr (sizeof(T) == 4) return from(_mm_srlv_epi32((__m128i)a.v, (__m128i)n.v));
+        else if constexpr (is_wide) return from(_mm256_srlv_epi64((__m256i)a.v, (__m256i)n.v));
+        else return from(_mm_srlv_epi64((__m128i)a.v, (__m128i)n.v));
     }
 
     // Comparisons give a lane of ones or of zeros.
     template <comparison P> static ORVANE_INLINE mask compare(lanes a, lanes b) requires is_floating<T> {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return (typename mask::raw)_mm256_cmp_ps(a.v, b.v, P);
-        else if constexpr (std::is_same_v<T, float>)
-            return (typename mask::raw)_mm_cmp_ps(a.v, b.v, P);
-        else if constexpr (is_wide)
-            return (typename mask::raw)_mm256_cmp_pd(a.v, b.v, P);
-        else
-            return (typename mask::raw)_mm_cmp_pd(a.v, b.v, P);
+        if constexpr (std::is_same_v<T, float> && is_wide) return (typename mask::raw)_mm256_cmp_ps(a.v, b.v, P);
+        else if constexpr (std::is_same_v<T, float>) return (typename mask::raw)_mm_cmp_ps(a.v, b.v, P);
+        else if constexpr (is_wide) return (typename mask::raw)_mm256_cmp_pd(a.v, b.v, P);
+        else return (typename mask::raw)_mm_cmp_pd(a.v, b.v, P);
     }
     friend ORVANE_INLINE mask operator<(lanes a, lanes b) {
-        if constexpr (is_floating<T>)
-            return compare<LT>(a, b);
-        else
-            return mask((typename mask::raw)(a.v < b.v));
+        if constexpr (is_floating<T>) return compare<LT>(a, b);
+        else return mask((typename mask::raw)(a.v < b.v));
     }
     friend ORVANE_INLINE mask operator<=(lanes a, lanes b) {
-        if constexpr (is_floating<T>)
-            return compare<LE>(a, b);
-        else
-            return mask((typename mask::raw)(a.v <= b.v));
+        if constexpr (is_floating<T>) return compare<LE>(a, b);
+        else return mask((typename mask::raw)(a.v <= b.v));
     }
     friend ORVANE_INLINE mask operator>(lanes a, lanes b) { return b < a; }
     friend ORVANE_INLINE mask operator>=(lanes a, lanes b) { return b <= a; }
     friend ORVANE_INLINE mask operator==(lanes a, lanes b) {
-        if constexpr (is_floating<T>)
-            return compare<EQ>(a, b);
-        else
-            return mask((typename mask::raw)(a.v == b.v));
+        if constexpr (is_floating<T>) return compare<EQ>(a, b);
+        else return mask((typename mask::raw)(a.v == b.v));
     }
     // For floating lanes also true of an unordered pair.
     friend ORVANE_INLINE mask operator!=(lanes a, lanes b) {
-        if constexpr (is_floating<T>)
-            return compare<NEQ>(a, b);
-        else
-            return mask((typename mask::raw)(a.v != b.v));
+        if constexpr (is_floating<T>) return compare<NEQ>(a, b);
+        else return mask((typename mask::raw)(a.v != b.v));
     }
     // The negated comparisons, true of a NaN.
     friend ORVANE_INLINE mask not_less(lanes a, lanes b) requires is_floating<T> { return compare<NLT>(a, b); }
@@ -232,28 +192,20 @@ template <class T, int W> struct lanes {
 
     // a where the sign bit of m is set, else b.
     friend ORVANE_INLINE lanes select(mask m, lanes a, lanes b) {
-        if constexpr (sizeof(T) == 4 && is_wide)
-            return (raw)_mm256_blendv_ps((__m256)b.v, (__m256)a.v, (__m256)m.v);
-        else if constexpr (sizeof(T) == 4)
-            return (raw)_mm_blendv_ps((__m128)b.v, (__m128)a.v, (__m128)m.v);
-        else if constexpr (is_wide)
-            return (raw)_mm256_blendv_pd((__m256d)b.v, (__m256d)a.v, (__m256d)m.v);
-        else
-            return (raw)_mm_blendv_pd((__m128d)b.v, (__m128d)a.v, (__m128d)m.v);
+        if constexpr (sizeof(T) == 4 && is_wide) return (raw)_mm256_blendv_ps((__m256)b.v, (__m256)a.v, (__m256)m.v);
+        else if constexpr (sizeof(T) == 4) return (raw)_mm_blendv_ps((__m128)b.v, (__m128)a.v, (__m128)m.v);
+        else if constexpr (is_wide) return (raw)_mm256_blendv_pd((__m256d)b.v, (__m256d)a.v, (__m256d)m.v);
+        else return (raw)_mm_blendv_pd((__m128d)b.v, (__m128d)a.v, (__m128d)m.v);
     }
     // a where m is all ones, else +0: an AND.
     friend ORVANE_INLINE lanes keep(mask m, lanes a) { return lanes((raw)m.v) & a; }
 
     // a * b + c with one rounding.
     friend ORVANE_INLINE lanes fma(lanes a, lanes b, lanes c) requires is_floating<T> {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return _mm256_fmadd_ps(a.v, b.v, c.v);
-        else if constexpr (std::is_same_v<T, float>)
-            return _mm_fmadd_ps(a.v, b.v, c.v);
-        else if constexpr (is_wide)
-            return _mm256_fmadd_pd(a.v, b.v, c.v);
-        else
-            return _mm_fmadd_pd(a.v, b.v, c.v);
+        if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_fmadd_ps(a.v, b.v, c.v);
+        else if constexpr (std::is_same_v<T, float>) return _mm_fmadd_ps(a.v, b.v, c.v);
+        else if constexpr (is_wide) return _mm256_fmadd_pd(a.v, b.v, c.v);
+        else return _mm_fmadd_pd(a.v, b.v, c.v);
     }
 
     // -a * b + c with one rounding. Written out, since the compiler turns the sign of an a that serves twice in an
@@ -261,84 +213,57 @@ template <class T, int W> struct lanes {
     friend ORVANE_INLINE lanes fma(negated<lanes> a, lanes b, lanes c) requires is_floating<T> {
         if constexpr (std::is_same_v<T, float>)
             asm("vfnmadd231ps %2, %1, %0" : "+x"(c.v) : "x"(a.value.v), "xm"(b.v));
-        else
-            asm("vfnmadd231pd %2, %1, %0" : "+x"(c.v) : "x"(a.value.v), "xm"(b.v));
+        else asm("vfnmadd231pd %2, %1, %0" : "+x"(c.v) : "x"(a.value.v), "xm"(b.v));
         return c;
     }
 
     friend ORVANE_INLINE lanes sqrt(lanes a) requires is_floating<T> {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return _mm256_sqrt_ps(a.v);
-        else if constexpr (std::is_same_v<T, float>)
-            return _mm_sqrt_ps(a.v);
-        else if constexpr (is_wide)
-            return _mm256_sqrt_pd(a.v);
-        else
-            return _mm_sqrt_pd(a.v);
+        if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_sqrt_ps(a.v);
+        else if constexpr (std::is_same_v<T, float>) return _mm_sqrt_ps(a.v);
+        else if constexpr (is_wide) return _mm256_sqrt_pd(a.v);
+        else return _mm_sqrt_pd(a.v);
     }
     // The processor's 12-bit estimates of 1 / a and 1 / sqrt(a); their low bits differ between processors.
     friend ORVANE_INLINE lanes reciprocal_estimate(lanes a) requires std::is_same_v<T, float> {
-        if constexpr (is_wide)
-            return _mm256_rcp_ps(a.v);
-        else
-            return _mm_rcp_ps(a.v);
+        if constexpr (is_wide) return _mm256_rcp_ps(a.v);
+        else return _mm_rcp_ps(a.v);
     }
     friend ORVANE_INLINE lanes rsqrt_estimate(lanes a) requires std::is_same_v<T, float> {
-        if constexpr (is_wide)
-            return _mm256_rsqrt_ps(a.v);
-        else
-            return _mm_rsqrt_ps(a.v);
+        if constexpr (is_wide) return _mm256_rsqrt_ps(a.v);
+        else return _mm_rsqrt_ps(a.v);
     }
 
     // Floating lanes: a if a < b (a > b), else b, so that b is the answer on a tie and on a NaN.
     friend ORVANE_INLINE lanes min(lanes a, lanes b) {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return _mm256_min_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, float>)
-            return _mm_min_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double> && is_wide)
-            return _mm256_min_pd(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double>)
-            return _mm_min_pd(a.v, b.v);
-        else
-            return a.v < b.v ? a.v : b.v;
+        if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_min_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, float>) return _mm_min_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double> && is_wide) return _mm256_min_pd(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double>) return _mm_min_pd(a.v, b.v);
+        else return a.v < b.v ? a.v : b.v;
     }
     friend ORVANE_INLINE lanes max(lanes a, lanes b) {
-        if constexpr (std::is_same_v<T, float> && is_wide)
-            return _mm256_max_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, float>)
-            return _mm_max_ps(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double> && is_wide)
-            return _mm256_max_pd(a.v, b.v);
-        else if constexpr (std::is_same_v<T, double>)
-            return _mm_max_pd(a.v, b.v);
-        else
-            return a.v > b.v ? a.v : b.v;
+        if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_max_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, float>) return _mm_max_ps(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double> && is_wide) return _mm256_max_pd(a.v, b.v);
+        else if constexpr (std::is_same_v<T, double>) return _mm_max_pd(a.v, b.v);
+        else return a.v > b.v ? a.v : b.v;
     }
 
     // The product of the low 32 bits of each 64-bit lane, exact in 64 bits.
     friend ORVANE_INLINE lanes multiply_low_words(lanes a, lanes b) requires(sizeof(T) == 8 && !is_floating<T>) {
-        if constexpr (std::is_signed_v<T> && is_wide)
-            return from(_mm256_mul_epi32((__m256i)a.v, (__m256i)b.v));
-        else if constexpr (std::is_signed_v<T>)
-            return from(_mm_mul_epi32((__m128i)a.v, (__m128i)b.v));
-        else if constexpr (is_wide)
-            return from(_mm256_mul_epu32((__m256i)a.v, (__m256i)b.v));
-        else
-            return from(_mm_mul_epu32((__m128i)a.v, (__m128i)b.v));
+        if constexpr (std::is_signed_v<T> && is_wide) return from(_mm256_mul_epi32((__m256i)a.v, (__m256i)b.v));
+        else if constexpr (std::is_signed_v<T>) return from(_mm_mul_epi32((__m128i)a.v, (__m128i)b.v));
+        else if constexpr (is_wide) return from(_mm256_mul_epu32((__m256i)a.v, (__m256i)b.v));
+        else return from(_mm_mul_epu32((__m128i)a.v, (__m128i)b.v));
     }
 
     // Bit i is the sign of lane i; bits at and above W are 0. At W = 3 the spare lane has no bit.
     friend ORVANE_INLINE unsigned sign_mask(lanes a) {
         unsigned m;
-        if constexpr (sizeof(T) == 4 && is_wide)
-            m = (unsigned)_mm256_movemask_ps((__m256)a.v);
-        else if constexpr (sizeof(T) == 4)
-            m = (unsigned)_mm_movemask_ps((__m128)a.v);
-        else if constexpr (is_wide)
-            m = (unsigned)_mm256_movemask_pd((__m256d)a.v);
-        else
-            m = (unsigned)_mm_movemask_pd((__m128d)a.v);
+        if constexpr (sizeof(T) == 4 && is_wide) m = (unsigned)_mm256_movemask_ps((__m256)a.v);
+        else if constexpr (sizeof(T) == 4) m = (unsigned)_mm_movemask_ps((__m128)a.v);
+        else if constexpr (is_wide) m = (unsigned)_mm256_movemask_pd((__m256d)a.v);
+        else m = (unsigned)_mm_movemask_pd((__m128d)a.v);
         return W == capacity ? m : m & ((1u << W) - 1);
     }
     friend ORVANE_INLINE bool any(lanes a) { return sign_mask(a) != 0; }
@@ -347,14 +272,10 @@ template <class T, int W> struct lanes {
 // The rounding instruction with its mode in the immediate.
 template <rounding R, class T, int W> ORVANE_INLINE lanes<T, W> round_to(lanes<T, W> a) {
     constexpr bool wide = lanes<T, W>::is_wide;
-    if constexpr (std::is_same_v<T, float> && wide)
-        return _mm256_round_ps(a.v, R);
-    else if constexpr (std::is_same_v<T, float>)
-        return _mm_round_ps(a.v, R);
-    else if constexpr (wide)
-        return _mm256_round_pd(a.v, R);
-    else
-        return _mm_round_pd(a.v, R);
+    if constexpr (std::is_same_v<T, float> && wide) return _mm256_round_ps(a.v, R);
+    else if constexpr (std::is_same_v<T, float>) return _mm_round_ps(a.v, R);
+    else if constexpr (wide) return _mm256_round_pd(a.v, R);
+    else return _mm_round_pd(a.v, R);
 }
 
 // The same bits under another type of the same size.
@@ -389,51 +310,34 @@ template <class U, bool Truncating, class T, int W> ORVANE_INLINE lanes<U, W> co
     constexpr bool from_f32 = std::is_same_v<T, float>, from_f64 = std::is_same_v<T, double>;
     constexpr bool to_i32 = std::is_same_v<U, int32_t>;
     if constexpr (from_i32 && std::is_same_v<U, float>) {
-        if constexpr (wide)
-            return _mm256_cvtepi32_ps((__m256i)a.v);
-        else
-            return _mm_cvtepi32_ps((__m128i)a.v);
+        if constexpr (wide) return _mm256_cvtepi32_ps((__m256i)a.v);
+        else return _mm_cvtepi32_ps((__m128i)a.v);
     } else if constexpr (from_i32 && std::is_same_v<U, double>) {
-        if constexpr (wide)
-            return _mm256_cvtepi32_pd((__m128i)a.v);
-        else
-            return _mm_cvtepi32_pd((__m128i)a.v);
+        if constexpr (wide) return _mm256_cvtepi32_pd((__m128i)a.v);
+        else return _mm_cvtepi32_pd((__m128i)a.v);
     } else if constexpr (from_f32 && std::is_same_v<U, double>) {
-        if constexpr (wide)
-            return _mm256_cvtps_pd(a.v);
-        else
-            return _mm_cvtps_pd(a.v);
+        if constexpr (wide) return _mm256_cvtps_pd(a.v);
+        else return _mm_cvtps_pd(a.v);
     } else if constexpr (from_f64 && std::is_same_v<U, float>) {
-        if constexpr (wide)
-            return _mm256_cvtpd_ps(a.v);
-        else
-            return _mm_cvtpd_ps(a.v);
+        if constexpr (wide) return _mm256_cvtpd_ps(a.v);
+        else return _mm_cvtpd_ps(a.v);
     } else if constexpr (from_f32 && to_i32) {
-        if constexpr (wide)
-            return (to)(Truncating ? _mm256_cvttps_epi32(a.v) : _mm256_cvtps_epi32(a.v));
-        else
-            return (to)(Truncating ? _mm_cvttps_epi32(a.v) : _mm_cvtps_epi32(a.v));
+        if constexpr (wide) return (to)(Truncating ? _mm256_cvttps_epi32(a.v) : _mm256_cvtps_epi32(a.v));
+        else return (to)(Truncating ? _mm_cvttps_epi32(a.v) : _mm_cvtps_epi32(a.v));
     } else if constexpr (from_f64 && to_i32) {
-        if constexpr (wide)
-            return (to)(Truncating ? _mm256_cvttpd_epi32(a.v) : _mm256_cvtpd_epi32(a.v));
-        else
-            return (to)(Truncating ? _mm_cvttpd_epi32(a.v) : _mm_cvtpd_epi32(a.v));
+        if constexpr (wide) return (to)(Truncating ? _mm256_cvttpd_epi32(a.v) : _mm256_cvtpd_epi32(a.v));
+        else return (to)(Truncating ? _mm_cvttpd_epi32(a.v) : _mm_cvtpd_epi32(a.v));
     } else if constexpr ((from_i32 || from_u32) && sizeof(U) == 8 && !is_floating<U>) {
-        if constexpr (from_i32 && wide)
-            return (to)_mm256_cvtepi32_epi64((__m128i)a.v);
-        else if constexpr (from_i32)
-            return (to)_mm_cvtepi32_epi64((__m128i)a.v);
-        else if constexpr (wide)
-            return (to)_mm256_cvtepu32_epi64((__m128i)a.v);
-        else
-            return (to)_mm_cvtepu32_epi64((__m128i)a.v);
+        if constexpr (from_i32 && wide) return (to)_mm256_cvtepi32_epi64((__m128i)a.v);
+        else if constexpr (from_i32) return (to)_mm_cvtepi32_epi64((__m128i)a.v);
+        else if constexpr (wide) return (to)_mm256_cvtepu32_epi64((__m128i)a.v);
+        else return (to)_mm_cvtepu32_epi64((__m128i)a.v);
     } else {
         static_assert(sizeof(T) == 8 && sizeof(U) == 4 && !is_floating<T> && !is_floating<U>, "no such conversion");
         if constexpr (wide)
             return (to)_mm_shuffle_ps((__m128)_mm256_castsi256_si128((__m256i)a.v),
                                       (__m128)_mm256_extracti128_si256((__m256i)a.v, 1), 0x88);
-        else
-            return (to)_mm_shuffle_epi32((__m128i)a.v, 0x88);
+        else return (to)_mm_shuffle_epi32((__m128i)a.v, 0x88);
     }
 }
 } // namespace detail
@@ -454,8 +358,7 @@ template <class T, int W> ORVANE_INLINE lanes<uint32_t, W> high_words(lanes<T, W
     if constexpr (lanes<T, W>::is_wide)
         return (to)_mm_shuffle_ps((__m128)_mm256_castsi256_si128((__m256i)a.v),
                                   (__m128)_mm256_extracti128_si256((__m256i)a.v, 1), 0xDD);
-    else
-        return (to)_mm_shuffle_epi32((__m128i)a.v, 0xDD);
+    else return (to)_mm_shuffle_epi32((__m128i)a.v, 0xDD);
 }
 // 64-bit lanes seen as twice as many 32-bit ones, words in memory order, for operations that work on words in place.
 template <class U, class T, int W> ORVANE_INLINE auto words_in_place(lanes<T, W> a) {
@@ -467,23 +370,19 @@ template <class U, class T, int W> ORVANE_INLINE auto words_in_place(lanes<T, W>
 // f on operands whose 32-bit lanes must be widened to 64 bits: at W = 8 f runs on each half and the results are
 // joined; at the lower widths it runs once.
 template <class F, class A, int W, class... B> ORVANE_INLINE auto by_halves(F f, lanes<A, W> a, lanes<B, W>... b) {
-    if constexpr (W == 8)
-        return join(f(low_half(a), low_half(b)...), f(high_half(a), high_half(b)...));
-    else
-        return f(a, b...);
+    if constexpr (W == 8) return join(f(low_half(a), low_half(b)...), f(high_half(a), high_half(b)...));
+    else return f(a, b...);
 }
 
 // Table lookups from memory, a scalar load a live lane, assembled in a register; the index counts entries.
 namespace detail {
 template <class T, int W, class Entry> ORVANE_INLINE lanes<T, W> assemble(Entry entry) {
     using V = lanes<T, W>;
-    if constexpr (W == 1)
-        return V(entry(0));
+    if constexpr (W == 1) return V(entry(0));
     else if constexpr (W == 2 && V::capacity == 4) {
         T e0 = entry(0), e1 = entry(1);
         return typename V::raw{e0, e1, e0, e1};
-    } else
-        return [&]<int... I>(std::integer_sequence<int, I...>) ORVANE_LAMBDA {
+    } else return [&]<int... I>(std::integer_sequence<int, I...>) ORVANE_LAMBDA {
             return V(typename V::raw{entry(I)...});
         }
     (std::make_integer_sequence<int, V::capacity>{});
@@ -507,8 +406,7 @@ template <class T, int W> struct lane_pair { lanes<T, W> first, second; };
 template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(const void* base, lanes<I, W> offset) {
     using V = lanes<T, W>;
     auto at = [&](int i) ORVANE_LAMBDA { return (const char*)base + offset.v[i]; };
-    if constexpr (W == 1)
-        return {V(detail::load<T>(at(0))), V(detail::load<T>(at(0) + sizeof(T)))};
+    if constexpr (W == 1) return {V(detail::load<T>(at(0))), V(detail::load<T>(at(0) + sizeof(T)))};
     else if constexpr (sizeof(T) == 8) {
         auto pair = [&](int i) ORVANE_LAMBDA { return _mm_loadu_pd((const double*)at(i)); };
         __m128d p0 = pair(0), p1 = pair(1);

@@ -1,8 +1,8 @@
 // Constant blocks: read-only objects of 64-byte slots that kernels read by name.
 //
 // A block is a struct whose members are declared by SLOT, ENTRIES, ARRAY and GAP, each with the slot number it must
-// have; the compiler refuses a block in which a member lies elsewhere. A member stands for a lane vector of any width:
-// a replicated constant is one load at any width, since the slot holds it in every lane.
+// have; the compiler refuses a block in which a member lies elsewhere. A member stands for a lane vector of any
+// width: a replicated constant is one load at any width, since the slot holds it in every lane.
 #pragma once
 
 #include "lanes.h"
@@ -24,17 +24,19 @@ template <class T, int E> struct alignas(slot_bytes) slot {
     template <class... B> consteval slot(B... patterns) {
         static_assert(sizeof...(B) == E && count % E == 0);
         const uint_of<T> entries[] = {uint_of<T>(patterns)...};
-        for (int i = 0; i < count; i++) lane[i] = from_bits<T>(entries[i % E]);
+        for (int i = 0; i < count; i++)
+            lane[i] = from_bits<T>(entries[i % E]);
     }
 
     // Any lane vector of this lane size: the value itself or its bits as an integer.
-    template <class U, int W> requires (sizeof(U) == sizeof(T)) ORVANE_INLINE operator lanes<U, W>() const {
+    template <class U, int W>
+    requires(sizeof(U) == sizeof(T)) ORVANE_INLINE operator lanes<U, W>() const {
         return *(const typename lanes<U, W>::raw*)lane;
     }
 };
 
-// In-register lookup: entry (index mod E) of a table of E entries that repeats over its slot. The control is the lane's
-// own low bits; what stands above them is not looked at, so a sum's pattern may be used as it is.
+// In-register lookup: entry (index mod E) of a table of E entries that repeats over its slot. The control is the
+// lane's own low bits; what stands above them is not looked at, so a sum's pattern may be used as it is.
 template <class T, int E, class I, int W>
 ORVANE_INLINE lanes<T, W> permute(const slot<T, E>& table, lanes<I, W> index) {
     using V = lanes<T, W>;
@@ -64,43 +66,43 @@ template <int First, int Last> struct alignas(slot_bytes) gap {
     unsigned char unread[(Last - First + 1) * slot_bytes] = {};
 };
 
-// Where chunk I of a kernel reads its block from: the address, in a register. The compiler may not look through it, so
-// that every constant is read from its slot and not from a copy in a pool of the compiler's own; and each chunk has its
-// own, so that a constant serves as a memory operand in each of them instead of being kept (and spilled) in between.
+// Where chunk I of a kernel reads its block from: the address, in a register. The compiler may not look through it,
+// so that every constant is read from its slot and not from a copy in a pool of the compiler's own; and each chunk
+// has its own, so that a constant serves as a memory operand in each of them instead of being kept (and spilled) in
+// between.
 template <int I, class B> ORVANE_INLINE const B& base_of(const B& block) {
     const B* base = &block;
     asm("" : "+r"(base) : "i"(I));
     return *base;
 }
 
-#define ORVANE_PLACED(byte_offset, name)                                                                              \
-    void name##_is_in_place() const {                                                                                 \
-        static_assert(offsetof(std::remove_cvref_t<decltype(*this)>, name) == (byte_offset));                         \
+#define ORVANE_PLACED(byte_offset, name)                                                                             \
+    void name##_is_in_place() const {                                                                                \
+        static_assert(offsetof(std::remove_cvref_t<decltype(*this)>, name) == (byte_offset));                        \
     }
 
 // A constant replicated over slot `number`, from its bits.
-#define SLOT(T, number, name, ...)                                                                                    \
-    ::orvane::slot<T, 1> name{__VA_ARGS__};                                                                           \
+#define SLOT(T, number, name, ...)                                                                                   \
+    ::orvane::slot<T, 1> name{__VA_ARGS__};                                                                          \
     ORVANE_PLACED(64 * (number), name)
 
 // A table of `entries` values repeated over slot `number`, indexed by an in-register permute.
-#define ENTRIES(T, number, entries, name, ...)                                                                        \
-    ::orvane::slot<T, entries> name{__VA_ARGS__};                                                                     \
+#define ENTRIES(T, number, entries, name, ...)                                                                       \
+    ::orvane::slot<T, entries> name{__VA_ARGS__};                                                                    \
     ORVANE_PLACED(64 * (number), name)
 
 // A table of T in memory, from byte `offset` of the block; the rest is its initializer.
-#define ARRAY(T, offset, length, name, ...)                                                                           \
-    T name[length] = __VA_ARGS__;                                                                                     \
+#define ARRAY(T, offset, length, name, ...)                                                                          \
+    T name[length] = __VA_ARGS__;                                                                                    \
     ORVANE_PLACED(offset, name)
 
 // Slots first to last, which nothing reads.
 #define GAP(first, last) ::orvane::gap<first, last> unread_from_##first;
 
 // A block's object under its name in the symbol table, and other names of the same bytes.
-#define ORVANE_BLOCK(type, name)                                                                                      \
-    extern "C" [[gnu::visibility("hidden")]] const type name;                                              \
+#define ORVANE_BLOCK(type, name)                                                                                     \
+    extern "C" [[gnu::visibility("hidden")]] const type name;                                                        \
     constexpr type name{};
-#define ORVANE_BLOCK_TWIN(name, of)                                                                                   \
-    extern "C" [[gnu::visibility("hidden"), gnu::alias(#of)]] const decltype(of) name;
+#define ORVANE_BLOCK_TWIN(name, of) extern "C" [[gnu::visibility("hidden"), gnu::alias(#of)]] const decltype(of) name;
 
 } // namespace orvane

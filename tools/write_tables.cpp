@@ -13,8 +13,7 @@ namespace fs = std::filesystem;
 int main(int argc, char** argv) {
     std::vector<std::string> args(argv + 1, argv + argc);
     const bool check = !args.empty() && args[0] == "--check";
-    if (check)
-        args.erase(args.begin());
+    if (check) args.erase(args.begin());
     if (args.empty() || !fs::is_directory(args[0])) {
         std::cerr << "usage: write_tables [--check] ROOT [TABLE...], with ROOT the root of the sources\n";
         return 2;
@@ -31,16 +30,14 @@ int main(int argc, char** argv) {
         }
     int wrong = 0;
     for (const auto& t : tables) {
-        if (args.size() > 1 && std::find(args.begin() + 1, args.end(), t.path) == args.end())
-            continue;
+        if (args.size() > 1 && std::find(args.begin() + 1, args.end(), t.path) == args.end()) continue;
         writer w;
         t.rule(w);
         if (check) {
             std::ifstream in(root / t.path);
             std::stringstream have;
             have << in.rdbuf();
-            if (!in || have.str() != w.text)
-                wrong++, std::cout << t.path << ": differs from its rule\n";
+            if (!in || have.str() != w.text) wrong++, std::cout << t.path << ": differs from its rule\n";
         } else {
             const fs::path to = root / t.path, part = to.string() + ".part";
             fs::create_directories(to.parent_path());
@@ -49,7 +46,6 @@ int main(int argc, char** argv) {
             std::cout << t.path << '\n';
         }
     }
-    if (check)
-        std::cout << tables.size() - wrong << " tables follow their rules, " << wrong << " do not\n";
+    if (check) std::cout << tables.size() - wrong << " tables follow their rules, " << wrong << " do not\n";
     return wrong ? 1 : 0;
 }

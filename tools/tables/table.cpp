@@ -72,8 +72,7 @@ void writer::f32(float x) {
     text += s;
 }
 void writer::end_row() {
-    if (!text.empty() && text.back() == ' ')
-        text.back() = '\n';
+    if (!text.empty() && text.back() == ' ') text.back() = '\n';
 }
 
 std::vector<table> all_tables() {
