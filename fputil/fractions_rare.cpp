@@ -1,0 +1,42 @@
+// The slow paths of fract and modf: zeros (of fract alone), infinities and NaN.
+#include "frame/rare.h"
+
+namespace orvane {
+
+namespace {
+
+template <class T> bool is_infinite(T v) { return v == T(__builtin_inf()) || v == -T(__builtin_inf()); }
+template <class T> T zero_with_sign_of(T v) { return __builtin_copysign(0.0, v); }
+
+// A NaN goes on as it came, a signalling one too: the bits are copied and no operation touches them.
+template <class T> int fract_rare(const T* x, T* result, T* out) {
+    const bool infinite = is_infinite(*x);
+    __builtin_memcpy(out, x, sizeof(T));
+    __builtin_memcpy(result, x, sizeof(T));
+    if (infinite) *result = zero_with_sign_of(*x);
+    return ordinary;
+}
+
+template <class T> int modf_rare(const T* x, T* result, T* out) {
+    const T v = *x;
+    *result = is_infinite(v) ? zero_with_sign_of(v) : v + v;
+    *out = v + v; // an infinity stays, a NaN is quieted
+    return ordinary;
+}
+
+} // namespace
+
+ORVANE_SLOW_PATH(__orvane_dfract_cout_rare, const double* x, double* result, double* out) {
+    return fract_rare(x, result, out);
+}
+ORVANE_SLOW_PATH(__orvane_sfract_cout_rare, const float* x, float* result, float* out) {
+    return fract_rare(x, result, out);
+}
+ORVANE_SLOW_PATH(__orvane_dmodf_cout_rare, const double* x, double* result, double* out) {
+    return modf_rare(x, result, out);
+}
+ORVANE_SLOW_PATH(__orvane_smodf_cout_rare, const float* x, float* result, float* out) {
+    return modf_rare(x, result, out);
+}
+
+} // namespace orvane

@@ -1,0 +1,30 @@
+// The raw-register caller: a call in which every register is as the caller of this function says, and nothing that
+// the called code leaves is lost. Written in assembly (raw_call.S), since no calling convention of a compiler gives
+// it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace orvane {
+
+// Integer registers by their number in the instruction set, without rsp (4), which the call sets.
+enum gpr { rax, rcx, rdx, rbx, rsp, rbp, rsi, rdi, r8, r9, r10, r11, r12, r13, r14, r15 };
+
+struct alignas(32) machine_state {
+    unsigned char vector[16][32]; // vector registers, all 256 bits
+    uint64_t integer[16];         // integer registers; [rsp]: at entry of the called code, after it: at return
+    uint64_t flags;               // only stored
+    uint32_t mxcsr;
+    uint16_t x87_control, x87_tag; // the tag word is only stored: 0xFFFF is an empty register stack
+};
+
+// Calls `function` with the registers of `in` and a copy of `stack_bytes` bytes of arguments at its stack pointer +
+// 8, and stores what it finds at the return in `out`. The stack pointer at the call instruction is a multiple of 64
+// plus `residue` (0, 16, 32 or 48). Below the stack pointer 512 bytes are filled with a pattern of their own
+// beforehand.
+extern "C" void orvane_raw_call(const void* function, const machine_state* in, machine_state* out, const void* stack,
+                                size_t stack_bytes, size_t residue);
+
+} // namespace orvane
