@@ -3,6 +3,7 @@
 #     check.sh SOURCES BUILD SCRATCH
 set -euo pipefail
 sources=$1 build=$2 scratch=$3
+export CMAKE_GENERATOR=Ninja
 rm -rf "$scratch"
 mkdir -p "$scratch"
 log=$scratch/log
