@@ -91,10 +91,10 @@ template <int I, class B> ORVANE_INLINE const B& base_of(const B& block) {
     ::orvane::slot<T, entries> name{__VA_ARGS__};                                                                    \
     ORVANE_PLACED(64 * (number), name)
 
-// A table in memory, from byte `offset` of the block: a copy of a constexpr object, which may serve other blocks too.
-#define TABLE(byte_offset, name, ...)                                                                                \
-    std::remove_const_t<decltype(__VA_ARGS__)> name = __VA_ARGS__;                                                   \
-    ORVANE_PLACED(byte_offset, name)
+// A table in memory, from slot `number` on: a copy of a constexpr object, which may serve other blocks too.
+#define TABLE(number, name, ...)                                                                                     \
+    alignas(::orvane::slot_bytes) std::remove_const_t<decltype(__VA_ARGS__)> name = __VA_ARGS__;                     \
+    ORVANE_PLACED(64 * (number), name)
 
 // Slots first to last, which nothing reads.
 #define GAP(first, last) ::orvane::gap<first, last> unread_from_##first;

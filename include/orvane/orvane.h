@@ -29,6 +29,32 @@ typedef int64_t orvane_long4 __attribute__((vector_size(32), aligned(8)));
 typedef uint64_t orvane_ulong2 __attribute__((vector_size(16), aligned(8)));
 typedef uint64_t orvane_ulong4 __attribute__((vector_size(32), aligned(8)));
 
+/* exp: e to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp1(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4(orvane_double4 x);
+extern const char __orvane_l9_exp8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_rm(orvane_double4 x);
+extern const char __orvane_l9_exp8_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp16_rm[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_native(orvane_double4 x);
+extern const char __orvane_l9_exp8_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp16_native[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_half(orvane_double4 x);
+extern const char __orvane_l9_exp8_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp16_half[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
 /* expf: e to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
 orvane_float4 __orvane_l9_expf1(orvane_float4 x);
 orvane_float4 __orvane_l9_expf2(orvane_float4 x);
@@ -54,6 +80,310 @@ orvane_float4 __orvane_l9_expf3_half(orvane_float4 x);
 orvane_float4 __orvane_l9_expf4_half(orvane_float4 x);
 orvane_float8 __orvane_l9_expf8_half(orvane_float8 x);
 extern const char __orvane_l9_expf16_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+
+/* exp2: 2 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp21(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24(orvane_double4 x);
+extern const char __orvane_l9_exp28[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp216[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_rm(orvane_double4 x);
+extern const char __orvane_l9_exp28_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp216_rm[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_native(orvane_double4 x);
+extern const char __orvane_l9_exp28_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp216_native[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_half(orvane_double4 x);
+extern const char __orvane_l9_exp28_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp216_half[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* exp2f: 2 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_float4 __orvane_l9_exp2f1(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8(orvane_float8 x);
+extern const char __orvane_l9_exp2f16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_rm(orvane_float8 x);
+extern const char __orvane_l9_exp2f16_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_native(orvane_float8 x);
+extern const char __orvane_l9_exp2f16_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_half(orvane_float8 x);
+extern const char __orvane_l9_exp2f16_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+
+/* exp10: 10 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp101(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104(orvane_double4 x);
+extern const char __orvane_l9_exp108[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp1016[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_rm(orvane_double4 x);
+extern const char __orvane_l9_exp108_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp1016_rm[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_native(orvane_double4 x);
+extern const char __orvane_l9_exp108_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp1016_native[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_half(orvane_double4 x);
+extern const char __orvane_l9_exp108_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_exp1016_half[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* exp10f: 10 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_float4 __orvane_l9_exp10f1(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8(orvane_float8 x);
+extern const char __orvane_l9_exp10f16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_rm(orvane_float8 x);
+extern const char __orvane_l9_exp10f16_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_native(orvane_float8 x);
+extern const char __orvane_l9_exp10f16_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_half(orvane_float8 x);
+extern const char __orvane_l9_exp10f16_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+
+/* expm1: e to the power x, minus 1, without cancellation near 0. -1 of -Inf; zeros come back as they are. */
+orvane_double2 __orvane_l9_expm11(orvane_double2 x);
+orvane_double2 __orvane_l9_expm12(orvane_double2 x);
+orvane_double4 __orvane_l9_expm13(orvane_double4 x);
+orvane_double4 __orvane_l9_expm14(orvane_double4 x);
+extern const char __orvane_l9_expm18[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_expm116[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_expm11_native(orvane_double2 x);
+orvane_double2 __orvane_l9_expm12_native(orvane_double2 x);
+orvane_double4 __orvane_l9_expm13_native(orvane_double4 x);
+orvane_double4 __orvane_l9_expm14_native(orvane_double4 x);
+extern const char __orvane_l9_expm18_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_expm116_native[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* expm1f: e to the power x, minus 1, without cancellation near 0. -1 of -Inf; zeros come back as they are. */
+orvane_float4 __orvane_l9_expm1f1(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f2(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f3(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f4(orvane_float4 x);
+orvane_float8 __orvane_l9_expm1f8(orvane_float8 x);
+extern const char __orvane_l9_expm1f16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_expm1f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_expm1f8_native(orvane_float8 x);
+extern const char __orvane_l9_expm1f16_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+
+/* log: Natural logarithm. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_double2 __orvane_l9_log1(orvane_double2 x);
+orvane_double2 __orvane_l9_log2(orvane_double2 x);
+orvane_double4 __orvane_l9_log3(orvane_double4 x);
+orvane_double4 __orvane_l9_log4(orvane_double4 x);
+extern const char __orvane_l9_log8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_log2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_log3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_log4_rm(orvane_double4 x);
+extern const char __orvane_l9_log8_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log16_rm[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_log2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_log3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_log4_native(orvane_double4 x);
+extern const char __orvane_l9_log8_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log16_native[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_log2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_log3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_log4_half(orvane_double4 x);
+extern const char __orvane_l9_log8_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log16_half[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* logf: Natural logarithm. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_float4 __orvane_l9_logf1(orvane_float4 x);
+orvane_float4 __orvane_l9_logf2(orvane_float4 x);
+orvane_float4 __orvane_l9_logf3(orvane_float4 x);
+orvane_float4 __orvane_l9_logf4(orvane_float4 x);
+orvane_float8 __orvane_l9_logf8(orvane_float8 x);
+extern const char __orvane_l9_logf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_logf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_logf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_logf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_logf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_logf8_rm(orvane_float8 x);
+extern const char __orvane_l9_logf16_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_logf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_logf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_logf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_logf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_logf8_native(orvane_float8 x);
+extern const char __orvane_l9_logf16_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_logf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_logf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_logf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_logf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_logf8_half(orvane_float8 x);
+extern const char __orvane_l9_logf16_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+
+/* log2: Logarithm to base 2. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_double2 __orvane_l9_log21(orvane_double2 x);
+orvane_double2 __orvane_l9_log22(orvane_double2 x);
+orvane_double4 __orvane_l9_log23(orvane_double4 x);
+orvane_double4 __orvane_l9_log24(orvane_double4 x);
+extern const char __orvane_l9_log28[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log216[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log21_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_log22_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_log23_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_log24_rm(orvane_double4 x);
+extern const char __orvane_l9_log28_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log216_rm[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log21_native(orvane_double2 x);
+orvane_double2 __orvane_l9_log22_native(orvane_double2 x);
+orvane_double4 __orvane_l9_log23_native(orvane_double4 x);
+orvane_double4 __orvane_l9_log24_native(orvane_double4 x);
+extern const char __orvane_l9_log28_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log216_native[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log21_half(orvane_double2 x);
+orvane_double2 __orvane_l9_log22_half(orvane_double2 x);
+orvane_double4 __orvane_l9_log23_half(orvane_double4 x);
+orvane_double4 __orvane_l9_log24_half(orvane_double4 x);
+extern const char __orvane_l9_log28_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log216_half[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* log2f: Logarithm to base 2. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_float4 __orvane_l9_log2f1(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f2(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f3(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f4(orvane_float4 x);
+orvane_float8 __orvane_l9_log2f8(orvane_float8 x);
+extern const char __orvane_l9_log2f16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log2f1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_log2f8_rm(orvane_float8 x);
+extern const char __orvane_l9_log2f16_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log2f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_log2f8_native(orvane_float8 x);
+extern const char __orvane_l9_log2f16_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log2f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_log2f8_half(orvane_float8 x);
+extern const char __orvane_l9_log2f16_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+
+/* log10: Logarithm to base 10. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_double2 __orvane_l9_log101(orvane_double2 x);
+orvane_double2 __orvane_l9_log102(orvane_double2 x);
+orvane_double4 __orvane_l9_log103(orvane_double4 x);
+orvane_double4 __orvane_l9_log104(orvane_double4 x);
+extern const char __orvane_l9_log108[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log1016[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log101_native(orvane_double2 x);
+orvane_double2 __orvane_l9_log102_native(orvane_double2 x);
+orvane_double4 __orvane_l9_log103_native(orvane_double4 x);
+orvane_double4 __orvane_l9_log104_native(orvane_double4 x);
+extern const char __orvane_l9_log108_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log1016_native[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log101_half(orvane_double2 x);
+orvane_double2 __orvane_l9_log102_half(orvane_double2 x);
+orvane_double4 __orvane_l9_log103_half(orvane_double4 x);
+orvane_double4 __orvane_l9_log104_half(orvane_double4 x);
+extern const char __orvane_l9_log108_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log1016_half[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* log10f: Logarithm to base 10. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_float4 __orvane_l9_log10f1(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f2(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f3(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f4(orvane_float4 x);
+orvane_float8 __orvane_l9_log10f8(orvane_float8 x);
+extern const char __orvane_l9_log10f16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log10f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_log10f8_native(orvane_float8 x);
+extern const char __orvane_l9_log10f16_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log10f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_log10f8_half(orvane_float8 x);
+extern const char __orvane_l9_log10f16_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+
+/* log1p: Natural logarithm of 1 + x, accurate near 0. -Inf of -1, NaN below. */
+orvane_double2 __orvane_l9_log1p1(orvane_double2 x);
+orvane_double2 __orvane_l9_log1p2(orvane_double2 x);
+orvane_double4 __orvane_l9_log1p3(orvane_double4 x);
+orvane_double4 __orvane_l9_log1p4(orvane_double4 x);
+extern const char __orvane_l9_log1p8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log1p16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log1p1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_log1p2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_log1p3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_log1p4_native(orvane_double4 x);
+extern const char __orvane_l9_log1p8_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+extern const char __orvane_l9_log1p16_native[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* log1pf: Natural logarithm of 1 + x, accurate near 0. -Inf of -1, NaN below. */
+orvane_float4 __orvane_l9_log1pf1(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf2(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf3(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf4(orvane_float4 x);
+orvane_float8 __orvane_l9_log1pf8(orvane_float8 x);
+extern const char __orvane_l9_log1pf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log1pf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
+extern const char __orvane_l9_log1pf16_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
 
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
