@@ -1,0 +1,27 @@
+// What a family is held against: SLEEF's function of the same meaning, and scalar code with libm.
+#pragma once
+
+#include "bench/pass.h"
+
+#include <optional>
+
+namespace orvane::bench {
+
+struct peer {
+    const char* name; // "u10": within 1.0 ulp; "-" where SLEEF states no error
+    pass run;
+};
+
+struct family_peers {
+    std::optional<peer> accurate; // SLEEF, the most accurate one
+    std::optional<peer> fast;     // SLEEF, the one of lower accuracy where it has two
+    pass scalar;                  // empty: nothing to compare with
+    // The first result of the argument lanes in long double, to measure errors by; empty where the lanes are
+    // integers.
+    std::function<void(buffer&, long double* results)> truth;
+};
+
+// The peers of the family of `row`; all empty if it has none.
+family_peers peers_of(const kernel_row& row);
+
+} // namespace orvane::bench
