@@ -124,12 +124,10 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
     incoming<S, W> came;
     came.integer[0] = i0;
     came.integer[1] = i1;
-    void* result_object = nullptr;
-    void* out = (void*)i0;
+    objects where = {nullptr, (void*)i0};
     if constexpr (L::in_memory) {
         came.stack = v0.bytes;
-        result_object = (void*)i0;
-        out = (void*)i1;
+        where = {(void*)i0, (void*)i1};
     } else {
         came.vector[0] = v0;
         came.vector[1] = v1;
@@ -137,22 +135,35 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         came.vector[3] = v3;
     }
 
-    // Spare lane and copy-up, chunk by chunk.
-    auto admit_chunk = [&](auto i) ORVANE_LAMBDA {
+    // Spare lane and copy-up, chunk by chunk. Arguments on the stack are loaded where a chunk needs them, and once
+    // more for the callout, instead of being kept in registers in between: `again` tells the compiler's eyes the
+    // loads apart.
+    auto admit_chunk = [&](const incoming<S, W>& from, auto i) ORVANE_LAMBDA {
         return [&]<int... J>(std::integer_sequence<int, J...>) ORVANE_LAMBDA {
             return std::tuple{
-                admit<C>(came.template chunk<J, i>(), (typename S::arguments::template at<J>)K::spare)...};
+                admit<C>(from.template chunk<J, i>(), (typename S::arguments::template at<J>)K::spare)...};
         }
         (std::make_integer_sequence<int, S::arguments::count>{});
     };
-    struct {
-        decltype(admit_chunk(std::integral_constant<int, 0>{})) chunk[N];
-    } x;
-    each<N>([&](auto i) ORVANE_LAMBDA { x.chunk[i] = admit_chunk(i); });
+    constexpr std::integral_constant<int, 0> first_chunk;
+    decltype(admit_chunk(came, first_chunk)) x[N];
+    if constexpr (!L::in_memory) each<N>([&](auto i) ORVANE_LAMBDA { x[i] = admit_chunk(came, i); });
+    auto arguments_of = [&](auto i, auto again) ORVANE_LAMBDA {
+        if constexpr (L::in_memory) {
+            incoming<S, W> from = came;
+            asm("" : "+r"(from.stack) : "i"(i + N * again));
+            return admit_chunk(from, i);
+        } else return x[i];
+    };
+    constexpr std::integral_constant<int, 0> at_first;
+    constexpr std::integral_constant<int, 1> for_callout;
 
     auto on_chunk = [&](auto i, auto f, const auto&... more) ORVANE_LAMBDA {
         return std::apply([&](const auto&... a) ORVANE_LAMBDA { return f(base_of<i>(K::block), a..., more...); },
-                          x.chunk[i]);
+                          arguments_of(i, at_first));
+    };
+    auto callout = [&](auto& r, unsigned mask) ORVANE_LAMBDA {
+        call_out<K, W>([&](auto i) ORVANE_LAMBDA { return arguments_of(i, for_callout); }, r, mask, wrapper, where);
     };
 
     if constexpr (calls_for_all_lanes<K>) {
@@ -160,12 +171,12 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         using first = lanes<typename S::results::template at<0>, C>;
         if constexpr (S::has_out) {
             std::tuple<first, lanes<typename S::out, C>> r[N];
-            call_out<K, W>(x, r, 0, wrapper, out);
-            return hand_over<S, W>(r, result_object, out);
+            callout(r, 0);
+            return hand_over<S, W>(r, where.result, where.out);
         } else {
             std::tuple<first> r[N];
-            call_out<K, W>(x, r, 0, wrapper, out);
-            return hand_over<S, W>(r, result_object, out);
+            callout(r, 0);
+            return hand_over<S, W>(r, where.result, where.out);
         }
     } else {
         auto formula = [&](const auto&... a) ORVANE_LAMBDA { return K::template vector_path<C>(a...); };
@@ -174,7 +185,6 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
                 return on_chunk(i, [&](const auto&... a) ORVANE_LAMBDA { return K::template reduce<C>(a...); });
             else return on_chunk(i, formula);
         };
-        constexpr std::integral_constant<int, 0> first_chunk;
         decltype(compute(first_chunk)) stage[N];
         each<N>([&](auto i) ORVANE_LAMBDA { stage[i] = compute(i); });
 
@@ -193,12 +203,12 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
                         });
                     take_results();
                     const unsigned mask = detail::special_mask<C>(a);
-                    if (!detail::has_settle<K> || mask) call_out<K, W>(x, r, mask, wrapper, out);
-                    return hand_over<S, W>(r, result_object, out);
+                    if (!detail::has_settle<K> || mask) callout(r, mask);
+                    return hand_over<S, W>(r, where.result, where.out);
                 }
             }
             take_results();
-            return hand_over<S, W>(r, result_object, out);
+            return hand_over<S, W>(r, where.result, where.out);
         };
 
         if constexpr (detail::has_large_path<K>) {
@@ -214,7 +224,7 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
             }
             decltype(detail::results_of(stage[0])) r[N];
             each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(stage[i]); });
-            return hand_over<S, W>(r, result_object, out);
+            return hand_over<S, W>(r, where.result, where.out);
         } else if constexpr (detail::has_reduce<K>) {
             if (__builtin_expect(detail::any_special(stage), 0))
                 each<N>([&](auto i) ORVANE_LAMBDA {

@@ -103,8 +103,8 @@ template <class T, int W> ORVANE_INLINE void store_lanes(void* at, lanes<T, W> x
     constexpr int bytes = sizeof(T) * stored(W);
     if constexpr (bytes == 32) _mm256_storeu_si256((__m256i_u*)at, (__m256i)x.v);
     else if constexpr (bytes == 16) _mm_storeu_si128((__m128i_u*)at, (__m128i)x.v);
-    else if constexpr (bytes == 8) _mm_storeu_si64(at, (__m128i)x.v);
-    else _mm_storeu_si32(at, (__m128i)x.v);
+    else if constexpr (bytes == 8) _mm_storeu_si64(at, (__m128i)detail::in_register(x.v));
+    else _mm_storeu_si32(at, (__m128i)detail::in_register(x.v));
 }
 
 // The first parameter of the memory form beside its pointers: all arguments, by value, on the stack.
@@ -138,7 +138,7 @@ template <class S, int W> struct incoming {
         else if constexpr (L::template in_integer_register<T>) {
             // Integer registers count by themselves: with a floating first argument n is in the first of them.
             constexpr int n = is_floating<typename arguments::template at<0>> ? J - 1 : J;
-            return lanes<T, C>(T(integer[n]));
+            return lanes<T, C>((typename lanes<T, C>::raw)_mm_cvtsi64_si128((long long)integer[n]));
         } else {
             constexpr int byte = sizeof(T) * C * I;
             return part<T, C>(vector[before.first + byte / 32], byte % 32 / 16);
@@ -210,6 +210,7 @@ ORVANE_INLINE entry_result<S, W> hand_over(const R (&r)[N], void* result_object,
         using T = typename results::template at<0>;
         uint64_t value = (uint_of<T>)std::get<0>(r[0]).v[0];
         if constexpr (results::count == 2) value |= uint64_t((uint32_t)std::get<1>(r[0]).v[0]) << 32;
+        asm("" : "+r"(value)); // out of the vector registers before they are cleared
         // These have no vector result and integer arguments alone: the one case where the register form clears.
         if constexpr (!is_floating<typename S::arguments::template at<0>>) clear_upper_halves_0_to_7();
         return value;

@@ -93,10 +93,16 @@ struct argument_registers {
     }
 };
 
+// Where results go that do not travel in registers.
+struct objects {
+    void *result, *out;
+};
+
 // Spills the lanes to their arrays, calls the wrapper and reloads the results. A lane that was not marked keeps the
-// vector path's value. `out` comes back out of the saved registers, so that it need not outlive the call elsewhere.
+// vector path's value. The pointers come back out of the saved registers, so that they need not outlive the call
+// elsewhere.
 template <class K, int W, class Arguments, class R, size_t N, class Wrapper> ORVANE_INLINE void
-call_out(const Arguments& in, R (&r)[N], unsigned mask, Wrapper* wrapper, [[maybe_unused]] void*& out) {
+call_out(const Arguments& arguments_of, R (&r)[N], unsigned mask, Wrapper* wrapper, objects& pointers_in) {
     using S = typename K::signature;
     using L = layout<S, W>;
     constexpr int C = L::chunk, arguments = S::arguments::count;
@@ -108,9 +114,10 @@ call_out(const Arguments& in, R (&r)[N], unsigned mask, Wrapper* wrapper, [[mayb
     alignas(64) unsigned char array[pointers][(L::widest * stored(W) + 63) / 64 * 64];
 
     each<L::chunks>([&](auto i) ORVANE_LAMBDA {
+        const auto x = arguments_of(i);
         each<arguments>([&](auto j) ORVANE_LAMBDA {
             using T = typename S::arguments::template at<j>;
-            store_lanes<T, C>((T*)array[j] + C * i, std::get<j>(in.chunk[i]));
+            store_lanes<T, C>((T*)array[j] + C * i, std::get<j>(x));
         });
         if constexpr (!calls_for_all_lanes<K>)
             each<results>([&](auto j) ORVANE_LAMBDA {
@@ -120,9 +127,9 @@ call_out(const Arguments& in, R (&r)[N], unsigned mask, Wrapper* wrapper, [[mayb
             });
     });
 
-    [[maybe_unused]] argument_registers kept;
+    argument_registers kept;
+    kept.save();
     if constexpr (L::in_memory) clear_upper_state();
-    else kept.save();
     auto pointer = [&](auto j) ORVANE_LAMBDA {
         if constexpr (j < pointers) return (callout_pointer<K, j>)array[j];
         else return no_pointer{};
@@ -134,9 +141,10 @@ call_out(const Arguments& in, R (&r)[N], unsigned mask, Wrapper* wrapper, [[mayb
         else wrapper(pointer(std::integral_constant<int, J>{})..., mask);
     }
     (index{});
-    if constexpr (!L::in_memory) {
+    if constexpr (L::in_memory) pointers_in = {(void*)kept.rdi, (void*)kept.rsi};
+    else {
         kept.restore();
-        if constexpr (S::has_out) out = (void*)kept.rdi;
+        if constexpr (S::has_out) pointers_in.out = (void*)kept.rdi;
     }
 
     each<L::chunks>([&](auto i) ORVANE_LAMBDA {

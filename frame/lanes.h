@@ -86,6 +86,12 @@ template <class T, int W> struct lanes {
     raw v;
 
     lanes() = default;
+    // Copies go by the register and not by the object, which the compiler would at times leave in memory.
+    ORVANE_INLINE lanes(const lanes& o) : v(o.v) {}
+    ORVANE_INLINE lanes& operator=(const lanes& o) {
+        v = o.v;
+        return *this;
+    }
     ORVANE_INLINE lanes(raw r) : v(r) {}
     ORVANE_INLINE lanes(T x) : v(repeat(x, std::make_integer_sequence<int, capacity>{})) {}
 
@@ -387,6 +393,12 @@ template <class T, int W, class Entry> ORVANE_INLINE lanes<T, W> assemble(Entry 
         }
     (std::make_integer_sequence<int, V::capacity>{});
 }
+// A register whose elements are taken one by one. The compiler must see it whole: elements taken out of a variable
+// keep that variable in memory.
+template <class R> ORVANE_INLINE R in_register(R r) {
+    asm("" : "+x"(r));
+    return r;
+}
 template <class T> ORVANE_INLINE T load(const void* at) {
     T x;
     __builtin_memcpy(&x, at, sizeof x);
@@ -394,18 +406,20 @@ template <class T> ORVANE_INLINE T load(const void* at) {
 }
 } // namespace detail
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup(const T* table, lanes<I, W> index) {
-    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return table[index.v[i]]; });
+    const auto at = detail::in_register(index.v);
+    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return table[at[i]]; });
 }
 // The same at byte offsets from a base, for indices that come scaled out of the bits of a sum.
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup_bytes(const void* base, lanes<I, W> offset) {
-    return detail::assemble<T, W>([&](int i)
-                                      ORVANE_LAMBDA { return detail::load<T>((const char*)base + offset.v[i]); });
+    const auto at = detail::in_register(offset.v);
+    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return detail::load<T>((const char*)base + at[i]); });
 }
 // Pairs (first, second) that stand side by side: one load of both a lane.
 template <class T, int W> struct lane_pair { lanes<T, W> first, second; };
 template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(const void* base, lanes<I, W> offset) {
     using V = lanes<T, W>;
-    auto at = [&](int i) ORVANE_LAMBDA { return (const char*)base + offset.v[i]; };
+    const auto offsets = detail::in_register(offset.v);
+    auto at = [&](int i) ORVANE_LAMBDA { return (const char*)base + offsets[i]; };
     if constexpr (W == 1) return {V(detail::load<T>(at(0))), V(detail::load<T>(at(0) + sizeof(T)))};
     else if constexpr (sizeof(T) == 8) {
         auto pair = [&](int i) ORVANE_LAMBDA { return _mm_loadu_pd((const double*)at(i)); };

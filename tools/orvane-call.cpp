@@ -1,0 +1,474 @@
+// orvane-call: evaluates an export of the library from a shell.
+//
+//     orvane-call expf8_half 1 2 nan 0x42b17217 -inf 1e-40 88.7 0
+//     orvane-call powf2 2,3 4,0.5                  the arguments of a lane joined by commas
+//     orvane-call exp4 -i numbers.txt -o out.txt   lanes from a file (- is standard input), any number of them
+//     orvane-call --raw remquo4                    for programs: hexadecimal words in and out, a lane a line
+//     orvane-call --list
+//
+// A number is decimal, a hexadecimal float (0x with a p) or a bit pattern (0x without). Every call goes through the
+// raw-register caller, so what is printed is what emitted code would find in its registers.
+#include "call_plan.h"
+#include "signature.h"
+#ifdef ORVANE_WITH_MPFR
+#include "truth.h"
+#endif
+
+#include <CLI/CLI.hpp>
+#include <chrono>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <unistd.h>
+
+using namespace orvane;
+namespace fs = std::filesystem;
+using json = nlohmann::json;
+
+namespace {
+
+// One clear line, and a non-zero exit.
+struct failure : std::runtime_error {
+    using runtime_error::runtime_error;
+};
+
+size_t edit_distance(std::string_view a, std::string_view b) {
+    std::vector<size_t> row(b.size() + 1);
+    for (size_t j = 0; j <= b.size(); j++)
+        row[j] = j;
+    for (size_t i = 1; i <= a.size(); i++) {
+        size_t diagonal = row[0];
+        row[0] = i;
+        for (size_t j = 1; j <= b.size(); j++) {
+            const size_t here = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (a[i - 1] != b[j - 1])});
+            diagonal = std::exchange(row[j], here);
+        }
+    }
+    return row.back();
+}
+
+std::string short_name(const call_plan& p) { return p.symbol.substr(std::string_view("__orvane_l9_").size()); }
+
+call_plan find_plan(std::string name) {
+    if (name.starts_with("__orvane_l9_")) name.erase(0, 12);
+    call_plan p = plan_of(library_rows(), name);
+    if (p.symbol.empty()) {
+        std::vector<std::pair<size_t, std::string>> near;
+        for (const auto& row : library_rows())
+            for (int w : widths) {
+                const std::string s = short_name(plan_of(row, w));
+                near.emplace_back(edit_distance(name, s), s);
+            }
+        std::partial_sort(near.begin(), near.begin() + 3, near.end());
+        throw failure("no export '" + name + "'; the nearest are " + near[0].second + ", " + near[1].second +
+                      " and " + near[2].second);
+    }
+    if (!p.row->built) throw failure("'" + name + "' is in the list of exports but not built yet");
+    return p;
+}
+
+// A number of a lane as its bit pattern.
+uint64_t parse_number(const std::string& text, lane_type t) {
+    const auto bad = [&](const std::string& why) {
+        return failure("'" + text + "' is no lane of type " + std::string(opencl_type(t)) + ": " + why);
+    };
+    const char* s = text.c_str();
+    char* end;
+    errno = 0;
+    const bool hex = text.find("0x") != text.npos || text.find("0X") != text.npos;
+    const bool power = text.find_first_of("pP") != text.npos;
+    if (text.empty()) throw bad("write a decimal, 0x...p... or the bits as 0x...");
+    if (hex && !power) {
+        const uint64_t w = strtoull(s, &end, 16);
+        if (*end || text[0] == '-') throw bad("bits are 0x and hexadecimal digits, without a sign");
+        if (errno || (size_of(t) == 4 && w >> 32))
+            throw bad("a pattern of this type has at most " + std::to_string(2 * size_of(t)) + " digits");
+        return w;
+    }
+    if (t == lane_type::f32) {
+        const float v = strtof(s, &end);
+        if (!*end) return word_of(t, v) | (std::isnan(v) ? 0x7FC00000 : 0);
+    } else if (t == lane_type::f64) {
+        const double v = strtod(s, &end);
+        if (!*end) return word_of(t, v);
+    } else {
+        const bool is_signed = t == lane_type::i32 || t == lane_type::i64;
+        const int64_t i = is_signed ? strtoll(s, &end, 10) : 0;
+        const uint64_t u = is_signed ? (uint64_t)i : strtoull(s, &end, 10);
+        const bool fits = is_signed ? size_of(t) == 8 || (int32_t)i == i : size_of(t) == 8 || !(u >> 32);
+        if (!*end && (errno || !fits || (!is_signed && text[0] == '-'))) throw bad("it is out of range");
+        if (!*end) return size_of(t) == 8 ? u : u & 0xFFFFFFFF;
+    }
+    throw bad("write a decimal, 0x...p... or the bits as 0x...");
+}
+
+std::vector<std::string> split(const std::string& s, char by) {
+    std::vector<std::string> parts;
+    std::stringstream in(s);
+    for (std::string p; std::getline(in, p, by);)
+        parts.push_back(p);
+    if (!s.empty() && s.back() == by) parts.emplace_back();
+    return parts;
+}
+
+std::vector<uint64_t> parse_lane(const std::string& word, const kernel_row& row) {
+    const auto parts = split(word, ',');
+    if ((int)parts.size() != row.arguments())
+        throw failure("lane '" + word + "' has " + std::to_string(parts.size()) + " number(s); " +
+                      std::string(row.name) + " takes " + std::to_string(row.arguments()) + ", joined by commas");
+    std::vector<uint64_t> lane;
+    for (int j = 0; j < row.arguments(); j++)
+        lane.push_back(parse_number(parts[j], row.argument(j)));
+    return lane;
+}
+
+std::string shown(lane_type t, uint64_t w) {
+    char s[64];
+    if (t == lane_type::f32) snprintf(s, sizeof s, "%.9g", value_of(t, w));
+    else if (t == lane_type::f64) snprintf(s, sizeof s, "%.17g", value_of(t, w));
+    else if (t == lane_type::i64) snprintf(s, sizeof s, "%lld", (long long)w);
+    else if (t == lane_type::u64) snprintf(s, sizeof s, "%llu", (unsigned long long)w);
+    else snprintf(s, sizeof s, "%.0f", value_of(t, w));
+    return s;
+}
+std::string pattern(lane_type t, uint64_t w) {
+    char s[32];
+    snprintf(s, sizeof s, "0x%0*llX", 2 * size_of(t), (unsigned long long)w);
+    return s;
+}
+
+using lane_words = std::vector<uint64_t>;
+
+// Collects lanes to whole vectors and hands each result lane on.
+class stream {
+public:
+    stream(const call_plan& plan, const void* f) : caller(plan, f), arguments(plan.arguments.size()) {}
+
+    template <class Use> void add(const lane_words& lane, Use use) {
+        for (size_t j = 0; j < lane.size(); j++)
+            arguments[j].push_back(lane[j]);
+        if ((int)arguments[0].size() == caller.plan().width) flush(use);
+    }
+    // A last short vector is filled with copies of its last lane, whose results nobody sees.
+    template <class Use> void flush(Use use) {
+        const size_t live = arguments[0].size(), width = caller.plan().width;
+        if (!live) return;
+        for (auto& a : arguments)
+            a.resize(width, a.back());
+        caller(arguments, results);
+        lane_words in(arguments.size()), out(results.size());
+        for (size_t i = 0; i < live; i++) {
+            for (size_t j = 0; j < in.size(); j++)
+                in[j] = arguments[j][i];
+            for (size_t j = 0; j < out.size(); j++)
+                out[j] = results[j][i];
+            use(in, out);
+        }
+        for (auto& a : arguments)
+            a.clear();
+    }
+
+private:
+    lane_caller caller;
+    std::vector<words> arguments, results;
+};
+
+class printer {
+public:
+    printer(const call_plan& p, bool as_json) : plan(p), as_json(as_json) {}
+
+    std::string header() const {
+        if (as_json) return "";
+        std::string s = "input -> result (bits)";
+#ifdef ORVANE_WITH_MPFR
+        s += "  true value  error in ulps";
+#endif
+        return s + "\n";
+    }
+    std::string line(const lane_words& in, const lane_words& out) {
+        const kernel_row& row = *plan.row;
+        json lane;
+        std::string s;
+        for (size_t j = 0; j < in.size(); j++)
+            s += (j ? "," : "") + shown(row.argument(j), in[j]);
+        s += " ->";
+#ifdef ORVANE_WITH_MPFR
+        const bool known = value(row, in.data());
+#endif
+        for (size_t j = 0; j < out.size(); j++) {
+            const lane_type t = row.result(j);
+            s += " " + shown(t, out[j]) + " (" + pattern(t, out[j]) + ")";
+            json r{{"value", shown(t, out[j])}, {"bits", pattern(t, out[j])}};
+#ifdef ORVANE_WITH_MPFR
+            if (known) {
+                char digits[64], error[32];
+                mpfr_snprintf(digits, sizeof digits, "%.20Rg", value.value(j));
+                const double e = value.error(j, t, out[j]);
+                snprintf(error, sizeof error, "%.3f", e);
+                s += std::string("  ") + digits + "  " + error;
+                r["true"] = digits;
+                if (std::isfinite(e)) r["ulps"] = e, worst = std::max(worst, e);
+            }
+#endif
+            lane["results"].push_back(r);
+        }
+        if (!as_json) return s + "\n";
+        for (size_t j = 0; j < in.size(); j++)
+            lane["arguments"].push_back(
+                {{"value", shown(row.argument(j), in[j])}, {"bits", pattern(row.argument(j), in[j])}});
+        return lane.dump() + "\n";
+    }
+    double worst_error() const { return worst; }
+
+private:
+    const call_plan& plan;
+    bool as_json;
+    double worst = 0;
+#ifdef ORVANE_WITH_MPFR
+    truth value;
+#endif
+};
+
+// A progress bar on a terminal, by the share of the input that is read.
+class progress {
+public:
+    explicit progress(size_t total) : total(total), on(total && isatty(STDERR_FILENO)) {}
+    void at(size_t done) {
+        if (!on || (done * 50 / total == shown && done < total)) return;
+        shown = done * 50 / total;
+        fprintf(stderr, "\r[%-50s] %3zu%%", std::string(shown, '#').c_str(), done * 100 / total);
+    }
+    ~progress() {
+        if (on) fprintf(stderr, "\r%60s\r", "");
+    }
+
+private:
+    size_t total, shown = ~size_t(0);
+    bool on;
+};
+
+// A file that appears only when it is complete.
+class output {
+public:
+    explicit output(const std::string& path) : path(path), part(path + ".part") {
+        if (path.empty()) return;
+        file.open(part);
+        if (!file) throw failure("cannot write '" + path + "': " + strerror(errno));
+    }
+    ~output() {
+        if (file.is_open()) file.close(), fs::remove(part);
+    }
+    std::ostream& stream() { return path.empty() ? std::cout : file; }
+    void complete() {
+        stream().flush();
+        if (!stream()) throw failure("cannot write " + (path.empty() ? "standard output" : "'" + path + "'"));
+        if (path.empty()) return;
+        file.close();
+        fs::rename(part, path);
+    }
+
+private:
+    std::string path, part;
+    std::ofstream file;
+};
+
+void list_exports(bool as_json, std::ostream& to) {
+    json all = json::array();
+    for (const auto& row : library_rows())
+        for (int w : widths) {
+            if (!row.built) continue;
+            const auto name = short_name(plan_of(row, w));
+            if (as_json) all.push_back(name);
+            else to << name << '\n';
+        }
+    if (as_json) to << all.dump() << '\n';
+}
+
+// Lanes of words: digits of the type's width, without a prefix.
+void run_raw(const call_plan& plan, const void* f, std::ostream& to) {
+    const kernel_row& row = *plan.row;
+    stream lanes(plan, f);
+    auto print = [&](const lane_words&, const lane_words& out) {
+        char s[64];
+        int n = 0;
+        for (size_t j = 0; j < out.size(); j++)
+            n += snprintf(s + n, sizeof s - n, j ? " %0*llx" : "%0*llx", 2 * size_of(row.result(j)),
+                          (unsigned long long)out[j]);
+        s[n++] = '\n';
+        to.write(s, n);
+    };
+    std::string line;
+    for (size_t number = 1; std::getline(std::cin, line); number++) {
+        lane_words lane;
+        const char* p = line.c_str();
+        while (*(p += strspn(p, " \t\r"))) {
+            char* end;
+            errno = 0;
+            const uint64_t w = strtoull(p, &end, 16);
+            const lane_type t = (int)lane.size() < row.arguments() ? row.argument(lane.size()) : lane_type::none;
+            if (end == p || errno || (size_of(t) == 4 && w >> 32) || !strchr(" \t\r", *end))
+                throw failure("line " + std::to_string(number) + ": '" + line + "' is not " +
+                              std::to_string(row.arguments()) + " hexadecimal word(s) of the type's width");
+            lane.push_back(w);
+            p = end;
+        }
+        if ((int)lane.size() != row.arguments())
+            throw failure("line " + std::to_string(number) + ": " + std::to_string(lane.size()) + " word(s); " +
+                          std::string(row.name) + " takes " + std::to_string(row.arguments()));
+        lanes.add(lane, print);
+    }
+    lanes.flush(print);
+}
+
+void run_stream(const call_plan& plan, const void* f, const std::string& from, printer& print, std::ostream& to,
+                bool quiet) {
+    std::ifstream file;
+    size_t size = 0;
+    if (from != "-") {
+        if (fs::is_directory(from)) throw failure("'" + from + "' is a folder; name a file of lanes, or -");
+        file.open(from);
+        if (!file) throw failure("cannot read '" + from + "': " + strerror(errno));
+        size = fs::file_size(from);
+    }
+    std::istream& in = from == "-" ? std::cin : file;
+    progress bar(size);
+    stream lanes(plan, f);
+    auto use = [&](const lane_words& a, const lane_words& r) {
+        const std::string s = print.line(a, r);
+        if (!quiet) to << s;
+    };
+    std::string line;
+    size_t read = 0, count = 0;
+    for (size_t number = 1; std::getline(in, line); number++) {
+        read += line.size() + 1;
+        bar.at(std::min(read, size));
+        if (const auto comment = line.find('#'); comment != line.npos) line.resize(comment);
+        std::stringstream words(line);
+        for (std::string word; words >> word; count++)
+            try {
+                lanes.add(parse_lane(word, *plan.row), use);
+            } catch (const failure& e) {
+                throw failure("line " + std::to_string(number) + ": " + e.what());
+            }
+    }
+    lanes.flush(use);
+    if (!count) throw failure((from == "-" ? "standard input" : "'" + from + "'") + " holds no lanes");
+}
+
+// Lanes of a file at full speed: the calls alone are timed, each over all lanes, the median of some runs.
+void run_summary(const call_plan& plan, const void* f, const std::string& from, printer& print, bool as_json) {
+    std::ifstream file(from);
+    if (!file) throw failure("cannot read '" + from + "': " + strerror(errno));
+    std::vector<lane_words> lanes;
+    std::string line;
+    for (size_t number = 1; std::getline(file, line); number++) {
+        if (const auto comment = line.find('#'); comment != line.npos) line.resize(comment);
+        std::stringstream text(line);
+        for (std::string word; text >> word;)
+            try {
+                lanes.push_back(parse_lane(word, *plan.row));
+            } catch (const failure& e) {
+                throw failure("line " + std::to_string(number) + ": " + e.what());
+            }
+    }
+    if (lanes.empty()) throw failure("'" + from + "' holds no lanes");
+    stream check(plan, f);
+    auto use = [&](const lane_words& a, const lane_words& r) { print.line(a, r); };
+    for (const auto& lane : lanes)
+        check.add(lane, use);
+    check.flush(use);
+    const json summary{
+        {"export", plan.symbol}, {"lanes", lanes.size()}, {"largest error in ulps", print.worst_error()}};
+    if (as_json) std::cout << summary.dump() << '\n';
+    else
+        printf("%-16s %8zu lanes, largest error %.3f ulp\n", short_name(plan).c_str(), lanes.size(),
+               print.worst_error());
+}
+
+int run(int argc, char** argv) {
+    CLI::App app{"Evaluates an export of liborvane_l9.so and prints each lane's input, result and bits."};
+    std::string name, from, to, library_path;
+    std::vector<std::string> lanes;
+    bool raw = false, list = false, as_json = false, summary = false;
+    app.add_option("export", name, "expf8_half, __orvane_l9_powf2, ...");
+    app.add_option("lanes", lanes, "a word a lane, as many as the width; the arguments of one lane joined by commas")
+        ->allow_extra_args();
+    app.add_option("-i,--input", from, "read lanes from a file, or - for standard input; # begins a comment");
+    app.add_option("-o,--output", to, "write to a file, which appears only when it is complete");
+    app.add_option("--library", library_path, "the shared library (default: the one beside this program)");
+    app.add_flag("--raw", raw, "hexadecimal words from standard input, a lane a line; words to standard output");
+    app.add_flag("--list", list, "names of all built exports");
+    app.add_flag("--json", as_json, "output as JSON, an object a line");
+    app.add_flag("--summary", summary, "only the number of lanes of a file and the largest error");
+    // Negative numbers are lanes, not options: they are marked while the command line is parsed.
+    constexpr char mark = '\x01';
+    std::vector<std::string> args;
+    for (int i = argc - 1; i > 0; i--) { // the parser takes them last one first
+        const std::string a = argv[i];
+        const bool negative = a.size() > 1 && a[0] == '-' &&
+                              (isdigit(a[1]) || a[1] == '.' || a.starts_with("-inf") || a.starts_with("-nan"));
+        args.push_back(negative ? mark + a : a);
+    }
+    try {
+        app.parse(args);
+    } catch (const CLI::CallForHelp& e) {
+        return app.exit(e);
+    } catch (const CLI::ParseError& e) {
+        throw failure(std::string(e.what()) + "; see orvane-call --help");
+    }
+    for (auto& lane : lanes)
+        if (lane.starts_with(mark)) lane.erase(0, 1);
+
+    output out(to);
+    if (list) return list_exports(as_json, out.stream()), out.complete(), 0;
+    if (name.empty()) throw failure("name an export, such as expf8_half; orvane-call --list prints all of them");
+    const call_plan plan = find_plan(name);
+
+    if (library_path.empty()) library_path = fs::read_symlink("/proc/self/exe").parent_path() / "liborvane_l9.so";
+    const library lib(library_path);
+    if (!lib.handle()) throw failure("cannot open the library: " + lib.error());
+    const void* f = lib.address(plan.symbol);
+    if (!f) throw failure("'" + library_path + "' has no " + plan.symbol);
+
+    if (raw) return run_raw(plan, f, out.stream()), out.complete(), 0;
+
+    printer print(plan, as_json);
+    if (summary) {
+        if (from.empty() || from == "-") throw failure("--summary wants a file: -i FILE");
+        return run_summary(plan, f, from, print, as_json), 0;
+    }
+    if (!from.empty() || lanes.empty()) {
+        if (!lanes.empty()) throw failure("lanes come from the command line or from -i, not from both");
+        out.stream() << print.header();
+        run_stream(plan, f, from.empty() ? "-" : from, print, out.stream(), false);
+        return out.complete(), 0;
+    }
+    if ((int)lanes.size() != plan.width)
+        throw failure(short_name(plan) + " takes " + std::to_string(plan.width) + " lane(s), not " +
+                      std::to_string(lanes.size()) + "; for any number of lanes use -i");
+    std::vector<lane_words> parsed;
+    for (const auto& lane : lanes)
+        parsed.push_back(parse_lane(lane, *plan.row));
+    stream vector(plan, f);
+    out.stream() << print.header();
+    for (const auto& lane : parsed)
+        vector.add(lane, [&](const lane_words& a, const lane_words& r) { out.stream() << print.line(a, r); });
+    return out.complete(), 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    std::cin.tie(nullptr);
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& e) {
+        std::cout.flush();
+        std::cerr << "orvane-call: " << e.what() << '\n';
+        return 1;
+    }
+}
