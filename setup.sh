@@ -26,7 +26,7 @@ install_missing() {
         apt=(sudo "${apt[@]}")
     fi
     "${apt[@]}" update </dev/null
-    "${apt[@]}" install --yes --no-install-recommends "${missing[@]}" </dev/null
+    "${apt[@]}" install --yes --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
 configure() {

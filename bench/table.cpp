@@ -38,7 +38,7 @@ void print_table(const std::vector<table_row>& rows, const gathering_reporter& m
         for (const char* set : lane_sets) {
             auto of = [&](const std::string& name) { return measured.nanoseconds(name + '/' + set); };
             const double ours = of(r.ours), sleef = of(r.sleef), scalar = of(r.scalar);
-            any |= ours >= 0;
+            any |= ours >= 0; // not picked by a filter otherwise
             auto ratio = [&](double peer) { return text("%.2f", ours > 0 && peer > 0 ? peer / ours : -1); };
             line.insert(line.end(),
                         {text("%.3f", ours), text("%.3f", sleef, r.sleef_name.empty() ? "" : ' ' + r.sleef_name),

@@ -4,6 +4,7 @@
 # spectrum is computed: E over the ground level for v = 0 ... 8 and J = 0 ... 60, at 300, 1000 and 3000 K. At 300 K the
 # highest levels have factors that are subnormal or zero as a float.
 BEGIN {
+    print "# -E / kT of the levels of carbon monoxide; written by boltzmann.awk"
     # Spectroscopic constants of 12C16O in its ground state, in 1/cm (Huber and Herzberg, Constants of Diatomic
     # Molecules, 1979), and k / hc in 1/(cm K).
     we = 2169.81358; wexe = 13.28831; be = 1.93128087; ae = 0.01750441; de = 6.12147e-6
