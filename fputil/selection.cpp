@@ -78,7 +78,7 @@ ORVANE_EXPORT(fdimf, , sfdim_kernel)
 
 template <class T> struct fma_kernel : kernel<three_arguments<T>> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> a, lanes<T, W> b, lanes<T, W> c) {
-        return fma(a, b, c);
+        return fma_in_order(a, b, c);
     }
 };
 using dfma_kernel = fma_kernel<double>;

@@ -223,6 +223,14 @@ template <class T, int W> struct lanes {
         return c;
     }
 
+    // fma with its operands held in order: of several NaN the first is the answer, where the compiler may exchange
+    // the factors of the other form from one width to the next.
+    friend ORVANE_INLINE lanes fma_in_order(lanes a, lanes b, lanes c) requires is_floating<T> {
+        if constexpr (std::is_same_v<T, float>) asm("vfmadd231ps %2, %1, %0" : "+x"(c.v) : "x"(a.v), "xm"(b.v));
+        else asm("vfmadd231pd %2, %1, %0" : "+x"(c.v) : "x"(a.v), "xm"(b.v));
+        return c;
+    }
+
     friend ORVANE_INLINE lanes sqrt(lanes a) requires is_floating<T> {
         if constexpr (std::is_same_v<T, float> && is_wide) return _mm256_sqrt_ps(a.v);
         else if constexpr (std::is_same_v<T, float>) return _mm_sqrt_ps(a.v);

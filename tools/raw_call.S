@@ -2,7 +2,7 @@
 //                      size_t stack_bytes, size_t residue)
 //
 // machine_state: vector registers at 0 (16 * 32), integer registers at 512 (16 * 8), flags at 640, mxcsr at 648, x87
-// control word at 652, tag word at 654.
+// control word at 652, tag word at 654, stack pointer of the call at 656.
 
         .set    ARGUMENTS, 512          // room for stack arguments; the largest memory form has 384 bytes of them
 
@@ -50,6 +50,7 @@ orvane_raw_call:
         sub     $64, %rsp
         add     %r9, %rsp
         mov     %rbp, ARGUMENTS(%rsp)
+        mov     %rsp, 656(%rdx)
         mov     %rsi, %r10              // in
         mov     %rcx, %rsi
         mov     %rsp, %rdi

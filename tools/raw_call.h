@@ -18,6 +18,7 @@ struct alignas(32) machine_state {
     uint64_t flags;               // only stored
     uint32_t mxcsr;
     uint16_t x87_control, x87_tag; // the tag word is only stored: 0xFFFF is an empty register stack
+    uint64_t called_at;            // only stored: the stack pointer at the call instruction
 };
 
 // Calls `function` with the registers of `in` and a copy of `stack_bytes` bytes of arguments at its stack pointer +

@@ -7,9 +7,6 @@ namespace orvane {
 
 namespace {
 
-template <class E> E by_name(const std::map<std::string_view, E>& names, std::string_view name) {
-    return names.at(name);
-}
 const std::map<std::string_view, lane_type> lane_types = {
     {"none", lane_type::none}, {"f32", lane_type::f32}, {"f64", lane_type::f64}, {"i32", lane_type::i32},
     {"u32", lane_type::u32},   {"i64", lane_type::i64}, {"u64", lane_type::u64}};
@@ -30,51 +27,6 @@ const std::map<std::string_view, kernel_path> paths = {{"settled", kernel_path::
                                                        {"large", kernel_path::large},
                                                        {"all_lanes", kernel_path::all_lanes}};
 
-// Columns of a row that are lists.
-struct text {
-    std::string_view s;
-};
-template <class... T> std::array<double, 4> row_range(T... x) {
-    std::array<double, 4> r{double(x)...};
-    if (sizeof...(T) == 2) r[2] = r[0], r[3] = r[1];
-    return r;
-}
-std::vector<uint64_t> row_special(std::string_view s) {
-    std::vector<uint64_t> words;
-    if (s == "none") return words;
-    std::string copy(s);
-    for (char* p = copy.data(); *p;) {
-        char* end;
-        words.push_back(strtoull(p, &end, 0));
-        p = *end ? end + 1 : end;
-    }
-    return words;
-}
-kernel_row make_row(std::string_view state, std::string_view name, std::string_view tier, std::string_view sclass,
-                    std::string_view in, std::string_view out, std::string_view extra, double spare,
-                    std::string_view path, std::array<double, 4> range, std::vector<uint64_t> special, text twin,
-                    std::string_view builtin) {
-    kernel_row r{state == "built",
-                 name,
-                 tier,
-                 by_name(classes, sclass),
-                 by_name(lane_types, in),
-                 by_name(lane_types, out),
-                 by_name(lane_types, extra),
-                 spare,
-                 by_name(paths, path),
-                 range,
-                 std::move(special),
-                 {},
-                 {},
-                 builtin};
-    if (const auto comma = twin.s.find(", "); comma != twin.s.npos) {
-        r.twin_name = twin.s.substr(0, comma);
-        r.twin_tier = twin.s.substr(comma + 2);
-    }
-    return r;
-}
-
 std::string_view key_of(auto value, const auto& names) {
     for (const auto& [k, v] : names)
         if (v == value) return k;
@@ -83,33 +35,44 @@ std::string_view key_of(auto value, const auto& names) {
 
 } // namespace
 
-#define range(...) row_range(__VA_ARGS__)
-#define special(...) row_special(#__VA_ARGS__)
-#define twin(...)                                                                                                    \
-    text { #__VA_ARGS__ }
-#define PAIR(state, name, tier, sclass, in, out, extra, spare, path, ordinary, special, twin, builtin)               \
-    make_row(#state, #name, #tier, #sclass, #in, #out, #extra, spare, #path, ordinary, special, twin, builtin),
+kernel_row list::row(std::string_view state, std::string_view name, std::string_view tier, std::string_view sclass,
+                     std::string_view in, std::string_view out, std::string_view extra, double spare,
+                     std::string_view path, std::array<double, 4> range, std::string_view special,
+                     std::string_view twin, std::string_view builtin) {
+    kernel_row r{state == "built",
+                 name,
+                 tier,
+                 classes.at(sclass),
+                 lane_types.at(in),
+                 lane_types.at(out),
+                 lane_types.at(extra),
+                 spare,
+                 paths.at(path),
+                 range,
+                 {},
+                 {},
+                 {},
+                 builtin};
+    const std::string patterns(special);
+    for (const char* p = patterns.c_str(); special != "none" && *p;) {
+        char* end;
+        r.special.push_back(strtoull(p, &end, 0));
+        p = *end ? end + 1 : end;
+    }
+    if (const auto comma = twin.find(", "); comma != twin.npos) {
+        r.twin_name = twin.substr(0, comma);
+        r.twin_tier = twin.substr(comma + 2);
+    }
+    return r;
+}
 
 const std::vector<kernel_row>& library_rows() {
     static const std::vector<kernel_row> rows = {
-#include "frame/exports.def"
+#define ORVANE_LIST "frame/exports.def"
+#include "list.inc"
     };
     return rows;
 }
-
-#ifdef ORVANE_SECOND_LIST
-#define PAIR(state, name, tier, sclass, in, out, extra, spare, path, ordinary, special, twin, builtin)               \
-    make_row(#state, #name, #tier, #sclass, #in, #out, #extra, spare, #path, ordinary, special, twin, builtin),
-const std::vector<kernel_row>& second_rows() {
-    static const std::vector<kernel_row> rows = {
-#include ORVANE_SECOND_LIST
-    };
-    return rows;
-}
-#endif
-#undef range
-#undef special
-#undef twin
 
 std::string_view to_string(lane_type t) { return key_of(t, lane_types); }
 std::string_view to_string(signature_class c) { return key_of(c, classes); }

@@ -66,6 +66,19 @@ struct kernel_row {
     std::string served_builtin(int width) const;
 };
 
+// What list.inc turns the columns of a row into.
+namespace list {
+template <class... T> std::array<double, 4> range_of(T... x) {
+    std::array<double, 4> r{double(x)...};
+    if (sizeof...(T) == 2) r[2] = r[0], r[3] = r[1];
+    return r;
+}
+kernel_row row(std::string_view state, std::string_view name, std::string_view tier, std::string_view sclass,
+               std::string_view in, std::string_view out, std::string_view extra, double spare, std::string_view path,
+               std::array<double, 4> range, std::string_view special, std::string_view twin,
+               std::string_view builtin);
+} // namespace list
+
 // All rows of the library's list, and the row of a name and tier.
 const std::vector<kernel_row>& library_rows();
 const kernel_row* find_row(const std::vector<kernel_row>& rows, std::string_view name, std::string_view tier);

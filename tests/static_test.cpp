@@ -1,0 +1,263 @@
+// What the finished library may not contain, read off its file and its machine code.
+#include "support.h"
+
+#include <Zydis/Zydis.h>
+#include <elf.h>
+#include <fstream>
+#include <set>
+
+using namespace orvane;
+
+namespace {
+
+// The file under test: the library, and the probes, which are made the same way.
+struct binary {
+    explicit binary(object& o) : in(o) {
+        std::ifstream file(o.path, std::ios::binary);
+        bytes.assign(std::istreambuf_iterator<char>(file), {});
+        head = (const Elf64_Ehdr*)bytes.data();
+        sections = (const Elf64_Shdr*)(bytes.data() + head->e_shoff);
+        segments = (const Elf64_Phdr*)(bytes.data() + head->e_phoff);
+        ZydisDecoderInit(&decoder, ZYDIS_MACHINE_MODE_LONG_64, ZYDIS_STACK_WIDTH_64);
+    }
+    const Elf64_Shdr* section(std::string_view name) const {
+        const char* names = bytes.data() + sections[head->e_shstrndx].sh_offset;
+        for (int i = 0; i < head->e_shnum; i++)
+            if (names + sections[i].sh_name == name) return &sections[i];
+        return nullptr;
+    }
+    struct instruction {
+        uint64_t at;
+        ZydisDecodedInstruction what;
+        ZydisDecodedOperand operands[ZYDIS_MAX_OPERAND_COUNT];
+
+        bool is_return() const { return what.meta.category == ZYDIS_CATEGORY_RET; }
+        bool is_call() const { return what.meta.category == ZYDIS_CATEGORY_CALL; }
+        bool is_jump() const { return what.meta.category == ZYDIS_CATEGORY_UNCOND_BR; }
+        bool is_branch() const { return what.meta.category == ZYDIS_CATEGORY_COND_BR; }
+        uint64_t target() const {
+            ZyanU64 t = 0;
+            ZydisCalcAbsoluteAddress(&what, &operands[0], at, &t);
+            return t;
+        }
+        // Touches a vector register of number 8 to 15 (or beyond).
+        bool touches_upper_registers() const {
+            for (int i = 0; i < what.operand_count; i++) {
+                if (operands[i].type != ZYDIS_OPERAND_TYPE_REGISTER) continue;
+                const auto c = ZydisRegisterGetClass(operands[i].reg.value);
+                if ((c == ZYDIS_REGCLASS_XMM || c == ZYDIS_REGCLASS_YMM || c == ZYDIS_REGCLASS_ZMM) &&
+                    ZydisRegisterGetId(operands[i].reg.value) >= 8)
+                    return true;
+            }
+            return false;
+        }
+        bool touches_vector_registers() const {
+            for (int i = 0; i < what.operand_count; i++) {
+                if (operands[i].type != ZYDIS_OPERAND_TYPE_REGISTER) continue;
+                const auto c = ZydisRegisterGetClass(operands[i].reg.value);
+                if (c == ZYDIS_REGCLASS_XMM || c == ZYDIS_REGCLASS_YMM) return true;
+            }
+            return false;
+        }
+    };
+    std::map<uint64_t, instruction> code(const object::entry& f) const {
+        std::map<uint64_t, instruction> all;
+        const Elf64_Shdr* text = section(".text");
+        for (uint64_t at = f.value; at < f.value + f.size;) {
+            instruction i{at, {}, {}};
+            const auto* p = bytes.data() + text->sh_offset + (at - text->sh_addr);
+            if (!ZYAN_SUCCESS(ZydisDecoderDecodeFull(&decoder, p, f.value + f.size - at, &i.what, i.operands))) {
+                ADD_FAILURE() << f.name << ": no instruction at " << std::hex << at;
+                return all;
+            }
+            all[at] = i;
+            at += i.what.length;
+        }
+        return all;
+    }
+
+    object& in;
+    std::string bytes;
+    const Elf64_Ehdr* head;
+    const Elf64_Shdr* sections;
+    const Elf64_Phdr* segments;
+    ZydisDecoder decoder;
+};
+
+bool is_wrapper(const std::string& name) { return name.ends_with("_cout_wrapper"); }
+
+std::set<std::string> expected_exports(const std::vector<kernel_row>& rows) {
+    std::set<std::string> names;
+    for (const auto& row : rows)
+        for (int w : widths)
+            if (row.built) names.insert(plan_of(row, w).symbol);
+    return names;
+}
+
+TEST(File, ImportsNothingAndHasNoState) {
+    const binary b(library_under_test());
+    const Elf64_Shdr* dynamic = b.section(".dynamic");
+    ASSERT_NE(dynamic, nullptr);
+    const Elf64_Shdr* strings = b.section(".dynstr");
+    const char* names = b.bytes.data() + strings->sh_offset;
+    std::string soname;
+    for (auto* d = (const Elf64_Dyn*)(b.bytes.data() + dynamic->sh_offset); d->d_tag != DT_NULL; d++) {
+        for (auto bad :
+             {DT_NEEDED, DT_INIT, DT_FINI, DT_INIT_ARRAY, DT_FINI_ARRAY, DT_TEXTREL, DT_RELA, DT_REL, DT_JMPREL})
+            EXPECT_NE(d->d_tag, bad);
+        if (d->d_tag == DT_SONAME) soname = names + d->d_un.d_val;
+    }
+    EXPECT_EQ(soname, "liborvane_l9.so");
+    for (auto section : {".data", ".bss", ".tdata", ".tbss", ".data.rel.ro", ".got", ".init_array", ".ctors", ".plt"})
+        EXPECT_EQ(b.section(section), nullptr) << section;
+    bool stack = false;
+    for (int i = 0; i < b.head->e_phnum; i++)
+        if (b.segments[i].p_type == PT_GNU_STACK) {
+            stack = true;
+            EXPECT_EQ(b.segments[i].p_flags & PF_X, 0u);
+        }
+    EXPECT_TRUE(stack);
+}
+
+TEST(File, ExportsExactlyTheList) {
+    const binary b(library_under_test());
+    std::set<std::string> exported;
+    const Elf64_Shdr *symbols = b.section(".dynsym"), *strings = b.section(".dynstr");
+    const auto* s = (const Elf64_Sym*)(b.bytes.data() + symbols->sh_offset);
+    for (size_t i = 1; i < symbols->sh_size / sizeof *s; i++) {
+        const std::string name = b.bytes.data() + strings->sh_offset + s[i].st_name;
+        EXPECT_NE(s[i].st_shndx, SHN_UNDEF) << name;
+        exported.insert(name);
+    }
+    EXPECT_EQ(exported, expected_exports(library_rows()));
+
+    size_t absent = 0;
+    for (const auto& row : library_rows())
+        absent += 6 * !row.built;
+    EXPECT_EQ(exported.size() + absent, 2328u);
+    RecordProperty("absent", (int)absent);
+}
+
+TEST(File, WrappersAndSlowPathsKeepTheirNames) {
+    for (const auto& row : library_rows()) {
+        if (!row.built) continue;
+        for (int w : widths)
+            EXPECT_EQ(library_under_test().symbol(plan_of(row, w).wrapper_symbol()) != nullptr, row.has_slow_path())
+                << plan_of(row, w).wrapper_symbol();
+        if (row.has_slow_path())
+            EXPECT_NE(library_under_test().symbol(row.slow_path_symbol()), nullptr) << row.slow_path_symbol();
+    }
+}
+
+class Code : public testing::TestWithParam<object*> {};
+
+TEST_P(Code, NoGatherAndNoControlState) {
+    const binary b(*GetParam());
+    for (const auto& f : b.in.symbols()) {
+        if (!f.is_function) continue;
+        for (const auto& [at, i] : b.code(f)) {
+            const std::string_view name = ZydisMnemonicGetString(i.what.mnemonic);
+            EXPECT_FALSE(name.find("gather") != name.npos || name.ends_with("ldmxcsr") || name.ends_with("stmxcsr"))
+                << f.name << ": " << name;
+        }
+    }
+}
+
+// Slow paths, and whatever they share, are baseline code: everything that is neither a kernel nor a wrapper.
+TEST_P(Code, SlowPathsAreBaseline) {
+    const binary b(*GetParam());
+    int seen = 0;
+    for (const auto& f : b.in.symbols()) {
+        if (!f.is_function || f.name.starts_with("__orvane_l9_")) continue;
+        seen++;
+        for (const auto& [at, i] : b.code(f))
+            EXPECT_TRUE(i.what.encoding != ZYDIS_INSTRUCTION_ENCODING_VEX &&
+                        i.what.encoding != ZYDIS_INSTRUCTION_ENCODING_EVEX)
+                << f.name << ": " << ZydisMnemonicGetString(i.what.mnemonic);
+    }
+    EXPECT_GT(seen, 0);
+}
+
+// Kernels leave vector registers 8 to 15 alone; wrappers save and restore them and do nothing else with them.
+TEST_P(Code, UpperRegistersAreKept) {
+    const binary b(*GetParam());
+    for (const auto& f : b.in.symbols()) {
+        if (!f.name.starts_with("__orvane_l9_")) continue;
+        int saved = 0, restored = 0;
+        for (const auto& [at, i] : b.code(f)) {
+            if (!i.touches_upper_registers()) continue;
+            EXPECT_TRUE(is_wrapper(f.name) && i.what.mnemonic == ZYDIS_MNEMONIC_VMOVUPS)
+                << f.name << ": " << ZydisMnemonicGetString(i.what.mnemonic);
+            (i.operands[0].type == ZYDIS_OPERAND_TYPE_MEMORY ? saved : restored)++;
+        }
+        EXPECT_EQ(saved, restored) << f.name;
+        EXPECT_TRUE(saved == 0 || saved == 8) << f.name;
+    }
+}
+
+// The fewest conditional branches on a path from entry to a return without a call; -1 if there is no such path.
+int branches_on_ordinary_path(const std::map<uint64_t, binary::instruction>& code) {
+    std::map<uint64_t, int> best{{code.begin()->first, 0}};
+    std::set<std::pair<int, uint64_t>> open{{0, code.begin()->first}};
+    while (!open.empty()) {
+        const auto [branches, at] = *open.begin();
+        open.erase(open.begin());
+        const auto here = code.find(at);
+        if (here == code.end()) continue;
+        const auto& i = here->second;
+        if (i.is_return()) return branches;
+        if (i.is_call()) continue;
+        auto go = [&](uint64_t to, int n) {
+            const auto [known, added] = best.emplace(to, n);
+            if (!added && known->second <= n) return;
+            known->second = n;
+            open.emplace(n, to);
+        };
+        const uint64_t next = at + i.what.length;
+        if (i.is_jump()) go(i.target(), branches);
+        else if (i.is_branch()) go(i.target(), branches + 1), go(next, branches + 1);
+        else go(next, branches);
+    }
+    return -1;
+}
+
+void check_paths(object& o, const std::vector<kernel_row>& rows) {
+    const binary b(o);
+    std::map<std::string, object::entry> functions;
+    for (const auto& f : b.in.symbols())
+        functions[f.name] = f;
+    for (const auto& row : rows) {
+        if (!row.built) continue;
+        for (int w : widths) {
+            const call_plan p = plan_of(row, w);
+            const auto code = b.code(functions.at(p.symbol));
+            const int branches = branches_on_ordinary_path(code);
+            if (row.path == kernel_path::all_lanes) EXPECT_EQ(branches, -1) << p.symbol;
+            else {
+                EXPECT_GE(branches, 0) << p.symbol << ": every path calls";
+                const int allowed = row.path == kernel_path::settled ? 0 : row.path == kernel_path::large ? 2 : 1;
+                EXPECT_LE(branches, allowed) << p.symbol;
+            }
+            if (row.path == kernel_path::settled)
+                for (const auto& [at, i] : code)
+                    EXPECT_FALSE(i.is_call() || i.is_branch()) << p.symbol;
+            if (!p.memory_form) continue;
+            // The upper state is cleared as the last thing that happens to a vector register before each return.
+            bool cleared = false;
+            for (const auto& [at, i] : code) {
+                if (i.what.mnemonic == ZYDIS_MNEMONIC_VZEROUPPER) cleared = true;
+                else if (i.is_return()) {
+                    EXPECT_TRUE(cleared) << p.symbol;
+                    cleared = false;
+                } else if (i.touches_vector_registers()) cleared = false;
+            }
+        }
+    }
+}
+TEST(Paths, OneBranchAndNoCallInTheLibrary) { check_paths(library_under_test(), library_rows()); }
+TEST(Paths, OneBranchAndNoCallInTheProbes) { check_paths(probe_library(), probe_rows()); }
+
+INSTANTIATE_TEST_SUITE_P(Both, Code, testing::Values(&library_under_test(), &probe_library()),
+                         [](const auto& info) { return info.index ? "probes" : "library"; });
+
+} // namespace

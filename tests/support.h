@@ -1,0 +1,85 @@
+// What tests share: the library under test, its symbol table, and arguments to call its exports with.
+#pragma once
+
+#include "tools/call_plan.h"
+#include "tools/truth.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <random>
+
+namespace orvane {
+
+// A shared object with its symbol table, hidden symbols too.
+class object : public library {
+public:
+    explicit object(const std::string& path);
+    // Where a symbol of any visibility lies in this process; null if there is none.
+    const void* symbol(const std::string& name) const;
+    struct entry {
+        std::string name;
+        uint64_t value, size;
+        bool is_function;
+    };
+    const std::vector<entry>& symbols() const { return table; }
+    const std::string path;
+
+private:
+    std::vector<entry> table;
+    std::map<std::string, uint64_t> values;
+    uint64_t base = 0;
+};
+
+object& library_under_test();
+object& probe_library();
+const std::vector<kernel_row>& probe_rows();
+
+// A row with the object that holds it: what the list-driven tests run over.
+struct subject {
+    const kernel_row* row;
+    object* in;
+    lane_caller caller(int width) const;
+};
+void PrintTo(const subject& s, std::ostream* to);
+std::vector<subject> built_subjects(); // of the library, then of the probes
+std::string name_of(const testing::TestParamInfo<subject>& info);
+#define FOR_ALL_BUILT(suite) INSTANTIATE_TEST_SUITE_P(Built, suite, testing::ValuesIn(built_subjects()), name_of)
+
+// Lanes of arguments: [argument][lane].
+using rng = std::mt19937_64;
+std::vector<words> ordinary_arguments(const kernel_row& row, int lanes, rng& r);
+std::vector<words> special_arguments(const kernel_row& row, int lanes);
+std::vector<words> random_patterns(const kernel_row& row, int lanes, rng& r); // any bits, and edge values among them
+
+// Lane by lane through the one-lane export: what every other width must give, under the given control state.
+std::vector<words> by_single_lanes(const subject& s, const std::vector<words>& arguments, uint32_t mxcsr = 0x1F80);
+
+// The result of the slow path of a row for one lane, called at the address that the symbol table gives.
+struct slow_result {
+    int status;
+    uint64_t result, out;
+};
+slow_result call_slow_path(object& in, const kernel_row& row, const std::vector<uint64_t>& lane,
+                           uint64_t result_before = 0);
+
+// All lanes of an export at width 8 or 16, for sweeps: arguments and results lane by lane.
+class sweep {
+public:
+    sweep(std::string_view name, std::string_view tier = "default", int width = 8);
+    const std::vector<words>& operator()(const std::vector<words>& arguments); // any number of lanes
+    const kernel_row& row() const { return *s.row; }
+
+private:
+    subject s;
+    lane_caller call;
+    std::vector<words> results;
+};
+
+// The largest error against the truth over lanes, with the argument where it occurs.
+struct worst {
+    double ulps = 0;
+    uint64_t argument = 0;
+};
+worst worst_error(sweep& f, truth& t, const std::vector<words>& arguments, int result = 0);
+
+} // namespace orvane
