@@ -5,7 +5,7 @@ cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 
 # The library needs cmake, ninja-build and g++; the rest serves tools, tests and benchmarks.
 packages=(cmake ninja-build g++ pkg-config
-    libmpfr-dev libgtest-dev libbenchmark-dev libsleef-dev libcli11-dev nlohmann-json3-dev libzydis-dev libelf-dev)
+    libmpfr-dev libgtest-dev libbenchmark-dev libsleef-dev libcli11-dev nlohmann-json3-dev libzydis-dev)
 
 install_missing() {
     command -v dpkg-query >/dev/null || return 0 # not a Debian: CMake says what it misses
