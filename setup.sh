@@ -29,6 +29,16 @@ install_missing() {
     "${apt[@]}" install --yes --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
+check_processor() {
+    local flag
+    for flag in avx2 fma; do
+        grep -qw "$flag" /proc/cpuinfo || {
+            echo "error: this processor has no $flag, which every kernel needs" >&2
+            return 1
+        }
+    done
+}
+
 configure() {
     # A build/ that someone configured in another way keeps its generator and build type, and gets what is missing.
     if [[ ! -e build/CMakeCache.txt ]]; then cmake --preset tests
@@ -39,5 +49,6 @@ configure() {
 }
 
 install_missing
+check_processor
 configure
 cmake --build build --parallel "$(nproc)"

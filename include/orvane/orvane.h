@@ -1,0 +1,358 @@
+/* The exports of liborvane_l9.so, as far as they are built. Written by write-exports.
+ *
+ * Register-form exports take lane vectors in vector registers 0 to 3 and give them back from 0 on; a vector type here is
+ * the register: orvane_float4 for up to four lanes of float, lane 0 lowest, lanes beyond the width ignored; a 3-wide
+ * vector has a spare fourth lane, and its out-object room for it. What C cannot call (results in several registers) is
+ * declared for its address alone, with its registers; orvane/call.hpp calls it from C++ by that address.
+ *
+ * Every call keeps rbx, rbp, rsp, r12 to r15; a register-form call also vector registers 8 to 15, all 256 bits, and rdi
+ * and rsi unless an argument travels there. A compiler that calls through this header need not know. */
+#ifndef ORVANE_H
+#define ORVANE_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#define ORVANE_NOT_C __attribute__((error("results in several registers: orvane/call.hpp calls this from C++")))
+
+typedef float orvane_float4 __attribute__((vector_size(16), aligned(4)));
+typedef float orvane_float8 __attribute__((vector_size(32), aligned(4)));
+typedef double orvane_double2 __attribute__((vector_size(16), aligned(8)));
+typedef double orvane_double4 __attribute__((vector_size(32), aligned(8)));
+typedef int32_t orvane_int4 __attribute__((vector_size(16), aligned(4)));
+typedef int32_t orvane_int8 __attribute__((vector_size(32), aligned(4)));
+typedef uint32_t orvane_uint4 __attribute__((vector_size(16), aligned(4)));
+typedef uint32_t orvane_uint8 __attribute__((vector_size(32), aligned(4)));
+typedef int64_t orvane_long2 __attribute__((vector_size(16), aligned(8)));
+typedef int64_t orvane_long4 __attribute__((vector_size(32), aligned(8)));
+typedef uint64_t orvane_ulong2 __attribute__((vector_size(16), aligned(8)));
+typedef uint64_t orvane_ulong4 __attribute__((vector_size(32), aligned(8)));
+
+/* expf: e to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_float4 __orvane_l9_expf1(orvane_float4 x);
+orvane_float4 __orvane_l9_expf2(orvane_float4 x);
+orvane_float4 __orvane_l9_expf3(orvane_float4 x);
+orvane_float4 __orvane_l9_expf4(orvane_float4 x);
+orvane_float8 __orvane_l9_expf8(orvane_float8 x);
+void __orvane_l9_expf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_expf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_expf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_expf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_expf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_expf8_rm(orvane_float8 x);
+void __orvane_l9_expf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_expf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_expf8_native(orvane_float8 x);
+void __orvane_l9_expf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_expf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_expf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_expf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_expf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_expf8_half(orvane_float8 x);
+void __orvane_l9_expf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
+orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
+orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
+orvane_double4 __orvane_l9_ceil3(orvane_double4 x);
+orvane_double4 __orvane_l9_ceil4(orvane_double4 x);
+void __orvane_l9_ceil8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_ceil16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* ceilf: Smallest integer not below x. A zero result keeps the sign of x. */
+orvane_float4 __orvane_l9_ceilf1(orvane_float4 x);
+orvane_float4 __orvane_l9_ceilf2(orvane_float4 x);
+orvane_float4 __orvane_l9_ceilf3(orvane_float4 x);
+orvane_float4 __orvane_l9_ceilf4(orvane_float4 x);
+orvane_float8 __orvane_l9_ceilf8(orvane_float8 x);
+void __orvane_l9_ceilf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* floor: Largest integer not above x. A zero result keeps the sign of x. */
+orvane_double2 __orvane_l9_floor1(orvane_double2 x);
+orvane_double2 __orvane_l9_floor2(orvane_double2 x);
+orvane_double4 __orvane_l9_floor3(orvane_double4 x);
+orvane_double4 __orvane_l9_floor4(orvane_double4 x);
+void __orvane_l9_floor8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_floor16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* floorf: Largest integer not above x. A zero result keeps the sign of x. */
+orvane_float4 __orvane_l9_floorf1(orvane_float4 x);
+orvane_float4 __orvane_l9_floorf2(orvane_float4 x);
+orvane_float4 __orvane_l9_floorf3(orvane_float4 x);
+orvane_float4 __orvane_l9_floorf4(orvane_float4 x);
+orvane_float8 __orvane_l9_floorf8(orvane_float8 x);
+void __orvane_l9_floorf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* trunc: x rounded toward zero to an integer. A zero result keeps the sign of x. */
+orvane_double2 __orvane_l9_trunc1(orvane_double2 x);
+orvane_double2 __orvane_l9_trunc2(orvane_double2 x);
+orvane_double4 __orvane_l9_trunc3(orvane_double4 x);
+orvane_double4 __orvane_l9_trunc4(orvane_double4 x);
+void __orvane_l9_trunc8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_trunc16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* truncf: x rounded toward zero to an integer. A zero result keeps the sign of x. */
+orvane_float4 __orvane_l9_truncf1(orvane_float4 x);
+orvane_float4 __orvane_l9_truncf2(orvane_float4 x);
+orvane_float4 __orvane_l9_truncf3(orvane_float4 x);
+orvane_float4 __orvane_l9_truncf4(orvane_float4 x);
+orvane_float8 __orvane_l9_truncf8(orvane_float8 x);
+void __orvane_l9_truncf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* rint: Nearest integer by the caller's rounding mode. */
+orvane_double2 __orvane_l9_rint1(orvane_double2 x);
+orvane_double2 __orvane_l9_rint2(orvane_double2 x);
+orvane_double4 __orvane_l9_rint3(orvane_double4 x);
+orvane_double4 __orvane_l9_rint4(orvane_double4 x);
+void __orvane_l9_rint8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_rint16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* rintf: Nearest integer by the caller's rounding mode. */
+orvane_float4 __orvane_l9_rintf1(orvane_float4 x);
+orvane_float4 __orvane_l9_rintf2(orvane_float4 x);
+orvane_float4 __orvane_l9_rintf3(orvane_float4 x);
+orvane_float4 __orvane_l9_rintf4(orvane_float4 x);
+orvane_float8 __orvane_l9_rintf8(orvane_float8 x);
+void __orvane_l9_rintf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* nearbyint: Nearest integer by the caller's rounding mode, without the inexact flag. */
+orvane_double2 __orvane_l9_nearbyint1(orvane_double2 x);
+orvane_double2 __orvane_l9_nearbyint2(orvane_double2 x);
+orvane_double4 __orvane_l9_nearbyint3(orvane_double4 x);
+orvane_double4 __orvane_l9_nearbyint4(orvane_double4 x);
+void __orvane_l9_nearbyint8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_nearbyint16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* nearbyintf: Nearest integer by the caller's rounding mode, without the inexact flag. */
+orvane_float4 __orvane_l9_nearbyintf1(orvane_float4 x);
+orvane_float4 __orvane_l9_nearbyintf2(orvane_float4 x);
+orvane_float4 __orvane_l9_nearbyintf3(orvane_float4 x);
+orvane_float4 __orvane_l9_nearbyintf4(orvane_float4 x);
+orvane_float8 __orvane_l9_nearbyintf8(orvane_float8 x);
+void __orvane_l9_nearbyintf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* round: Nearest integer, ties away from zero. */
+orvane_double2 __orvane_l9_round1(orvane_double2 x);
+orvane_double2 __orvane_l9_round2(orvane_double2 x);
+orvane_double4 __orvane_l9_round3(orvane_double4 x);
+orvane_double4 __orvane_l9_round4(orvane_double4 x);
+void __orvane_l9_round8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_round16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* roundf: Nearest integer, ties away from zero. */
+orvane_float4 __orvane_l9_roundf1(orvane_float4 x);
+orvane_float4 __orvane_l9_roundf2(orvane_float4 x);
+orvane_float4 __orvane_l9_roundf3(orvane_float4 x);
+orvane_float4 __orvane_l9_roundf4(orvane_float4 x);
+orvane_float8 __orvane_l9_roundf8(orvane_float8 x);
+void __orvane_l9_roundf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* fract: x - floor(x), below 1; floor(x) goes to the out-lane. A NaN goes on as it came. */
+orvane_double2 __orvane_l9_fract1(double* out, orvane_double2 x);
+orvane_double2 __orvane_l9_fract2(double* out, orvane_double2 x);
+orvane_double4 __orvane_l9_fract3(double* out, orvane_double4 x);
+orvane_double4 __orvane_l9_fract4(double* out, orvane_double4 x);
+void __orvane_l9_fract8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_fract16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* fractf: x - floor(x), below 1; floor(x) goes to the out-lane. A NaN goes on as it came. */
+orvane_float4 __orvane_l9_fractf1(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_fractf2(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_fractf3(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_fractf4(float* out, orvane_float4 x);
+orvane_float8 __orvane_l9_fractf8(float* out, orvane_float8 x);
+void __orvane_l9_fractf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
+/* modf: Fraction of x with its sign; trunc(x) goes to the out-lane. A NaN is quieted. */
+orvane_double2 __orvane_l9_modf1(double* out, orvane_double2 x);
+orvane_double2 __orvane_l9_modf2(double* out, orvane_double2 x);
+orvane_double4 __orvane_l9_modf3(double* out, orvane_double4 x);
+orvane_double4 __orvane_l9_modf4(double* out, orvane_double4 x);
+void __orvane_l9_modf8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_modf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* modff: Fraction of x with its sign; trunc(x) goes to the out-lane. A NaN is quieted. */
+orvane_float4 __orvane_l9_modff1(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_modff2(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_modff3(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_modff4(float* out, orvane_float4 x);
+orvane_float8 __orvane_l9_modff8(float* out, orvane_float8 x);
+void __orvane_l9_modff16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
+/* fmin: The smaller of x and y; y on a tie. Of a NaN and a number the number. */
+orvane_double2 __orvane_l9_fmin1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_fmin2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_fmin3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_fmin4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_fmin8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_fmin16 { double x[16]; double y[16]; };
+void* __orvane_l9_fmin16(void* result, struct orvane_args_fmin16 arguments);
+
+/* fminf: The smaller of x and y; y on a tie. Of a NaN and a number the number. */
+orvane_float4 __orvane_l9_fminf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fminf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fminf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fminf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_fminf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_fminf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* fmax: The larger of x and y; y on a tie. Of a NaN and a number the number. */
+orvane_double2 __orvane_l9_fmax1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_fmax2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_fmax3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_fmax4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_fmax8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_fmax16 { double x[16]; double y[16]; };
+void* __orvane_l9_fmax16(void* result, struct orvane_args_fmax16 arguments);
+
+/* fmaxf: The larger of x and y; y on a tie. Of a NaN and a number the number. */
+orvane_float4 __orvane_l9_fmaxf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmaxf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmaxf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmaxf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_fmaxf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_fmaxf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* minmag: The argument of smaller magnitude; fmin of equal ones. Of a NaN and a number the number. */
+orvane_double2 __orvane_l9_minmag1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_minmag2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_minmag3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_minmag4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_minmag8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_minmag16 { double x[16]; double y[16]; };
+void* __orvane_l9_minmag16(void* result, struct orvane_args_minmag16 arguments);
+
+/* minmagf: The argument of smaller magnitude; fmin of equal ones. Of a NaN and a number the number. */
+orvane_float4 __orvane_l9_minmagf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_minmagf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_minmagf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_minmagf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_minmagf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_minmagf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* maxmag: The argument of larger magnitude; fmax of equal ones. Of a NaN and a number the number. */
+orvane_double2 __orvane_l9_maxmag1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_maxmag2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_maxmag3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_maxmag4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_maxmag8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_maxmag16 { double x[16]; double y[16]; };
+void* __orvane_l9_maxmag16(void* result, struct orvane_args_maxmag16 arguments);
+
+/* maxmagf: The argument of larger magnitude; fmax of equal ones. Of a NaN and a number the number. */
+orvane_float4 __orvane_l9_maxmagf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_maxmagf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_maxmagf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_maxmagf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_maxmagf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_maxmagf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* fdim: Positive difference: x - y if x > y, else +0. NaN if an argument is. */
+orvane_double2 __orvane_l9_fdim1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_fdim2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_fdim3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_fdim4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_fdim8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_fdim16 { double x[16]; double y[16]; };
+void* __orvane_l9_fdim16(void* result, struct orvane_args_fdim16 arguments);
+
+/* fdimf: Positive difference: x - y if x > y, else +0. NaN if an argument is. */
+orvane_float4 __orvane_l9_fdimf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fdimf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fdimf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fdimf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_fdimf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_fdimf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* fma: a b + c with one rounding. */
+orvane_double2 __orvane_l9_fma1(orvane_double2 x, orvane_double2 y, orvane_double2 z);
+orvane_double2 __orvane_l9_fma2(orvane_double2 x, orvane_double2 y, orvane_double2 z);
+orvane_double4 __orvane_l9_fma3(orvane_double4 x, orvane_double4 y, orvane_double4 z);
+orvane_double4 __orvane_l9_fma4(orvane_double4 x, orvane_double4 y, orvane_double4 z);
+struct orvane_args_fma8 { double x[8]; double y[8]; double z[8]; };
+void* __orvane_l9_fma8(void* result, struct orvane_args_fma8 arguments);
+struct orvane_args_fma16 { double x[16]; double y[16]; double z[16]; };
+void* __orvane_l9_fma16(void* result, struct orvane_args_fma16 arguments);
+orvane_double2 __orvane_l9_fma1_rm(orvane_double2 x, orvane_double2 y, orvane_double2 z);
+orvane_double2 __orvane_l9_fma2_rm(orvane_double2 x, orvane_double2 y, orvane_double2 z);
+orvane_double4 __orvane_l9_fma3_rm(orvane_double4 x, orvane_double4 y, orvane_double4 z);
+orvane_double4 __orvane_l9_fma4_rm(orvane_double4 x, orvane_double4 y, orvane_double4 z);
+struct orvane_args_fma8_rm { double x[8]; double y[8]; double z[8]; };
+void* __orvane_l9_fma8_rm(void* result, struct orvane_args_fma8_rm arguments);
+struct orvane_args_fma16_rm { double x[16]; double y[16]; double z[16]; };
+void* __orvane_l9_fma16_rm(void* result, struct orvane_args_fma16_rm arguments);
+
+/* fmaf: a b + c with one rounding. */
+orvane_float4 __orvane_l9_fmaf1(orvane_float4 x, orvane_float4 y, orvane_float4 z);
+orvane_float4 __orvane_l9_fmaf2(orvane_float4 x, orvane_float4 y, orvane_float4 z);
+orvane_float4 __orvane_l9_fmaf3(orvane_float4 x, orvane_float4 y, orvane_float4 z);
+orvane_float4 __orvane_l9_fmaf4(orvane_float4 x, orvane_float4 y, orvane_float4 z);
+orvane_float8 __orvane_l9_fmaf8(orvane_float8 x, orvane_float8 y, orvane_float8 z);
+struct orvane_args_fmaf16 { float x[16]; float y[16]; float z[16]; };
+void* __orvane_l9_fmaf16(void* result, struct orvane_args_fmaf16 arguments);
+orvane_float4 __orvane_l9_fmaf1_rm(orvane_float4 x, orvane_float4 y, orvane_float4 z);
+orvane_float4 __orvane_l9_fmaf2_rm(orvane_float4 x, orvane_float4 y, orvane_float4 z);
+orvane_float4 __orvane_l9_fmaf3_rm(orvane_float4 x, orvane_float4 y, orvane_float4 z);
+orvane_float4 __orvane_l9_fmaf4_rm(orvane_float4 x, orvane_float4 y, orvane_float4 z);
+orvane_float8 __orvane_l9_fmaf8_rm(orvane_float8 x, orvane_float8 y, orvane_float8 z);
+struct orvane_args_fmaf16_rm { float x[16]; float y[16]; float z[16]; };
+void* __orvane_l9_fmaf16_rm(void* result, struct orvane_args_fmaf16_rm arguments);
+
+/* idiv: Quotient truncated toward zero. 0x80000000 for b = 0 and for -2^31 / -1. */
+int32_t __orvane_l9_idiv1(int32_t x, int32_t y);
+orvane_int4 __orvane_l9_idiv2(orvane_int4 x, orvane_int4 y);
+orvane_int4 __orvane_l9_idiv3(orvane_int4 x, orvane_int4 y);
+orvane_int4 __orvane_l9_idiv4(orvane_int4 x, orvane_int4 y);
+orvane_int8 __orvane_l9_idiv8(orvane_int8 x, orvane_int8 y);
+void __orvane_l9_idiv16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* irem: Remainder a - q b, with the sign of a. a for b = 0. */
+int32_t __orvane_l9_irem1(int32_t x, int32_t y);
+orvane_int4 __orvane_l9_irem2(orvane_int4 x, orvane_int4 y);
+orvane_int4 __orvane_l9_irem3(orvane_int4 x, orvane_int4 y);
+orvane_int4 __orvane_l9_irem4(orvane_int4 x, orvane_int4 y);
+orvane_int8 __orvane_l9_irem8(orvane_int8 x, orvane_int8 y);
+void __orvane_l9_irem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* idivrem: Quotient truncated toward zero, and remainder: idiv and irem of one computation. */
+uint64_t __orvane_l9_idivrem1(int32_t x, int32_t y);
+void __orvane_l9_idivrem2(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_idivrem3(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_idivrem4(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_idivrem8(void) ORVANE_NOT_C; /* in ymm0, ymm1; out ymm0, ymm1 */
+void __orvane_l9_idivrem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, ymm2 ymm3 */
+
+/* udiv: Quotient of unsigned integers. 0 for b = 0. */
+uint32_t __orvane_l9_udiv1(uint32_t x, uint32_t y);
+orvane_uint4 __orvane_l9_udiv2(orvane_uint4 x, orvane_uint4 y);
+orvane_uint4 __orvane_l9_udiv3(orvane_uint4 x, orvane_uint4 y);
+orvane_uint4 __orvane_l9_udiv4(orvane_uint4 x, orvane_uint4 y);
+orvane_uint8 __orvane_l9_udiv8(orvane_uint8 x, orvane_uint8 y);
+void __orvane_l9_udiv16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* urem: Remainder of unsigned integers. a for b = 0. */
+uint32_t __orvane_l9_urem1(uint32_t x, uint32_t y);
+orvane_uint4 __orvane_l9_urem2(orvane_uint4 x, orvane_uint4 y);
+orvane_uint4 __orvane_l9_urem3(orvane_uint4 x, orvane_uint4 y);
+orvane_uint4 __orvane_l9_urem4(orvane_uint4 x, orvane_uint4 y);
+orvane_uint8 __orvane_l9_urem8(orvane_uint8 x, orvane_uint8 y);
+void __orvane_l9_urem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* udivrem: Quotient and remainder of unsigned integers: udiv and urem of one computation. */
+uint64_t __orvane_l9_udivrem1(uint32_t x, uint32_t y);
+void __orvane_l9_udivrem2(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_udivrem3(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_udivrem4(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_udivrem8(void) ORVANE_NOT_C; /* in ymm0, ymm1; out ymm0, ymm1 */
+void __orvane_l9_udivrem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, ymm2 ymm3 */
+
+#ifdef __cplusplus
+}
+#endif
+#endif

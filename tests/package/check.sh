@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Installs the library and uses it from outside.
+#     check.sh SOURCES BUILD SCRATCH GENERATOR
+set -euo pipefail
+sources=$1 build=$2 scratch=$3 generator=$4
+rm -rf "$scratch"
+mkdir -p "$scratch"
+log=$scratch/log
+trap 'tail -n 20 "$log" 2>/dev/null' ERR
+
+# The library alone: nothing of what tests and tools need is looked for.
+cmake -S "$sources" -B "$scratch/alone" -G "$generator" -DORVANE_TESTS=OFF >"$log" 2>&1
+if grep -iE '(mpfr|gtest|sleef|zydis|nlohmann|cli11|benchmark)[a-z0-9_]*:' "$scratch/alone/CMakeCache.txt"; then
+    echo "the library alone looks for a library of the tests" >&2
+    exit 1
+fi
+
+cmake --install "$build" --prefix "$scratch/prefix" >>"$log" 2>&1
+
+cmake -S "$sources/tests/package" -B "$scratch/consumer" -G "$generator" -DCMAKE_PREFIX_PATH="$scratch/prefix" >>"$log" 2>&1
+cmake --build "$scratch/consumer" >>"$log" 2>&1
+for program in use_orvane_l9 use_orvane_l9_static; do
+    [ "$("$scratch/consumer/$program")" = "1 2.71828175" ]
+done
+
+export PKG_CONFIG_PATH
+PKG_CONFIG_PATH=$(dirname "$(find "$scratch/prefix" -name orvane.pc)")
+(cd "$scratch" && cc -c -mavx2 -Wno-psabi $(pkg-config --cflags orvane) "$sources/tests/package/consumer.c")
+c++ -std=c++20 -mavx2 -Wno-psabi $(pkg-config --cflags orvane) "$sources/tests/package/wide.cpp" "$scratch/consumer.o" \
+    $(pkg-config --libs orvane) -o "$scratch/by_pkg_config"
+[ "$(LD_LIBRARY_PATH=$(pkg-config --variable=libdir orvane) "$scratch/by_pkg_config")" = "1 2.71828175" ]
+[ -f "$scratch/prefix/include/orvane/exports.json" ]
+echo "the installed package works by find_package and by pkg-config"
