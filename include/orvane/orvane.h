@@ -31,6 +31,32 @@ typedef int64_t orvane_long4 __attribute__((vector_size(32), aligned(8)));
 typedef uint64_t orvane_ulong2 __attribute__((vector_size(16), aligned(8)));
 typedef uint64_t orvane_ulong4 __attribute__((vector_size(32), aligned(8)));
 
+/* exp: e to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp1(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4(orvane_double4 x);
+void __orvane_l9_exp8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_rm(orvane_double4 x);
+void __orvane_l9_exp8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_native(orvane_double4 x);
+void __orvane_l9_exp8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_half(orvane_double4 x);
+void __orvane_l9_exp8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
 /* expf: e to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
 orvane_float4 __orvane_l9_expf1(orvane_float4 x);
 orvane_float4 __orvane_l9_expf2(orvane_float4 x);
@@ -56,6 +82,138 @@ orvane_float4 __orvane_l9_expf3_half(orvane_float4 x);
 orvane_float4 __orvane_l9_expf4_half(orvane_float4 x);
 orvane_float8 __orvane_l9_expf8_half(orvane_float8 x);
 void __orvane_l9_expf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* exp2: 2 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp21(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24(orvane_double4 x);
+void __orvane_l9_exp28(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp216(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_rm(orvane_double4 x);
+void __orvane_l9_exp28_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp216_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_native(orvane_double4 x);
+void __orvane_l9_exp28_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp216_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_half(orvane_double4 x);
+void __orvane_l9_exp28_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp216_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* exp2f: 2 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_float4 __orvane_l9_exp2f1(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8(orvane_float8 x);
+void __orvane_l9_exp2f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_rm(orvane_float8 x);
+void __orvane_l9_exp2f16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_native(orvane_float8 x);
+void __orvane_l9_exp2f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_half(orvane_float8 x);
+void __orvane_l9_exp2f16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* exp10: 10 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp101(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104(orvane_double4 x);
+void __orvane_l9_exp108(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp1016(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_rm(orvane_double4 x);
+void __orvane_l9_exp108_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp1016_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_native(orvane_double4 x);
+void __orvane_l9_exp108_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp1016_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_half(orvane_double4 x);
+void __orvane_l9_exp108_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp1016_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* exp10f: 10 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_float4 __orvane_l9_exp10f1(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8(orvane_float8 x);
+void __orvane_l9_exp10f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_rm(orvane_float8 x);
+void __orvane_l9_exp10f16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_native(orvane_float8 x);
+void __orvane_l9_exp10f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_half(orvane_float8 x);
+void __orvane_l9_exp10f16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* expm1: e to the power x, minus 1, without cancellation near 0. -1 of -Inf; zeros come back as they are. */
+orvane_double2 __orvane_l9_expm11(orvane_double2 x);
+orvane_double2 __orvane_l9_expm12(orvane_double2 x);
+orvane_double4 __orvane_l9_expm13(orvane_double4 x);
+orvane_double4 __orvane_l9_expm14(orvane_double4 x);
+void __orvane_l9_expm18(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_expm116(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_expm11_native(orvane_double2 x);
+orvane_double2 __orvane_l9_expm12_native(orvane_double2 x);
+orvane_double4 __orvane_l9_expm13_native(orvane_double4 x);
+orvane_double4 __orvane_l9_expm14_native(orvane_double4 x);
+void __orvane_l9_expm18_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_expm116_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* expm1f: e to the power x, minus 1, without cancellation near 0. -1 of -Inf; zeros come back as they are. */
+orvane_float4 __orvane_l9_expm1f1(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f2(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f3(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f4(orvane_float4 x);
+orvane_float8 __orvane_l9_expm1f8(orvane_float8 x);
+void __orvane_l9_expm1f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_expm1f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_expm1f8_native(orvane_float8 x);
+void __orvane_l9_expm1f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);

@@ -1,15 +1,16 @@
 #!/usr/bin/env bash
 # Installs the library and uses it from outside.
-#     check.sh SOURCES BUILD SCRATCH GENERATOR
+#     check.sh SOURCES BUILD SCRATCH
 set -euo pipefail
-sources=$1 build=$2 scratch=$3 generator=$4
+sources=$1 build=$2 scratch=$3
+export CMAKE_GENERATOR=Ninja
 rm -rf "$scratch"
 mkdir -p "$scratch"
 log=$scratch/log
 trap 'tail -n 20 "$log" 2>/dev/null' ERR
 
 # The library alone: nothing of what tests and tools need is looked for.
-cmake -S "$sources" -B "$scratch/alone" -G "$generator" -DORVANE_TESTS=OFF >"$log" 2>&1
+cmake -S "$sources" -B "$scratch/alone" -DORVANE_TESTS=OFF >"$log" 2>&1
 if grep -iE '(mpfr|gtest|sleef|zydis|nlohmann|cli11|benchmark)[a-z0-9_]*:' "$scratch/alone/CMakeCache.txt"; then
     echo "the library alone looks for a library of the tests" >&2
     exit 1
@@ -17,7 +18,7 @@ fi
 
 cmake --install "$build" --prefix "$scratch/prefix" >>"$log" 2>&1
 
-cmake -S "$sources/tests/package" -B "$scratch/consumer" -G "$generator" -DCMAKE_PREFIX_PATH="$scratch/prefix" >>"$log" 2>&1
+cmake -S "$sources/tests/package" -B "$scratch/consumer" -DCMAKE_PREFIX_PATH="$scratch/prefix" >>"$log" 2>&1
 cmake --build "$scratch/consumer" >>"$log" 2>&1
 for program in use_orvane_l9 use_orvane_l9_static; do
     [ "$("$scratch/consumer/$program")" = "1 2.71828175" ]
