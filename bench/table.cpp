@@ -33,7 +33,7 @@ void print_table(const std::vector<table_row>& rows, const gathering_reporter& m
                                                     "ratio"},
                                                    {}};
     for (const table_row& r : rows) {
-        std::vector<std::string> line = {r.family, r.tiers, std::to_string(r.width), text("%.2f", r.error)};
+        std::vector<std::string> line = {r.family, r.tiers, std::to_string(r.width), text(r.error < 100 ? "%.2f" : "%.3g", r.error)};
         bool any = false;
         for (const char* set : lane_sets) {
             auto of = [&](const std::string& name) { return measured.nanoseconds(name + '/' + set); };
