@@ -22,8 +22,8 @@ struct dlog1p_block {
     SLOT(double, 204, abs_mask, 0x7FFFFFFFFFFFFFFF)
     SLOT(double, 205, tiny_limit, 0x3E00000000000000)   // 2^-31, below it z keeps all its bits
     SLOT(double, 206, z_mask, 0xFFFFFFFFFFFFFC00)       // clears the low 10 bits of z
-    SLOT(double, 207, ln2_hi, 0x3FE62E42FEFA0000)       // 0.6931471805582987, as in Part 3.1
-    SLOT(double, 208, ln2_lo, 0x3D7CF79ABC9E0000)       // 1.6465949582866463e-12, as in Part 3.1
+    SLOT(double, 207, ln2_hi, 0x3FE62E42FEFA0000)       // 0.6931471805582987, as in log
+    SLOT(double, 208, ln2_lo, 0x3D7CF79ABC9E0000)       // 1.6465949582866463e-12, as in log
     SLOT(double, 209, c_split, 0x4086A00000000000)      // 724.0
     SLOT(double, 210, bias_small_m, 0x408FF80000000000) // 1023.0
     SLOT(double, 211, bias_large_m, 0x408FF00000000000) // 1022.0
