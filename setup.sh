@@ -1,39 +1,54 @@
-# Set-up that ./run and ./test share: installs what is missing (Debian 12), configures once and builds. To be sourced.
+# Sourced by ./run and ./test: from a Debian 12 with git and apt alone to a finished build/. What is there already is
+# neither installed, configured nor built again.
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")"
+cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 
-packages=(cmake ninja-build g++ libmpfr-dev libgtest-dev libbenchmark-dev libsleef-dev libcli11-dev nlohmann-json3-dev
-          libzydis-dev pkg-config)
+# The library needs cmake, ninja-build and g++; the rest serves tools, tests and benchmarks.
+packages=(cmake ninja-build g++ pkg-config
+    libmpfr-dev libgtest-dev libbenchmark-dev libsleef-dev libcli11-dev nlohmann-json3-dev libzydis-dev)
 
 install_missing() {
-    local missing=() p
+    command -v dpkg-query >/dev/null || return 0 # not a Debian: CMake says what it misses
+    local installed missing=() p
+    installed=" $(dpkg-query -W -f '${Package}=${db:Status-Status} ' "${packages[@]}" 2>/dev/null || true)"
     for p in "${packages[@]}"; do
-        [ "$(dpkg-query -W -f '${db:Status-Status}' "$p" 2>/dev/null)" = installed ] || missing+=("$p")
+        [[ $installed == *" $p=installed "* ]] || missing+=("$p")
     done
-    [ ${#missing[@]} -eq 0 ] && return
-    echo "installing ${missing[*]}"
-    local as_root=()
-    if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || { echo "these packages are missing and there is no sudo: ${missing[*]}" >&2; exit 1; }
-        as_root=(sudo)
+    ((${#missing[@]})) || return 0
+
+    echo "Installing ${missing[*]}"
+    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3)
+    if ((EUID)); then
+        command -v sudo >/dev/null || {
+            echo "error: ${missing[*]} missing: install with apt-get as root, or install sudo" >&2
+            return 1
+        }
+        apt=(sudo "${apt[@]}")
     fi
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q update >/dev/null
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}" >/dev/null
+    "${apt[@]}" update </dev/null
+    "${apt[@]}" install --yes --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
 check_processor() {
     local flag
     for flag in avx2 fma; do
-        grep -qw "$flag" /proc/cpuinfo || { echo "this processor has no $flag, which every kernel needs" >&2; exit 1; }
+        grep -qw "$flag" /proc/cpuinfo || {
+            echo "error: this processor has no $flag, which every kernel needs" >&2
+            return 1
+        }
     done
 }
 
-# Ninja finds by itself what is up to date; configuring is its business too once the folder stands.
-build() {
-    [ -f build/build.ninja ] || cmake -B build -G Ninja -DCMAKE_BUILD_TYPE=Release >/dev/null
-    cmake --build build --parallel "$(nproc)" -- --quiet
+configure() {
+    # A build/ that someone configured in another way keeps its generator and build type, and gets what is missing.
+    if [[ ! -e build/CMakeCache.txt ]]; then cmake --preset tests
+    elif ! grep -q '^ORVANE_TESTS:BOOL=ON$' build/CMakeCache.txt || ! grep -q '^ORVANE_BENCH:BOOL=ON$' build/CMakeCache.txt; then
+        cmake -S . -B build -DORVANE_TESTS=ON -DORVANE_BENCH=ON
+    elif [[ ! -e build/build.ninja && ! -e build/Makefile ]]; then cmake -S . -B build # an earlier try failed
+    fi
 }
 
 install_missing
 check_processor
-build
+configure
+cmake --build build --parallel "$(nproc)"

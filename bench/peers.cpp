@@ -1,287 +1,311 @@
-#include "peers.h"
+#include "bench/peers.h"
 
 #include <cmath>
+#include <cstring>
 #include <immintrin.h>
 #include <map>
+#include <numbers>
 #include <sleef.h>
 
 namespace orvane::bench {
 
 namespace {
 
-// Loops over lane vectors of a function of one, two or three arguments.
-template <class T> struct vector_of;
-template <> struct vector_of<float> {
-    using type = __m256;
-    static type load(const void* p, size_t i) { return _mm256_loadu_ps((const float*)p + i); }
-    static void store(void* p, size_t i, type v) { _mm256_storeu_ps((float*)p + i, v); }
+// ---- Scalar code. A shape computes lane i of the first result in the type T from lanes of the type L; a second
+// result goes to its own array.
+
+template <class F> struct one {
+    F f;
+    template <class L, class T> auto at(buffer& b, int i) const { return f(T(b.argument[0].as<L>()[i])); }
 };
-template <> struct vector_of<double> {
-    using type = __m256d;
-    static type load(const void* p, size_t i) { return _mm256_loadu_pd((const double*)p + i); }
-    static void store(void* p, size_t i, type v) { _mm256_storeu_pd((double*)p + i, v); }
+template <class F> struct two {
+    F f;
+    template <class L, class T> auto at(buffer& b, int i) const {
+        return f(T(b.argument[0].as<L>()[i]), T(b.argument[1].as<L>()[i]));
+    }
 };
-template <class T, class F> peer over_vectors(F f) {
-    using V = vector_of<T>;
-    return [f](const operands& o) {
-        for (size_t i = 0; i < o.n; i += 32 / sizeof(T)) {
-            const auto x = V::load(o.x, i);
-            if constexpr (std::is_invocable_v<F, decltype(x)>) V::store(o.out, i, f(x));
-            else if constexpr (std::is_invocable_v<F, decltype(x), decltype(x)>)
-                V::store(o.out, i, f(x, V::load(o.y, i)));
-            else V::store(o.out, i, f(x, V::load(o.y, i), V::load(o.z, i)));
+template <class F> struct three {
+    F f;
+    template <class L, class T> auto at(buffer& b, int i) const {
+        return f(T(b.argument[0].as<L>()[i]), T(b.argument[1].as<L>()[i]), T(b.argument[2].as<L>()[i]));
+    }
+};
+template <class F> struct with_integer {
+    F f;
+    template <class L, class T> auto at(buffer& b, int i) const {
+        return f(T(b.argument[0].as<L>()[i]), b.argument[1].as<int32_t>()[i]);
+    }
+};
+template <class F> struct with_second {
+    F f;
+    template <class L, class T> auto at(buffer& b, int i) const {
+        T second;
+        const auto first = f(T(b.argument[0].as<L>()[i]), &second);
+        b.result[1].as<L>()[i] = L(second);
+        return first;
+    }
+};
+template <class F> struct with_integer_out {
+    F f;
+    template <class L, class T> auto at(buffer& b, int i) const {
+        return f(T(b.argument[0].as<L>()[i]), &b.result[1].as<int32_t>()[i]);
+    }
+};
+template <class F> struct two_with_integer_out {
+    F f;
+    template <class L, class T> auto at(buffer& b, int i) const {
+        return f(T(b.argument[0].as<L>()[i]), T(b.argument[1].as<L>()[i]), &b.result[1].as<int32_t>()[i]);
+    }
+};
+
+template <class T, class Shape> pass scalar_pass(Shape shape) {
+    using result = decltype(shape.template at<T, T>(std::declval<buffer&>(), 0));
+    return [shape](buffer& b) {
+        for (int i = 0; i < lanes_of_buffer; i++)
+            b.result[0].as<result>()[i] = shape.template at<T, T>(b, i);
+    };
+}
+template <class T, class Shape> std::function<void(buffer&, long double*)> truth_pass(Shape shape) {
+    using result = decltype(shape.template at<T, T>(std::declval<buffer&>(), 0));
+    if constexpr (std::is_integral_v<result>) return {};
+    else
+        return [shape](buffer& b, long double* results) {
+            for (int i = 0; i < lanes_of_buffer; i++)
+                results[i] = shape.template at<T, long double>(b, i);
+        };
+}
+
+// What <cmath> has under other names or not for every type.
+float exp10_of(float x) { return exp10f(x); }
+double exp10_of(double x) { return exp10(x); }
+long double exp10_of(long double x) { return exp10l(x); }
+float sine_and_cosine(float x, float* c) { return sincosf(x, &x, c), x; }
+double sine_and_cosine(double x, double* c) { return sincos(x, &x, c), x; }
+long double sine_and_cosine(long double x, long double* c) { return sincosl(x, &x, c), x; }
+float lgamma_and_sign(float x, int* s) { return lgammaf_r(x, s); }
+double lgamma_and_sign(double x, int* s) { return lgamma_r(x, s); }
+long double lgamma_and_sign(long double x, int* s) { return lgammal_r(x, s); }
+
+// sin(pi x) from the distance to the nearest integer or half-integer, which is exact.
+template <class T> T sine_of_turns(T distance, T n) {
+    const T s = std::sin(std::numbers::pi_v<T> * distance);
+    return std::fmod(n, T(2)) == 0 ? s : -s;
+}
+template <class T> T sinpi_of(T x) {
+    const T n = std::rint(x);
+    return sine_of_turns(x - n, n);
+}
+template <class T> T cospi_of(T x) {
+    const T n = std::floor(x);
+    return sine_of_turns(T(0.5) - (x - n), n);
+}
+
+template <class T> T larger_magnitude(T x, T y) {
+    return std::fabs(x) > std::fabs(y) ? x : std::fabs(y) > std::fabs(x) ? y : std::fmax(x, y);
+}
+template <class T> T smaller_magnitude(T x, T y) {
+    return std::fabs(x) < std::fabs(y) ? x : std::fabs(y) < std::fabs(x) ? y : std::fmin(x, y);
+}
+
+// ---- SLEEF: N lanes a call.
+
+template <int N, class R, class... A> pass vector_pass(R (*f)(A...)) {
+    return [f](buffer& b) {
+        for (int i = 0; i < lanes_of_buffer; i += N) {
+            auto load = [&]<class V>(int j, V*) { return *(const V*)(b.argument[j].bytes + i * (sizeof(V) / N)); };
+            const R r = [&]<int... J>(std::integer_sequence<int, J...>) { return f(load(J, (A*)nullptr)...); }
+            (std::make_integer_sequence<int, sizeof...(A)>());
+            auto store = [&](int j, const auto& v) { memcpy(b.result[j].bytes + i * (sizeof v / N), &v, sizeof v); };
+            if constexpr (requires { r.y; }) store(0, r.x), store(1, r.y);
+            else store(0, r);
         }
     };
 }
-template <class T, class F> peer over_scalars(F f) {
-    return [f](const operands& o) {
-        const T *x = (const T*)o.x, *y = (const T*)o.y, *z = (const T*)o.z;
-        T* out = (T*)o.out;
-        for (size_t i = 0; i < o.n; i++) {
-            if constexpr (std::is_invocable_v<F, T>) out[i] = f(x[i]);
-            else if constexpr (std::is_invocable_v<F, T, T>) out[i] = f(x[i], y[i]);
-            else out[i] = f(x[i], y[i], z[i]);
-        }
-    };
-}
 
-struct pair_of_peers {
-    peer f32, f64;
+struct variants {
+    std::optional<peer> f32, f64;
 };
-#define SLEEF(base, ulp)                                                                                             \
-    {                                                                                                                \
-#base, {                                                                                                     \
-            over_vectors<float>([](auto... a) -> decltype(Sleef_##base##f8_##ulp##avx2(a...)) {                      \
-                return Sleef_##base##f8_##ulp##avx2(a...);                                                           \
-            }),                                                                                                      \
-                over_vectors<double>([](auto... a) -> decltype(Sleef_##base##d4_##ulp##avx2(a...)) {                 \
-                    return Sleef_##base##d4_##ulp##avx2(a...);                                                       \
-                })                                                                                                   \
-        }                                                                                                            \
+#define SLEEF(f, u)                                                                                                  \
+    variants {                                                                                                       \
+        peer{#u, vector_pass<8>(Sleef_##f##f8_##u##avx2)}, peer { #u, vector_pass < 4>(Sleef_##f##d4_##u##avx2) }    \
     }
-#define SLEEF_EXACT(base)                                                                                            \
-    {                                                                                                                \
-#base, {                                                                                                     \
-            over_vectors<float>(                                                                                     \
-                [](auto... a) -> decltype(Sleef_##base##f8_avx2(a...)) { return Sleef_##base##f8_avx2(a...); }),     \
-                over_vectors<double>(                                                                                \
-                    [](auto... a) -> decltype(Sleef_##base##d4_avx2(a...)) { return Sleef_##base##d4_avx2(a...); })  \
-        }                                                                                                            \
+#define SLEEF_PLAIN(f)                                                                                               \
+    variants {                                                                                                       \
+        peer{"", vector_pass<8>(Sleef_##f##f8_avx2)}, peer { "", vector_pass<4>(Sleef_##f##d4_avx2) }                \
     }
-const std::map<std::string, pair_of_peers>& accurate() {
-    static const std::map<std::string, pair_of_peers> m = {
-        SLEEF(exp, u10),
-        SLEEF(exp2, u10),
-        SLEEF(exp10, u10),
-        SLEEF(expm1, u10),
-        SLEEF(log, u10),
-        SLEEF(log2, u10),
-        SLEEF(log10, u10),
-        SLEEF(log1p, u10),
-        SLEEF(pow, u10),
-        SLEEF(sin, u10),
-        SLEEF(cos, u10),
-        SLEEF(tan, u10),
-        SLEEF(sinpi, u05),
-        SLEEF(cospi, u05),
-        SLEEF(asin, u10),
-        SLEEF(acos, u10),
-        SLEEF(atan, u10),
-        SLEEF(atan2, u10),
-        SLEEF(sinh, u10),
-        SLEEF(cosh, u10),
-        SLEEF(tanh, u10),
-        SLEEF(asinh, u10),
-        SLEEF(acosh, u10),
-        SLEEF(atanh, u10),
-        SLEEF(cbrt, u10),
-        SLEEF(hypot, u05),
-        SLEEF(erf, u10),
-        SLEEF(erfc, u15),
-        SLEEF(tgamma, u10),
-        SLEEF(lgamma, u10),
-        SLEEF(sqrt, u05),
-        SLEEF_EXACT(fmod),
-        SLEEF_EXACT(fdim),
-        SLEEF_EXACT(fma),
-        SLEEF_EXACT(fmin),
-        SLEEF_EXACT(fmax),
-        SLEEF_EXACT(rint),
-        SLEEF_EXACT(round),
-        SLEEF_EXACT(trunc),
-        SLEEF_EXACT(ceil),
-        SLEEF_EXACT(floor),
-        SLEEF_EXACT(fabs),
-        SLEEF_EXACT(copysign),
-        SLEEF_EXACT(nextafter),
-        {"modf",
-         {over_vectors<float>([](__m256 x) { return Sleef_modff8_avx2(x).x; }),
-          over_vectors<double>([](__m256d x) { return Sleef_modfd4_avx2(x).x; })}},
-        {"frexp",
-         {over_vectors<float>([](__m256 x) { return Sleef_frfrexpf8_avx2(x); }), over_vectors<double>([](__m256d x) {
-              const __m128i e = Sleef_expfrexpd4_avx2(x);
-              return _mm256_or_pd(Sleef_frfrexpd4_avx2(x), _mm256_and_pd(_mm256_cvtepi32_pd(e), _mm256_setzero_pd()));
-          })}},
-        {"sincos",
-         {over_vectors<float>([](__m256 x) {
-              const auto r = Sleef_sincosf8_u10avx2(x);
-              return _mm256_add_ps(r.x, r.y);
-          }),
-          over_vectors<double>([](__m256d x) {
-              const auto r = Sleef_sincosd4_u10avx2(x);
-              return _mm256_add_pd(r.x, r.y);
-          })}},
-    };
-    return m;
-}
-const std::map<std::string, pair_of_peers>& fast_ones() {
-    static const std::map<std::string, pair_of_peers> m = {
-        SLEEF(exp2, u35),
-        SLEEF(exp10, u35),
-        SLEEF(log, u35),
-        SLEEF(log2, u35),
-        SLEEF(sin, u35),
-        SLEEF(cos, u35),
-        SLEEF(tan, u35),
-        SLEEF(asin, u35),
-        SLEEF(acos, u35),
-        SLEEF(atan, u35),
-        SLEEF(atan2, u35),
-        SLEEF(sinh, u35),
-        SLEEF(cosh, u35),
-        SLEEF(tanh, u35),
-        SLEEF(cbrt, u35),
-        SLEEF(hypot, u35),
-        SLEEF(sqrt, u35),
-        {"sincos",
-         {over_vectors<float>([](__m256 x) {
-              const auto r = Sleef_sincosf8_u35avx2(x);
-              return _mm256_add_ps(r.x, r.y);
-          }),
-          over_vectors<double>([](__m256d x) {
-              const auto r = Sleef_sincosd4_u35avx2(x);
-              return _mm256_add_pd(r.x, r.y);
-          })}},
-    };
-    return m;
+
+__m256 pown_f32(__m256 x, __m256i n) { return Sleef_powf8_u10avx2(x, _mm256_cvtepi32_ps(n)); }
+__m256d pown_f64(__m256d x, __m128i n) { return Sleef_powd4_u10avx2(x, _mm256_cvtepi32_pd(n)); }
+__m256 rootn_f32(__m256 x, __m256i n) { return Sleef_powf8_u10avx2(x, 1.0f / _mm256_cvtepi32_ps(n)); }
+__m256d rootn_f64(__m256d x, __m128i n) { return Sleef_powd4_u10avx2(x, 1.0 / _mm256_cvtepi32_pd(n)); }
+
+// ---- The table, by base name.
+
+struct peers_of_both_types {
+    family_peers f32, f64;
+};
+
+template <class Shape>
+peers_of_both_types against(Shape shape, const variants& accurate = {}, const variants& fast = {}) {
+    return {{accurate.f32, fast.f32, scalar_pass<float>(shape), truth_pass<float>(shape)},
+            {accurate.f64, fast.f64, scalar_pass<double>(shape), truth_pass<double>(shape)}};
 }
 
-#define LIBM(base, call)                                                                                             \
-    {                                                                                                                \
-        base, {                                                                                                      \
-            over_scalars<float>([](auto... a) -> decltype(call(a...)) { return call(a...); }),                       \
-                over_scalars<double>([](auto... a) -> decltype(call(a...)) { return call(a...); })                   \
-        }                                                                                                            \
+// A function of scalar arguments as a lambda that takes them in any type.
+#define ONE(expression)                                                                                              \
+    one {                                                                                                            \
+        [](auto x) { return expression; }                                                                            \
     }
-const std::map<std::string, pair_of_peers>& scalar() {
-    static const std::map<std::string, pair_of_peers> m = {
-        LIBM("exp", std::exp),
-        LIBM("exp2", std::exp2),
-        LIBM("expm1", std::expm1),
-        LIBM("log", std::log),
-        LIBM("log2", std::log2),
-        LIBM("log10", std::log10),
-        LIBM("log1p", std::log1p),
-        LIBM("pow", std::pow),
-        LIBM("powr", std::pow),
-        LIBM("sin", std::sin),
-        LIBM("cos", std::cos),
-        LIBM("tan", std::tan),
-        LIBM("asin", std::asin),
-        LIBM("acos", std::acos),
-        LIBM("atan", std::atan),
-        LIBM("atan2", std::atan2),
-        LIBM("sinh", std::sinh),
-        LIBM("cosh", std::cosh),
-        LIBM("tanh", std::tanh),
-        LIBM("asinh", std::asinh),
-        LIBM("acosh", std::acosh),
-        LIBM("atanh", std::atanh),
-        LIBM("cbrt", std::cbrt),
-        LIBM("hypot", std::hypot),
-        LIBM("erf", std::erf),
-        LIBM("erfc", std::erfc),
-        LIBM("tgamma", std::tgamma),
-        LIBM("lgamma", std::lgamma),
-        LIBM("sqrt", std::sqrt),
-        LIBM("fmod", std::fmod),
-        LIBM("remainder", std::remainder),
-        LIBM("fdim", std::fdim),
-        LIBM("fma", std::fma),
-        LIBM("fmin", std::fmin),
-        LIBM("fmax", std::fmax),
-        LIBM("rint", std::rint),
-        LIBM("nearbyint", std::nearbyint),
-        LIBM("round", std::round),
-        LIBM("trunc", std::trunc),
-        LIBM("ceil", std::ceil),
-        LIBM("floor", std::floor),
-        LIBM("fabs", std::fabs),
-        LIBM("copysign", std::copysign),
-        LIBM("nextafter", std::nextafter),
-        LIBM("logb", std::logb),
-        {"exp10", {over_scalars<float>([](float x) { return exp10f(x); }), over_scalars<double>([](double x) {
-                       return exp10(x);
-                   })}},
-        {"modf",
-         {over_scalars<float>([](float x) {
-              float whole;
-              return std::modf(x, &whole) + whole;
-          }),
-          over_scalars<double>([](double x) {
-              double whole;
-              return std::modf(x, &whole) + whole;
-          })}},
-        {"sincos",
-         {over_scalars<float>([](float x) {
-              float s, c;
-              sincosf(x, &s, &c);
-              return s + c;
-          }),
-          over_scalars<double>([](double x) {
-              double s, c;
-              sincos(x, &s, &c);
-              return s + c;
-          })}},
+#define TWO(expression)                                                                                              \
+    two {                                                                                                            \
+        [](auto x, auto y) { return expression; }                                                                    \
+    }
+#define WITH_INTEGER(expression)                                                                                     \
+    with_integer {                                                                                                   \
+        [](auto x, int n) { return expression; }                                                                     \
+    }
+#define PI std::numbers::pi_v<decltype(x)>
+
+const std::map<std::string, peers_of_both_types>& floating_table() {
+    static const std::map<std::string, peers_of_both_types> table = {
+        {"exp", against(ONE(std::exp(x)), SLEEF(exp, u10))},
+        {"exp2", against(ONE(std::exp2(x)), SLEEF(exp2, u10), SLEEF(exp2, u35))},
+        {"exp10", against(ONE(exp10_of(x)), SLEEF(exp10, u10), SLEEF(exp10, u35))},
+        {"expm1", against(ONE(std::expm1(x)), SLEEF(expm1, u10))},
+        {"log", against(ONE(std::log(x)), SLEEF(log, u10), SLEEF(log, u35))},
+        {"log2", against(ONE(std::log2(x)), SLEEF(log2, u10), SLEEF(log2, u35))},
+        {"log10", against(ONE(std::log10(x)), SLEEF(log10, u10))},
+        {"log1p", against(ONE(std::log1p(x)), SLEEF(log1p, u10))},
+
+        {"pow", against(TWO(std::pow(x, y)), SLEEF(pow, u10))},
+        {"powr", against(TWO(std::pow(x, y)), SLEEF(pow, u10))},
+        {"pown", against(WITH_INTEGER(std::pow(x, decltype(x)(n))),
+                         {peer{"u10", vector_pass<8>(pown_f32)}, peer{"u10", vector_pass<4>(pown_f64)}})},
+        {"rootn", against(WITH_INTEGER(std::pow(x, 1 / decltype(x)(n))),
+                          {peer{"u10", vector_pass<8>(rootn_f32)}, peer{"u10", vector_pass<4>(rootn_f64)}})},
+
+        {"div", against(TWO(x / y))},
+        {"inv", against(ONE(1 / x))},
+        {"sqrt", against(ONE(std::sqrt(x)), SLEEF(sqrt, u05), SLEEF(sqrt, u35))},
+        {"rsqrt", against(ONE(1 / std::sqrt(x)))},
+        {"cbrt", against(ONE(std::cbrt(x)), SLEEF(cbrt, u10), SLEEF(cbrt, u35))},
+        {"rcbrt", against(ONE(1 / std::cbrt(x)))},
+        {"hypot", against(TWO(std::hypot(x, y)), SLEEF(hypot, u05), SLEEF(hypot, u35))},
+
+        {"sin", against(ONE(std::sin(x)), SLEEF(sin, u10), SLEEF(sin, u35))},
+        {"cos", against(ONE(std::cos(x)), SLEEF(cos, u10), SLEEF(cos, u35))},
+        {"tan", against(ONE(std::tan(x)), SLEEF(tan, u10), SLEEF(tan, u35))},
+        {"sincos", against(with_second{[](auto x, auto* c) { return sine_and_cosine(x, c); }}, SLEEF(sincos, u10),
+                           SLEEF(sincos, u35))},
+        {"sincosreg", against(with_second{[](auto x, auto* c) { return sine_and_cosine(x, c); }}, SLEEF(sincos, u10),
+                              SLEEF(sincos, u35))},
+        {"sinpi", against(ONE(sinpi_of(x)), SLEEF(sinpi, u05))},
+        {"cospi", against(ONE(cospi_of(x)), SLEEF(cospi, u05))},
+        {"tanpi", against(ONE(sinpi_of(x) / cospi_of(x)))},
+
+        {"asin", against(ONE(std::asin(x)), SLEEF(asin, u10), SLEEF(asin, u35))},
+        {"acos", against(ONE(std::acos(x)), SLEEF(acos, u10), SLEEF(acos, u35))},
+        {"atan", against(ONE(std::atan(x)), SLEEF(atan, u10), SLEEF(atan, u35))},
+        {"asinpi", against(ONE(std::asin(x) / PI))},
+        {"acospi", against(ONE(std::acos(x) / PI))},
+        {"atanpi", against(ONE(std::atan(x) / PI))},
+        {"atan2", against(TWO(std::atan2(x, y)), SLEEF(atan2, u10), SLEEF(atan2, u35))},
+        {"atan2pi", against(TWO(std::atan2(x, y) / PI))},
+
+        {"sinh", against(ONE(std::sinh(x)), SLEEF(sinh, u10), SLEEF(sinh, u35))},
+        {"cosh", against(ONE(std::cosh(x)), SLEEF(cosh, u10), SLEEF(cosh, u35))},
+        {"tanh", against(ONE(std::tanh(x)), SLEEF(tanh, u10), SLEEF(tanh, u35))},
+        {"asinh", against(ONE(std::asinh(x)), SLEEF(asinh, u10))},
+        {"acosh", against(ONE(std::acosh(x)), SLEEF(acosh, u10))},
+        {"atanh", against(ONE(std::atanh(x)), SLEEF(atanh, u10))},
+
+        {"erf", against(ONE(std::erf(x)), SLEEF(erf, u10))},
+        {"erfc", against(ONE(std::erfc(x)), SLEEF(erfc, u15))},
+        {"tgamma", against(ONE(std::tgamma(x)), SLEEF(tgamma, u10))},
+        {"lgamma", against(ONE(std::lgamma(x)), SLEEF(lgamma, u10))},
+        {"lgammar",
+         against(with_integer_out{[](auto x, int* s) { return lgamma_and_sign(x, s); }}, SLEEF(lgamma, u10))},
+
+        {"ceil", against(ONE(std::ceil(x)), SLEEF_PLAIN(ceil))},
+        {"floor", against(ONE(std::floor(x)), SLEEF_PLAIN(floor))},
+        {"trunc", against(ONE(std::trunc(x)), SLEEF_PLAIN(trunc))},
+        {"rint", against(ONE(std::rint(x)), SLEEF_PLAIN(rint))},
+        {"nearbyint", against(ONE(std::nearbyint(x)), SLEEF_PLAIN(rint))},
+        {"round", against(ONE(std::round(x)), SLEEF_PLAIN(round))},
+        {"fract", against(with_second{[](auto x, auto* whole) { return x - (*whole = std::floor(x)); }})},
+        {"modf", against(with_second{[](auto x, auto* whole) { return std::modf(x, whole); }}, SLEEF_PLAIN(modf))},
+        {"frexp", against(with_integer_out{[](auto x, int* n) { return std::frexp(x, n); }})},
+        {"ldexp", against(WITH_INTEGER(std::ldexp(x, n)), {{}, peer{"", vector_pass<4>(Sleef_ldexpd4_avx2)}})},
+        {"ilogb", against(ONE(std::ilogb(x)), {{}, peer{"", vector_pass<4>(Sleef_ilogbd4_avx2)}})},
+        {"logb", against(ONE(std::logb(x)))},
+        {"fabs", against(ONE(std::fabs(x)), SLEEF_PLAIN(fabs))},
+        {"copysign", against(TWO(std::copysign(x, y)), SLEEF_PLAIN(copysign))},
+        {"nextafter", against(TWO(std::nextafter(x, y)), SLEEF_PLAIN(nextafter))},
+        {"fmax", against(TWO(std::fmax(x, y)), SLEEF_PLAIN(fmax))},
+        {"fmin", against(TWO(std::fmin(x, y)), SLEEF_PLAIN(fmin))},
+        {"maxmag", against(TWO(larger_magnitude(x, y)))},
+        {"minmag", against(TWO(smaller_magnitude(x, y)))},
+        {"fdim", against(TWO(std::fdim(x, y)), SLEEF_PLAIN(fdim))},
+        {"fma", against(three{[](auto x, auto y, auto z) { return std::fma(x, y, z); }}, SLEEF_PLAIN(fma))},
+        {"fmod", against(TWO(std::fmod(x, y)), SLEEF_PLAIN(fmod))},
+        {"remainder", against(TWO(std::remainder(x, y)), SLEEF_PLAIN(remainder))},
+        {"remquo", against(two_with_integer_out{[](auto x, auto y, int* n) { return std::remquo(x, y, n); }})},
     };
-    return m;
+    return table;
 }
 
-peer find(const std::map<std::string, pair_of_peers>& m, const std::string& base, bool is_float) {
-    const auto p = m.find(base);
-    return p == m.end() ? peer{} : is_float ? p->second.f32 : p->second.f64;
-}
-// Families that ask the same of a peer.
-std::string same_meaning(const std::string& base) {
-    if (base == "sincosreg") return "sincos";
-    if (base == "lgammar") return "lgamma";
-    if (base == "powr") return "pow";
-    if (base == "nearbyint") return "rint";
-    return base;
+// Integer division by the processor's instruction.
+template <class T> pass division(std::string_view name) {
+    if (name.ends_with("divrem"))
+        return [](buffer& b) {
+            const T *x = b.argument[0].as<T>(), *y = b.argument[1].as<T>();
+            for (int i = 0; i < lanes_of_buffer; i++) {
+                b.result[0].as<T>()[i] = x[i] / y[i];
+                b.result[1].as<T>()[i] = x[i] % y[i];
+            }
+        };
+    return name.ends_with("div") ? scalar_pass<T>(TWO(x / y)) : scalar_pass<T>(TWO(x % y));
 }
 
-template <class I> peer divided(bool remainder) {
-    return [remainder](const operands& o) {
-        const I *x = (const I*)o.x, *y = (const I*)o.y;
-        I* out = (I*)o.out;
-        for (size_t i = 0; i < o.n; i++)
-            out[i] = remainder ? x[i] % y[i] : x[i] / y[i];
+// Conversions: a rounding function and a cast; to a floating type a cast, which rounds to nearest.
+template <class From, class To> pass conversion(std::string_view name) {
+    auto cast_after = [](auto round) -> pass {
+        return [round](buffer& b) {
+            const From* x = b.argument[0].as<From>();
+            for (int i = 0; i < lanes_of_buffer; i++)
+                b.result[0].as<To>()[i] = To(round(x[i]));
+        };
     };
+    auto has = [&](std::string_view mode) { return name.find(mode) != name.npos; };
+    if constexpr (std::is_integral_v<To> && std::is_floating_point_v<From>) {
+        if (has("rtn")) return cast_after([](From x) { return std::floor(x); });
+        if (has("rtp")) return cast_after([](From x) { return std::ceil(x); });
+        if (has("rte")) return cast_after([](From x) { return std::nearbyint(x); });
+        return cast_after([](From x) { return x; });
+    } else if (has("rte")) return cast_after([](From x) { return x; });
+    return {};
 }
 
 } // namespace
 
-peer sleef_peer(const std::string& base, bool is_float, bool fast) {
-    const std::string of = same_meaning(base);
-    peer p;
-    if (fast) p = find(fast_ones(), of, is_float);
-    return p ? p : find(accurate(), of, is_float);
-}
-peer libm_peer(const std::string& base, bool is_float) {
-    if (base == "idiv" || base == "irem" || base == "idivrem") return divided<int32_t>(base == "irem");
-    if (base == "udiv" || base == "urem" || base == "udivrem") return divided<uint32_t>(base == "urem");
-    const peer p = find(scalar(), base, is_float);
-    return p ? p : find(scalar(), same_meaning(base), is_float);
+family_peers peers_of(const kernel_row& row) {
+    switch (row.sclass) {
+    case signature_class::integer:
+    case signature_class::integer_pair:
+        return {{}, {}, row.in == lane_type::i32 ? division<int32_t>(row.name) : division<uint32_t>(row.name), {}};
+    case signature_class::conversion:
+        return with_type(row.in, [&]<class From>(type<From>) {
+            return with_type(row.out, [&]<class To>(type<To>) -> family_peers {
+                return {{}, {}, conversion<From, To>(row.name), {}};
+            });
+        });
+    default: {
+        const auto& table = floating_table();
+        const auto at = table.find(row.base());
+        if (at == table.end()) return {};
+        return row.in == lane_type::f32 ? at->second.f32 : at->second.f64;
+    }
+    }
 }
 
 } // namespace orvane::bench

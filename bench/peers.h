@@ -1,22 +1,27 @@
-// The functions of the same meaning elsewhere: SLEEF's AVX2 variants and the scalar C library.
+// What a family is held against: SLEEF's function of the same meaning, and scalar code with libm.
 #pragma once
 
-#include <functional>
-#include <string>
+#include "bench/pass.h"
+
+#include <optional>
 
 namespace orvane::bench {
 
-// Runs the peer over n lanes (a multiple of 16) of its arguments; results go to `out`.
-struct operands {
-    const void *x, *y, *z;
-    void* out;
-    size_t n;
+struct peer {
+    const char* name; // "u10": within 1.0 ulp; "-" where SLEEF states no error
+    pass run;
 };
-using peer = std::function<void(const operands&)>;
 
-// By base name without the f; null where there is no such function. `fast` asks for the 3.5-ulp variant, where there
-// is one beside the 1.0-ulp variant.
-peer sleef_peer(const std::string& base, bool is_float, bool fast);
-peer libm_peer(const std::string& base, bool is_float);
+struct family_peers {
+    std::optional<peer> accurate; // SLEEF, the most accurate one
+    std::optional<peer> fast;     // SLEEF, the one of lower accuracy where it has two
+    pass scalar;                  // empty: nothing to compare with
+    // The first result of the argument lanes in long double, to measure errors by; empty where the lanes are
+    // integers.
+    std::function<void(buffer&, long double* results)> truth;
+};
+
+// The peers of the family of `row`; all empty if it has none.
+family_peers peers_of(const kernel_row& row);
 
 } // namespace orvane::bench

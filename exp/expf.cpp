@@ -1,6 +1,5 @@
 // expf: e^x on float lanes.
-#include "frame/_orvane_template.h"
-#include "frame/rare.h"
+#include "exp/exp_kernels.h"
 
 namespace orvane {
 
@@ -44,16 +43,6 @@ struct sexp_native_block {
 ORVANE_BLOCK(sexp_native_block, __orvane_sexp_native_data)
 ORVANE_BLOCK_TWIN(__orvane_sexp_half_data, __orvane_sexp_native_data)
 
-// Lanes above the overflow limit are +Inf and lanes below the underflow limit +0 without a slow path; left to it are
-// NaN and the margins where the result overflows or is subnormal only after rounding.
-template <class Block, int W, class A> ORVANE_INLINE A settle_exp_limits(const Block& c, lanes<float, W> x, A a) {
-    const auto over = x > c.overflow_limit, under = x < c.underflow_limit;
-    a.first = select(over, lanes<float, W>(__builtin_inff()), a.first);
-    a.first = select(under, lanes<float, W>(0.0f), a.first);
-    a.special = andnot(over | under, a.special);
-    return a;
-}
-
 // e^x = 2^floor(k/4) * 2^(j/4) * e^r with k = round(x * 4 / ln 2), j = k mod 4, |r| <= ln 2 / 8.
 struct expf_table : kernel<one_argument<float>> {
     static constexpr auto& block = __orvane_sexp_data;
@@ -65,11 +54,10 @@ struct expf_table : kernel<one_argument<float>> {
         auto r = fma(-n, c.ln2_q_hi, x);
         r = fma(-n, c.ln2_q_lo, r);
 
-        auto p = fma(r, c.c3, c.c2); // e^r = 1 + r + p, the table's low part in p
-        p = fma(p, r, c.c1);
         auto r2 = r * r;
+        auto p = horner(r, c.c3, c.c2, c.c1);
         auto lo = permute(c.tab_lo, t); // j is t's two low bits: 508 is a multiple of 4
-        p = fma(p, r2, lo);
+        p = fma(p, r2, lo);             // e^r = 1 + r + p, the table's low part in p
 
         auto s = as<float>(bits(t) << 21) & c.exponent_mask; // (k + 508) / 4 as the exponent field: 2^floor(k/4)
         auto hi = permute(c.tab_hi, t);
@@ -91,9 +79,7 @@ struct expf_polynomial : kernel<one_argument<float>> {
         auto t = fma(x, c.log2e, c.shifter); // n in two's complement in the low nine bits of the significand
         auto n = t - c.shifter;
         auto r = fma(-n, c.ln2, x);
-        auto p = fma(r, c.a3, c.a2);
-        p = fma(p, r, c.a1);
-        p = fma(p, r, c.a0);
+        auto p = horner(r, c.a3, c.a2, c.a1, c.a0);
         auto y = as<float>((bits(t) << 23) + bits(p));
         // NaN, infinities and finite lanes beyond the limit, in one comparison of patterns.
         return answer{y, signed_bits(x & c.abs_mask) > c.ordinary_limit};

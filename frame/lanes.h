@@ -421,6 +421,23 @@ template <class U, class T, int W> ORVANE_INLINE auto pairs_in_place(lanes<T, W>
     return lanes<U, W / 2>((typename lanes<U, W / 2>::raw) a.v);
 }
 
+// Whether the high word of x under `mask` is greater than `limit`, as signed integers; the comparison runs on all
+// words in place, and only the sign of each lane of the result counts, which is all that a special mask and a select
+// look at.
+template <int W, class M, class L>
+ORVANE_INLINE lanes<int64_t, W> high_word_exceeds(lanes<double, W> x, const M& mask, const L& limit) {
+    const auto words = (words_in_place<int32_t>(x) & mask) > limit;
+    return (typename lanes<int64_t, W>::raw)words.v;
+}
+
+// ((highest * x + next) * x + ...) + lowest, every step fused.
+template <class T, int W, class A, class... B>
+ORVANE_INLINE lanes<T, W> horner(lanes<T, W> x, const A& highest, const B&... lower) {
+    lanes<T, W> p = highest;
+    ((p = fma(p, x, lower)), ...);
+    return p;
+}
+
 // f on operands whose 32-bit lanes must be widened to 64 bits: at W = 8 f runs on each half and the results are
 // joined; at the lower widths it runs once.
 template <class F, class A, int W, class... B> ORVANE_INLINE auto by_halves(F f, lanes<A, W> a, lanes<B, W>... b) {

@@ -32,6 +32,9 @@ constexpr float power_of_two_f32(uint32_t biased) { return f32((biased & 0xFF) <
 // Two values whose exact sum stands for one number.
 template <class T> struct hi_lo { T hi, lo; };
 
+// A table of N entries, to be read by name or by byte offset.
+template <class T, int N> struct table { T entry[N]; };
+
 // Dekker's split: v = hi + lo exactly, each with at most half of the significand's bits, so that products of such
 // parts are exact without a fused operation.
 template <class T> constexpr T splitter = sizeof(T) == 8 ? T(134217729.0) : T(4097.0); // 2^27 + 1, 2^12 + 1

@@ -1,6 +1,6 @@
 // Constant blocks: read-only objects of 64-byte slots that kernels read by name.
 //
-// A block is a struct whose members are declared by SLOT, ENTRIES, ARRAY and GAP, each with the slot number it must
+// A block is a struct whose members are declared by SLOT, ENTRIES, TABLE and GAP, each with the slot number it must
 // have; the compiler refuses a block in which a member lies elsewhere. A member stands for a lane vector of any
 // width: a replicated constant is one load at any width, since the slot holds it in every lane.
 #pragma once
@@ -90,10 +90,10 @@ template <class B> ORVANE_INLINE const B& anew(const B*& block) {
     ::orvane::slot<T, entries> name{__VA_ARGS__};                                                                    \
     ORVANE_PLACED(64 * (number), name)
 
-// A table of T in memory, from byte `offset` of the block; the rest is its initializer.
-#define ARRAY(T, offset, length, name, ...)                                                                          \
-    T name[length] = __VA_ARGS__;                                                                                    \
-    ORVANE_PLACED(offset, name)
+// A table in memory, from slot `number` on: a copy of a constexpr object, which may serve other blocks too.
+#define TABLE(number, name, ...)                                                                                     \
+    alignas(::orvane::slot_bytes) std::remove_const_t<decltype(__VA_ARGS__)> name = __VA_ARGS__;                     \
+    ORVANE_PLACED(64 * (number), name)
 
 // Slots first to last, which nothing reads.
 #define GAP(first, last) ::orvane::gap<first, last> unread_from_##first;

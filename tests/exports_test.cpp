@@ -276,9 +276,18 @@ TEST(Tool, SaysWhatIsWrong) {
     complains("fmin1 1", "takes 2");
     complains("idiv1 1.5,2", "'1.5'");
     complains("idiv1 2147483648,2", "out of range");
+    complains("expf1 1e60", "out of range");
+    complains("--raw expf1 1", "standard input");
     complains("expf1 -i /nonexistent", "/nonexistent");
     complains("--library /nonexistent expf1 1", "/nonexistent");
     complains("--nonsense", "nonsense");
+    for (auto raw : {"-1", "0x1", "123456789", "3f800000 3f800000", ""}) {
+        std::ofstream(in) << "3f800000\n" << raw << '\n';
+        EXPECT_NE(run("orvane-call --raw expf1 <" + in + " >" + out + " 2>" + err), 0) << raw;
+        EXPECT_NE(contents(err).find("line 2"), std::string::npos) << raw;
+    }
+    std::filesystem::remove(out);
+    complains("expf1 -i /dev/null", "no lanes"); // what is no regular file has no size
     std::ofstream(in) << "1 2 3\n4 five\n";
     complains("expf4 -i " + in + " -o " + out, "line 2");
     EXPECT_FALSE(std::filesystem::exists(out)) << "a file appears only when it is complete";

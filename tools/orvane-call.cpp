@@ -15,7 +15,7 @@
 #endif
 
 #include <CLI/CLI.hpp>
-#include <chrono>
+#include <charconv>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -59,6 +59,7 @@ call_plan find_plan(std::string name) {
         std::vector<std::pair<size_t, std::string>> near;
         for (const auto& row : library_rows())
             for (int w : widths) {
+                if (!row.built) continue;
                 const std::string s = short_name(plan_of(row, w));
                 near.emplace_back(edit_distance(name, s), s);
             }
@@ -88,11 +89,9 @@ uint64_t parse_number(const std::string& text, lane_type t) {
             throw bad("a pattern of this type has at most " + std::to_string(2 * size_of(t)) + " digits");
         return w;
     }
-    if (t == lane_type::f32) {
-        const float v = strtof(s, &end);
-        if (!*end) return word_of(t, v) | (std::isnan(v) ? 0x7FC00000 : 0);
-    } else if (t == lane_type::f64) {
-        const double v = strtod(s, &end);
+    if (is_floating(t)) {
+        const double v = t == lane_type::f32 ? strtof(s, &end) : strtod(s, &end);
+        if (!*end && errno == ERANGE && std::isinf(v)) throw bad("it is out of range; write inf for infinity");
         if (!*end) return word_of(t, v);
     } else {
         const bool is_signed = t == lane_type::i32 || t == lane_type::i64;
@@ -288,15 +287,18 @@ void list_exports(bool as_json, std::ostream& to) {
 }
 
 // Lanes of words: digits of the type's width, without a prefix.
-void run_raw(const call_plan& plan, const void* f, std::ostream& to) {
+void run_raw(const call_plan& plan, const void* f, bool as_json, std::ostream& to) {
     const kernel_row& row = *plan.row;
     stream lanes(plan, f);
     auto print = [&](const lane_words&, const lane_words& out) {
         char s[64];
         int n = 0;
-        for (size_t j = 0; j < out.size(); j++)
-            n += snprintf(s + n, sizeof s - n, j ? " %0*llx" : "%0*llx", 2 * size_of(row.result(j)),
-                          (unsigned long long)out[j]);
+        if (as_json) s[n++] = '[', s[n++] = '"';
+        for (size_t j = 0; j < out.size(); j++) {
+            if (j) n += sprintf(s + n, "%s", as_json ? "\",\"" : " ");
+            n += sprintf(s + n, "%0*llx", 2 * size_of(row.result(j)), (unsigned long long)out[j]);
+        }
+        if (as_json) s[n++] = '"', s[n++] = ']';
         s[n++] = '\n';
         to.write(s, n);
     };
@@ -305,11 +307,12 @@ void run_raw(const call_plan& plan, const void* f, std::ostream& to) {
         lane_words lane;
         const char* p = line.c_str();
         while (*(p += strspn(p, " \t\r"))) {
-            char* end;
-            errno = 0;
-            const uint64_t w = strtoull(p, &end, 16);
             const lane_type t = (int)lane.size() < row.arguments() ? row.argument(lane.size()) : lane_type::none;
-            if (end == p || errno || (size_of(t) == 4 && w >> 32) || !strchr(" \t\r", *end))
+            const int digits = strspn(p, "0123456789abcdefABCDEF"), most = 2 * size_of(t);
+            char* end = const_cast<char*>(p) + digits;
+            uint64_t w = 0;
+            std::from_chars(p, end, w, 16);
+            if (!digits || digits > most || !strchr(" \t\r", *end))
                 throw failure("line " + std::to_string(number) + ": '" + line + "' is not " +
                               std::to_string(row.arguments()) + " hexadecimal word(s) of the type's width");
             lane.push_back(w);
@@ -323,23 +326,18 @@ void run_raw(const call_plan& plan, const void* f, std::ostream& to) {
     lanes.flush(print);
 }
 
-void run_stream(const call_plan& plan, const void* f, const std::string& from, printer& print, std::ostream& to,
-                bool quiet) {
+// Hands on every lane of a file, or of standard input (-).
+template <class Use> void for_all_lanes(const std::string& from, const kernel_row& row, bool bar_shown, Use use) {
     std::ifstream file;
     size_t size = 0;
     if (from != "-") {
         if (fs::is_directory(from)) throw failure("'" + from + "' is a folder; name a file of lanes, or -");
         file.open(from);
         if (!file) throw failure("cannot read '" + from + "': " + strerror(errno));
-        size = fs::file_size(from);
+        if (fs::is_regular_file(from)) size = fs::file_size(from);
     }
     std::istream& in = from == "-" ? std::cin : file;
-    progress bar(size);
-    stream lanes(plan, f);
-    auto use = [&](const lane_words& a, const lane_words& r) {
-        const std::string s = print.line(a, r);
-        if (!quiet) to << s;
-    };
+    progress bar(bar_shown ? size : 0);
     std::string line;
     size_t read = 0, count = 0;
     for (size_t number = 1; std::getline(in, line); number++) {
@@ -349,43 +347,39 @@ void run_stream(const call_plan& plan, const void* f, const std::string& from, p
         std::stringstream words(line);
         for (std::string word; words >> word; count++)
             try {
-                lanes.add(parse_lane(word, *plan.row), use);
+                use(parse_lane(word, row));
             } catch (const failure& e) {
                 throw failure("line " + std::to_string(number) + ": " + e.what());
             }
     }
-    lanes.flush(use);
     if (!count) throw failure((from == "-" ? "standard input" : "'" + from + "'") + " holds no lanes");
 }
 
-// Lanes of a file at full speed: the calls alone are timed, each over all lanes, the median of some runs.
-void run_summary(const call_plan& plan, const void* f, const std::string& from, printer& print, bool as_json) {
-    std::ifstream file(from);
-    if (!file) throw failure("cannot read '" + from + "': " + strerror(errno));
-    std::vector<lane_words> lanes;
-    std::string line;
-    for (size_t number = 1; std::getline(file, line); number++) {
-        if (const auto comment = line.find('#'); comment != line.npos) line.resize(comment);
-        std::stringstream text(line);
-        for (std::string word; text >> word;)
-            try {
-                lanes.push_back(parse_lane(word, *plan.row));
-            } catch (const failure& e) {
-                throw failure("line " + std::to_string(number) + ": " + e.what());
-            }
+void run_stream(const call_plan& plan, const void* f, const std::string& from, printer& print, std::ostream& to,
+                bool bar_shown) {
+    stream lanes(plan, f);
+    auto use = [&](const lane_words& a, const lane_words& r) { to << print.line(a, r); };
+    for_all_lanes(from, *plan.row, bar_shown, [&](const lane_words& lane) { lanes.add(lane, use); });
+    lanes.flush(use);
+}
+
+// The number of lanes and the largest error, in place of the lanes.
+void run_summary(const call_plan& plan, const void* f, const std::string& from, printer& print, bool as_json,
+                 std::ostream& to, bool bar_shown) {
+    stream lanes(plan, f);
+    size_t count = 0;
+    auto use = [&](const lane_words& a, const lane_words& r) { print.line(a, r), count++; };
+    for_all_lanes(from, *plan.row, bar_shown, [&](const lane_words& lane) { lanes.add(lane, use); });
+    lanes.flush(use);
+    if (as_json) {
+        to << json{{"export", plan.symbol}, {"lanes", count}, {"largest error in ulps", print.worst_error()}}.dump()
+           << '\n';
+        return;
     }
-    if (lanes.empty()) throw failure("'" + from + "' holds no lanes");
-    stream check(plan, f);
-    auto use = [&](const lane_words& a, const lane_words& r) { print.line(a, r); };
-    for (const auto& lane : lanes)
-        check.add(lane, use);
-    check.flush(use);
-    const json summary{
-        {"export", plan.symbol}, {"lanes", lanes.size()}, {"largest error in ulps", print.worst_error()}};
-    if (as_json) std::cout << summary.dump() << '\n';
-    else
-        printf("%-16s %8zu lanes, largest error %.3f ulp\n", short_name(plan).c_str(), lanes.size(),
-               print.worst_error());
+    char s[160];
+    snprintf(s, sizeof s, "%-16s %8zu lanes, largest error %.3f ulp\n", short_name(plan).c_str(), count,
+             print.worst_error());
+    to << s;
 }
 
 int run(int argc, char** argv) {
@@ -402,7 +396,7 @@ int run(int argc, char** argv) {
     app.add_flag("--raw", raw, "hexadecimal words from standard input, a lane a line; words to standard output");
     app.add_flag("--list", list, "names of all built exports");
     app.add_flag("--json", as_json, "output as JSON, an object a line");
-    app.add_flag("--summary", summary, "only the number of lanes of a file and the largest error");
+    app.add_flag("--summary", summary, "only the number of lanes of a stream and the largest error");
     // Negative numbers are lanes, not options: they are marked while the command line is parsed.
     constexpr char mark = '\x01';
     std::vector<std::string> args;
@@ -428,24 +422,29 @@ int run(int argc, char** argv) {
     const call_plan plan = find_plan(name);
 
     if (library_path.empty()) library_path = fs::read_symlink("/proc/self/exe").parent_path() / "liborvane_l9.so";
+    if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma"))
+        throw failure("this processor lacks AVX2 or FMA, which every export needs");
     const library lib(library_path);
     if (!lib.handle()) throw failure("cannot open the library: " + lib.error());
     const void* f = lib.address(plan.symbol);
     if (!f) throw failure("'" + library_path + "' has no " + plan.symbol);
 
-    if (raw) return run_raw(plan, f, out.stream()), out.complete(), 0;
+    if (raw) {
+        if (!lanes.empty() || !from.empty()) throw failure("--raw reads lanes from standard input alone");
+        return run_raw(plan, f, as_json, out.stream()), out.complete(), 0;
+    }
 
     printer print(plan, as_json);
-    if (summary) {
-        if (from.empty() || from == "-") throw failure("--summary wants a file: -i FILE");
-        return run_summary(plan, f, from, print, as_json), 0;
-    }
     if (!from.empty() || lanes.empty()) {
         if (!lanes.empty()) throw failure("lanes come from the command line or from -i, not from both");
+        if (from.empty()) from = "-";
+        const bool bar_shown = !to.empty() || summary || !isatty(STDOUT_FILENO); // not among lanes on the terminal
+        if (summary) return run_summary(plan, f, from, print, as_json, out.stream(), bar_shown), out.complete(), 0;
         out.stream() << print.header();
-        run_stream(plan, f, from.empty() ? "-" : from, print, out.stream(), false);
+        run_stream(plan, f, from, print, out.stream(), bar_shown);
         return out.complete(), 0;
     }
+    if (summary) throw failure("--summary is for the lanes of a file or of standard input");
     if ((int)lanes.size() != plan.width)
         throw failure(short_name(plan) + " takes " + std::to_string(plan.width) + " lane(s), not " +
                       std::to_string(lanes.size()) + "; for any number of lanes use -i");

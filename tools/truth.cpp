@@ -20,7 +20,9 @@ int reciprocal_cbrt(mpfr_ptr r, mpfr_srcptr x, mpfr_rnd_t m) {
     mpfr_cbrt(r, x, m);
     return mpfr_ui_div(r, 1, r, m);
 }
-int reciprocal_sqrt(mpfr_ptr r, mpfr_srcptr x, mpfr_rnd_t m) { return mpfr_rec_sqrt(r, x, m); }
+int reciprocal_sqrt(mpfr_ptr r, mpfr_srcptr x, mpfr_rnd_t m) {
+    return mpfr_zero_p(x) ? mpfr_ui_div(r, 1, x, m) : mpfr_rec_sqrt(r, x, m); // an infinity with the sign of the zero
+}
 int log_abs_gamma(mpfr_ptr r, mpfr_srcptr x, mpfr_rnd_t m) {
     int sign;
     return mpfr_lgamma(r, &sign, x, m);
@@ -57,13 +59,11 @@ const std::map<std::string, unary> unaries = {
     {"floor", to_integral<MPFR_RNDD>},
     {"inv", reciprocal},
     {"lgamma", log_abs_gamma},
-    {"lgammar", log_abs_gamma},
     {"log", mpfr_log},
     {"log10", mpfr_log10},
     {"log1p", mpfr_log1p},
     {"log2", mpfr_log2},
     {"logb", exponent_of},
-    {"ilogb", exponent_of},
     {"nearbyint", to_integral<MPFR_RNDN>},
     {"rcbrt", reciprocal_cbrt},
     {"rint", to_integral<MPFR_RNDN>},
@@ -86,7 +86,13 @@ template <bool Larger> int by_magnitude(mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y
     if (c == 0 || mpfr_nan_p(x) || mpfr_nan_p(y)) return Larger ? mpfr_max(r, x, y, m) : mpfr_min(r, x, y, m);
     return mpfr_set(r, (c > 0) == Larger ? x : y, m);
 }
-int power_of_positive(mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y, mpfr_rnd_t m) { return mpfr_powr(r, x, y, m); }
+int power_of_positive(mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y, mpfr_rnd_t m) {
+    return mpfr_nan_p(y) ? mpfr_set(r, y, m) : mpfr_powr(r, x, y, m);
+}
+int neighbour(mpfr_ptr r, lane_type t, uint64_t x, uint64_t y) {
+    if (t == lane_type::f64) return mpfr_set_d(r, std::nextafter(value_of(t, x), value_of(t, y)), MPFR_RNDN);
+    return mpfr_set_flt(r, std::nextafter((float)value_of(t, x), (float)value_of(t, y)), MPFR_RNDN);
+}
 
 const std::map<std::string, binary> binaries = {
     {"atan2", mpfr_atan2},
@@ -158,7 +164,6 @@ bool truth::operator()(const kernel_row& row, const uint64_t* a) {
 
     if (const auto f = unaries.find(base); f != unaries.end()) {
         f->second(r, x, MPFR_RNDN);
-        if (base == "lgammar") mpfr_set_nan(v[1]);
         return true;
     }
     if (const auto f = binaries.find(base); f != binaries.end()) return f->second(r, x, y, MPFR_RNDN), true;
@@ -168,17 +173,30 @@ bool truth::operator()(const kernel_row& row, const uint64_t* a) {
         return true;
     }
     if (base == "sincos" || base == "sincosreg") return mpfr_sin_cos(v[0], v[1], x, MPFR_RNDN), true;
+    if (base == "lgammar") { // the sign of gamma: of a pole at zero the zero's, +1 where there is none
+        int sign = 1;
+        mpfr_lgamma(v[0], &sign, x, MPFR_RNDN);
+        if (!mpfr_number_p(x) || (mpfr_sgn(x) < 0 && mpfr_integer_p(x))) sign = 1;
+        mpfr_set_si(v[1], sign, MPFR_RNDN);
+        return true;
+    }
+    if (base == "ilogb") {
+        const long of_none = mpfr_zero_p(x) ? INT32_MIN : INT32_MAX;
+        mpfr_set_si(r, mpfr_regular_p(x) ? mpfr_get_exp(x) - 1 : of_none, MPFR_RNDN);
+        return true;
+    }
+    if (base == "nextafter") return neighbour(r, row.in, a[0], a[1]), true;
     if (base == "modf") return mpfr_modf(v[1], v[0], x, MPFR_RNDN), true;
     if (base == "fract") {
-        if (!mpfr_number_p(x)) return false;
         mpfr_floor(v[1], x);
-        mpfr_sub(v[0], x, v[1], MPFR_RNDN);
+        if (mpfr_inf_p(x)) mpfr_set_zero(v[0], mpfr_sgn(x));
+        else mpfr_sub(v[0], x, v[1], MPFR_RNDN);
         return true;
     }
     if (base == "frexp") {
-        if (!mpfr_regular_p(x)) return false;
-        mpfr_set_si(v[1], mpfr_get_exp(x), MPFR_RNDN);
-        mpfr_mul_2si(v[0], x, -mpfr_get_exp(x), MPFR_RNDN);
+        const mpfr_exp_t e = mpfr_regular_p(x) ? mpfr_get_exp(x) : 0;
+        mpfr_set_si(v[1], e, MPFR_RNDN);
+        mpfr_mul_2si(v[0], x, -e, MPFR_RNDN);
         return true;
     }
     if (base == "ldexp") return mpfr_mul_2si(r, x, mpfr_get_si(y, MPFR_RNDN), MPFR_RNDN), true;
@@ -190,13 +208,15 @@ bool truth::operator()(const kernel_row& row, const uint64_t* a) {
         return true;
     }
     if (base == "remquo") {
-        long quotient;
+        long quotient = 0;
         mpfr_remquo(v[0], &quotient, x, y, MPFR_RNDN);
-        mpfr_set_si(v[1], quotient, MPFR_RNDN);
+        if (mpfr_nan_p(v[0])) quotient = 0;
+        mpfr_set_si(v[1], quotient % (1L << 31), MPFR_RNDN); // the low 31 bits, under the sign
         return true;
     }
     if (row.sclass == signature_class::integer || row.sclass == signature_class::integer_pair) {
-        if (mpfr_zero_p(y)) return false;
+        // A divisor of zero, and the one quotient that no lane can hold, have no true value.
+        if (mpfr_zero_p(y) || (mpfr_cmp_si(x, INT32_MIN) == 0 && mpfr_cmp_si(y, -1) == 0)) return false;
         mpfr_div(z, x, y, MPFR_RNDZ);
         mpfr_trunc(z, z);
         const bool remainder = base.ends_with("rem") && row.results() == 1;
@@ -208,7 +228,8 @@ bool truth::operator()(const kernel_row& row, const uint64_t* a) {
         const mpfr_rnd_t mode = mode_of(base);
         mpfr_set(r, x, MPFR_RNDN);
         if (is_floating(row.out)) return round_to_type(r, row.out, mode), true;
-        if (mpfr_nan_p(r)) return false;
+        const bool saturates = base.find("nosat") == base.npos;
+        if (mpfr_nan_p(r)) return mpfr_set_zero(r, 1), saturates;
         if (mpfr_number_p(r)) mpfr_rint(r, r, mode);
         const bool is_signed = row.out == lane_type::i32 || row.out == lane_type::i64;
         const int bits = 8 * size_of(row.out);
@@ -217,7 +238,7 @@ bool truth::operator()(const kernel_row& row, const uint64_t* a) {
         mpfr_set_zero(z, 1);
         if (is_signed) mpfr_neg(z, y, MPFR_RNDN), mpfr_sub_ui(z, z, 1, MPFR_RNDN);
         const bool inside = mpfr_lessequal_p(z, r) && mpfr_lessequal_p(r, y);
-        if (!inside && base.find("nosat") != base.npos) return false;
+        if (!inside && !saturates) return false;
         if (mpfr_less_p(r, z)) mpfr_set(r, z, MPFR_RNDN);
         if (mpfr_greater_p(r, y)) mpfr_set(r, y, MPFR_RNDN);
         return true;

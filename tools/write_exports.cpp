@@ -165,7 +165,7 @@ std::string declaration(const call_plan& p) {
     const place& r = p.results[0];
     const bool one_result = row.results() == 1 && (r.where == place::in::integer_register || r.registers == 1);
     if (!one_result && !(r.where == place::in::integer_register))
-        return "extern const char " + p.symbol + "[]; /* opaque: " + places_in_words(p) + " */\n";
+        return "void " + p.symbol + "(void) ORVANE_NOT_C; /* " + places_in_words(p) + " */\n";
     auto typed = [&](const place& a) {
         if (a.where == place::in::integer_register) return std::string(c_type(a.type));
         const int bytes = size_of(a.type) * stored_lanes(a.lanes);
@@ -186,7 +186,7 @@ std::string header() {
  * Register-form exports take lane vectors in vector registers 0 to 3 and give them back from 0 on; a vector type here is
  * the register: orvane_float4 for up to four lanes of float, lane 0 lowest, lanes beyond the width ignored; a 3-wide
  * vector has a spare fourth lane, and its out-object room for it. What C cannot call (results in several registers) is
- * declared as an opaque symbol with its registers; orvane/call.hpp calls it from C++.
+ * declared for its address alone, with its registers; orvane/call.hpp calls it from C++ by that address.
  *
  * Every call keeps rbx, rbp, rsp, r12 to r15; a register-form call also vector registers 8 to 15, all 256 bits, and rdi
  * and rsi unless an argument travels there. A compiler that calls through this header need not know. */
@@ -198,6 +198,8 @@ std::string header() {
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+#define ORVANE_NOT_C __attribute__((error("results in several registers: orvane/call.hpp calls this from C++")))
 
 )";
     for (auto t : {lane_type::f32, lane_type::f64, lane_type::i32, lane_type::u32, lane_type::i64, lane_type::u64})

@@ -35,6 +35,16 @@ struct register_file {
     uint64_t rdi, rsi, rax;
 };
 
+// Slow paths use the x87 unit. Where one runs, the upper state is cleared: 512-bit code keeps nothing in registers 8
+// to 15, of which 256 bits come back.
+#define ORVANE_X87 "st", "st(1)", "st(2)", "st(3)", "st(4)", "st(5)", "st(6)", "st(7)"
+#define ORVANE_XMM_8_TO_15 "xmm8", "xmm9", "xmm10", "xmm11", "xmm12", "xmm13", "xmm14", "xmm15"
+#ifdef __AVX512F__
+#define ORVANE_512_ONLY ORVANE_XMM_8_TO_15,
+#else
+#define ORVANE_512_ONLY
+#endif
+
 // The red zone is left alone and the stack aligned. What the call may change is said, and no more: vector registers 8
 // to 15 stay the compiler's own.
 inline void call_in_registers(const void* f, register_file& r) {
@@ -52,10 +62,10 @@ inline void call_in_registers(const void* f, register_file& r) {
                  "vmovaps %%ymm1, 32(%[r])\n\t"
                  "vmovaps %%ymm2, 64(%[r])\n\t"
                  "vmovaps %%ymm3, 96(%[r])"
-                 : "+D"(rdi), "+S"(rsi), "=a"(rax)
+                 : "+D"(rdi), "+S"(rsi), "=&a"(rax)
                  : [f] "b"(f), [r] "r"(&r)
                  : "rcx", "rdx", "r8", "r9", "r10", "r11", "r12", "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5",
-                   "xmm6", "xmm7", "memory", "cc");
+                   "xmm6", "xmm7", ORVANE_512_ONLY ORVANE_X87, "memory", "cc");
     r.rax = rax;
 }
 
@@ -76,9 +86,11 @@ inline void call_in_memory(const void* f, void* result, void* out, const void* a
                  : "+D"(result), "+S"(arguments), "+c"(bytes), "+d"(out)
                  : [f] "b"(f)
                  : "rax", "r8", "r9", "r10", "r11", "r12", "r13", "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5",
-                   "xmm6", "xmm7", "xmm8", "xmm9", "xmm10", "xmm11", "xmm12", "xmm13", "xmm14", "xmm15", "memory",
-                   "cc");
+                   "xmm6", "xmm7", ORVANE_XMM_8_TO_15, ORVANE_X87, "memory", "cc");
 }
+#undef ORVANE_X87
+#undef ORVANE_XMM_8_TO_15
+#undef ORVANE_512_ONLY
 
 template <class V> inline constexpr int registers_of = (sizeof(V) + 31) / 32;
 template <class T, int W> inline constexpr bool in_integer_register = W == 1 && std::is_integral_v<T>;

@@ -3,7 +3,7 @@
  * Register-form exports take lane vectors in vector registers 0 to 3 and give them back from 0 on; a vector type here is
  * the register: orvane_float4 for up to four lanes of float, lane 0 lowest, lanes beyond the width ignored; a 3-wide
  * vector has a spare fourth lane, and its out-object room for it. What C cannot call (results in several registers) is
- * declared as an opaque symbol with its registers; orvane/call.hpp calls it from C++.
+ * declared for its address alone, with its registers; orvane/call.hpp calls it from C++ by that address.
  *
  * Every call keeps rbx, rbp, rsp, r12 to r15; a register-form call also vector registers 8 to 15, all 256 bits, and rdi
  * and rsi unless an argument travels there. A compiler that calls through this header need not know. */
@@ -15,6 +15,8 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+#define ORVANE_NOT_C __attribute__((error("results in several registers: orvane/call.hpp calls this from C++")))
 
 typedef float orvane_float4 __attribute__((vector_size(16), aligned(4)));
 typedef float orvane_float8 __attribute__((vector_size(32), aligned(4)));
@@ -29,39 +31,369 @@ typedef int64_t orvane_long4 __attribute__((vector_size(32), aligned(8)));
 typedef uint64_t orvane_ulong2 __attribute__((vector_size(16), aligned(8)));
 typedef uint64_t orvane_ulong4 __attribute__((vector_size(32), aligned(8)));
 
+/* exp: e to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp1(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4(orvane_double4 x);
+void __orvane_l9_exp8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_rm(orvane_double4 x);
+void __orvane_l9_exp8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_native(orvane_double4 x);
+void __orvane_l9_exp8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp4_half(orvane_double4 x);
+void __orvane_l9_exp8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
 /* expf: e to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
 orvane_float4 __orvane_l9_expf1(orvane_float4 x);
 orvane_float4 __orvane_l9_expf2(orvane_float4 x);
 orvane_float4 __orvane_l9_expf3(orvane_float4 x);
 orvane_float4 __orvane_l9_expf4(orvane_float4 x);
 orvane_float8 __orvane_l9_expf8(orvane_float8 x);
-extern const char __orvane_l9_expf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_expf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 orvane_float4 __orvane_l9_expf1_rm(orvane_float4 x);
 orvane_float4 __orvane_l9_expf2_rm(orvane_float4 x);
 orvane_float4 __orvane_l9_expf3_rm(orvane_float4 x);
 orvane_float4 __orvane_l9_expf4_rm(orvane_float4 x);
 orvane_float8 __orvane_l9_expf8_rm(orvane_float8 x);
-extern const char __orvane_l9_expf16_rm[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_expf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 orvane_float4 __orvane_l9_expf1_native(orvane_float4 x);
 orvane_float4 __orvane_l9_expf2_native(orvane_float4 x);
 orvane_float4 __orvane_l9_expf3_native(orvane_float4 x);
 orvane_float4 __orvane_l9_expf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_expf8_native(orvane_float8 x);
-extern const char __orvane_l9_expf16_native[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_expf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 orvane_float4 __orvane_l9_expf1_half(orvane_float4 x);
 orvane_float4 __orvane_l9_expf2_half(orvane_float4 x);
 orvane_float4 __orvane_l9_expf3_half(orvane_float4 x);
 orvane_float4 __orvane_l9_expf4_half(orvane_float4 x);
 orvane_float8 __orvane_l9_expf8_half(orvane_float8 x);
-extern const char __orvane_l9_expf16_half[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_expf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* exp2: 2 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp21(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24(orvane_double4 x);
+void __orvane_l9_exp28(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp216(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_rm(orvane_double4 x);
+void __orvane_l9_exp28_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp216_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_native(orvane_double4 x);
+void __orvane_l9_exp28_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp216_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp21_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp22_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp23_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp24_half(orvane_double4 x);
+void __orvane_l9_exp28_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp216_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* exp2f: 2 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_float4 __orvane_l9_exp2f1(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8(orvane_float8 x);
+void __orvane_l9_exp2f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_rm(orvane_float8 x);
+void __orvane_l9_exp2f16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_native(orvane_float8 x);
+void __orvane_l9_exp2f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp2f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp2f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_exp2f8_half(orvane_float8 x);
+void __orvane_l9_exp2f16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* exp10: 10 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_double2 __orvane_l9_exp101(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104(orvane_double4 x);
+void __orvane_l9_exp108(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp1016(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_rm(orvane_double4 x);
+void __orvane_l9_exp108_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp1016_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_native(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_native(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_native(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_native(orvane_double4 x);
+void __orvane_l9_exp108_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp1016_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_exp101_half(orvane_double2 x);
+orvane_double2 __orvane_l9_exp102_half(orvane_double2 x);
+orvane_double4 __orvane_l9_exp103_half(orvane_double4 x);
+orvane_double4 __orvane_l9_exp104_half(orvane_double4 x);
+void __orvane_l9_exp108_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_exp1016_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* exp10f: 10 to the power x. +Inf on overflow, +0 far below; 1 of zeros. */
+orvane_float4 __orvane_l9_exp10f1(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8(orvane_float8 x);
+void __orvane_l9_exp10f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_rm(orvane_float8 x);
+void __orvane_l9_exp10f16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_native(orvane_float8 x);
+void __orvane_l9_exp10f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_exp10f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_exp10f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_exp10f8_half(orvane_float8 x);
+void __orvane_l9_exp10f16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* expm1: e to the power x, minus 1, without cancellation near 0. -1 of -Inf; zeros come back as they are. */
+orvane_double2 __orvane_l9_expm11(orvane_double2 x);
+orvane_double2 __orvane_l9_expm12(orvane_double2 x);
+orvane_double4 __orvane_l9_expm13(orvane_double4 x);
+orvane_double4 __orvane_l9_expm14(orvane_double4 x);
+void __orvane_l9_expm18(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_expm116(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_expm11_native(orvane_double2 x);
+orvane_double2 __orvane_l9_expm12_native(orvane_double2 x);
+orvane_double4 __orvane_l9_expm13_native(orvane_double4 x);
+orvane_double4 __orvane_l9_expm14_native(orvane_double4 x);
+void __orvane_l9_expm18_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_expm116_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* expm1f: e to the power x, minus 1, without cancellation near 0. -1 of -Inf; zeros come back as they are. */
+orvane_float4 __orvane_l9_expm1f1(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f2(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f3(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f4(orvane_float4 x);
+orvane_float8 __orvane_l9_expm1f8(orvane_float8 x);
+void __orvane_l9_expm1f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_expm1f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_expm1f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_expm1f8_native(orvane_float8 x);
+void __orvane_l9_expm1f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* log: Natural logarithm. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_double2 __orvane_l9_log1(orvane_double2 x);
+orvane_double2 __orvane_l9_log2(orvane_double2 x);
+orvane_double4 __orvane_l9_log3(orvane_double4 x);
+orvane_double4 __orvane_l9_log4(orvane_double4 x);
+void __orvane_l9_log8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_log2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_log3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_log4_rm(orvane_double4 x);
+void __orvane_l9_log8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_log2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_log3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_log4_native(orvane_double4 x);
+void __orvane_l9_log8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_log2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_log3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_log4_half(orvane_double4 x);
+void __orvane_l9_log8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* logf: Natural logarithm. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_float4 __orvane_l9_logf1(orvane_float4 x);
+orvane_float4 __orvane_l9_logf2(orvane_float4 x);
+orvane_float4 __orvane_l9_logf3(orvane_float4 x);
+orvane_float4 __orvane_l9_logf4(orvane_float4 x);
+orvane_float8 __orvane_l9_logf8(orvane_float8 x);
+void __orvane_l9_logf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_logf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_logf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_logf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_logf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_logf8_rm(orvane_float8 x);
+void __orvane_l9_logf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_logf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_logf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_logf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_logf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_logf8_native(orvane_float8 x);
+void __orvane_l9_logf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_logf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_logf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_logf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_logf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_logf8_half(orvane_float8 x);
+void __orvane_l9_logf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* log2: Logarithm to base 2. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_double2 __orvane_l9_log21(orvane_double2 x);
+orvane_double2 __orvane_l9_log22(orvane_double2 x);
+orvane_double4 __orvane_l9_log23(orvane_double4 x);
+orvane_double4 __orvane_l9_log24(orvane_double4 x);
+void __orvane_l9_log28(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log216(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log21_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_log22_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_log23_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_log24_rm(orvane_double4 x);
+void __orvane_l9_log28_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log216_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log21_native(orvane_double2 x);
+orvane_double2 __orvane_l9_log22_native(orvane_double2 x);
+orvane_double4 __orvane_l9_log23_native(orvane_double4 x);
+orvane_double4 __orvane_l9_log24_native(orvane_double4 x);
+void __orvane_l9_log28_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log216_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log21_half(orvane_double2 x);
+orvane_double2 __orvane_l9_log22_half(orvane_double2 x);
+orvane_double4 __orvane_l9_log23_half(orvane_double4 x);
+orvane_double4 __orvane_l9_log24_half(orvane_double4 x);
+void __orvane_l9_log28_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log216_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* log2f: Logarithm to base 2. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_float4 __orvane_l9_log2f1(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f2(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f3(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f4(orvane_float4 x);
+orvane_float8 __orvane_l9_log2f8(orvane_float8 x);
+void __orvane_l9_log2f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log2f1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_log2f8_rm(orvane_float8 x);
+void __orvane_l9_log2f16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log2f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_log2f8_native(orvane_float8 x);
+void __orvane_l9_log2f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log2f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log2f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_log2f8_half(orvane_float8 x);
+void __orvane_l9_log2f16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* log10: Logarithm to base 10. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_double2 __orvane_l9_log101(orvane_double2 x);
+orvane_double2 __orvane_l9_log102(orvane_double2 x);
+orvane_double4 __orvane_l9_log103(orvane_double4 x);
+orvane_double4 __orvane_l9_log104(orvane_double4 x);
+void __orvane_l9_log108(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log1016(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log101_native(orvane_double2 x);
+orvane_double2 __orvane_l9_log102_native(orvane_double2 x);
+orvane_double4 __orvane_l9_log103_native(orvane_double4 x);
+orvane_double4 __orvane_l9_log104_native(orvane_double4 x);
+void __orvane_l9_log108_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log1016_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log101_half(orvane_double2 x);
+orvane_double2 __orvane_l9_log102_half(orvane_double2 x);
+orvane_double4 __orvane_l9_log103_half(orvane_double4 x);
+orvane_double4 __orvane_l9_log104_half(orvane_double4 x);
+void __orvane_l9_log108_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log1016_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* log10f: Logarithm to base 10. -Inf of zeros, NaN of negative numbers, +Inf of +Inf. */
+orvane_float4 __orvane_l9_log10f1(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f2(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f3(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f4(orvane_float4 x);
+orvane_float8 __orvane_l9_log10f8(orvane_float8 x);
+void __orvane_l9_log10f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log10f1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_log10f8_native(orvane_float8 x);
+void __orvane_l9_log10f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log10f1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_log10f4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_log10f8_half(orvane_float8 x);
+void __orvane_l9_log10f16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* log1p: Natural logarithm of 1 + x, accurate near 0. -Inf of -1, NaN below. */
+orvane_double2 __orvane_l9_log1p1(orvane_double2 x);
+orvane_double2 __orvane_l9_log1p2(orvane_double2 x);
+orvane_double4 __orvane_l9_log1p3(orvane_double4 x);
+orvane_double4 __orvane_l9_log1p4(orvane_double4 x);
+void __orvane_l9_log1p8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log1p16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_log1p1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_log1p2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_log1p3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_log1p4_native(orvane_double4 x);
+void __orvane_l9_log1p8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_log1p16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* log1pf: Natural logarithm of 1 + x, accurate near 0. -Inf of -1, NaN below. */
+orvane_float4 __orvane_l9_log1pf1(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf2(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf3(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf4(orvane_float4 x);
+orvane_float8 __orvane_l9_log1pf8(orvane_float8 x);
+void __orvane_l9_log1pf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_log1pf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
+void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
 orvane_double4 __orvane_l9_ceil3(orvane_double4 x);
 orvane_double4 __orvane_l9_ceil4(orvane_double4 x);
-extern const char __orvane_l9_ceil8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
-extern const char __orvane_l9_ceil16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+void __orvane_l9_ceil8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_ceil16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
 
 /* ceilf: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_float4 __orvane_l9_ceilf1(orvane_float4 x);
@@ -69,15 +401,15 @@ orvane_float4 __orvane_l9_ceilf2(orvane_float4 x);
 orvane_float4 __orvane_l9_ceilf3(orvane_float4 x);
 orvane_float4 __orvane_l9_ceilf4(orvane_float4 x);
 orvane_float8 __orvane_l9_ceilf8(orvane_float8 x);
-extern const char __orvane_l9_ceilf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_ceilf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* floor: Largest integer not above x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_floor1(orvane_double2 x);
 orvane_double2 __orvane_l9_floor2(orvane_double2 x);
 orvane_double4 __orvane_l9_floor3(orvane_double4 x);
 orvane_double4 __orvane_l9_floor4(orvane_double4 x);
-extern const char __orvane_l9_floor8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
-extern const char __orvane_l9_floor16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+void __orvane_l9_floor8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_floor16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
 
 /* floorf: Largest integer not above x. A zero result keeps the sign of x. */
 orvane_float4 __orvane_l9_floorf1(orvane_float4 x);
@@ -85,15 +417,15 @@ orvane_float4 __orvane_l9_floorf2(orvane_float4 x);
 orvane_float4 __orvane_l9_floorf3(orvane_float4 x);
 orvane_float4 __orvane_l9_floorf4(orvane_float4 x);
 orvane_float8 __orvane_l9_floorf8(orvane_float8 x);
-extern const char __orvane_l9_floorf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_floorf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* trunc: x rounded toward zero to an integer. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_trunc1(orvane_double2 x);
 orvane_double2 __orvane_l9_trunc2(orvane_double2 x);
 orvane_double4 __orvane_l9_trunc3(orvane_double4 x);
 orvane_double4 __orvane_l9_trunc4(orvane_double4 x);
-extern const char __orvane_l9_trunc8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
-extern const char __orvane_l9_trunc16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+void __orvane_l9_trunc8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_trunc16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
 
 /* truncf: x rounded toward zero to an integer. A zero result keeps the sign of x. */
 orvane_float4 __orvane_l9_truncf1(orvane_float4 x);
@@ -101,15 +433,15 @@ orvane_float4 __orvane_l9_truncf2(orvane_float4 x);
 orvane_float4 __orvane_l9_truncf3(orvane_float4 x);
 orvane_float4 __orvane_l9_truncf4(orvane_float4 x);
 orvane_float8 __orvane_l9_truncf8(orvane_float8 x);
-extern const char __orvane_l9_truncf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_truncf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* rint: Nearest integer by the caller's rounding mode. */
 orvane_double2 __orvane_l9_rint1(orvane_double2 x);
 orvane_double2 __orvane_l9_rint2(orvane_double2 x);
 orvane_double4 __orvane_l9_rint3(orvane_double4 x);
 orvane_double4 __orvane_l9_rint4(orvane_double4 x);
-extern const char __orvane_l9_rint8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
-extern const char __orvane_l9_rint16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+void __orvane_l9_rint8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_rint16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
 
 /* rintf: Nearest integer by the caller's rounding mode. */
 orvane_float4 __orvane_l9_rintf1(orvane_float4 x);
@@ -117,15 +449,15 @@ orvane_float4 __orvane_l9_rintf2(orvane_float4 x);
 orvane_float4 __orvane_l9_rintf3(orvane_float4 x);
 orvane_float4 __orvane_l9_rintf4(orvane_float4 x);
 orvane_float8 __orvane_l9_rintf8(orvane_float8 x);
-extern const char __orvane_l9_rintf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_rintf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* nearbyint: Nearest integer by the caller's rounding mode, without the inexact flag. */
 orvane_double2 __orvane_l9_nearbyint1(orvane_double2 x);
 orvane_double2 __orvane_l9_nearbyint2(orvane_double2 x);
 orvane_double4 __orvane_l9_nearbyint3(orvane_double4 x);
 orvane_double4 __orvane_l9_nearbyint4(orvane_double4 x);
-extern const char __orvane_l9_nearbyint8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
-extern const char __orvane_l9_nearbyint16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+void __orvane_l9_nearbyint8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_nearbyint16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
 
 /* nearbyintf: Nearest integer by the caller's rounding mode, without the inexact flag. */
 orvane_float4 __orvane_l9_nearbyintf1(orvane_float4 x);
@@ -133,15 +465,15 @@ orvane_float4 __orvane_l9_nearbyintf2(orvane_float4 x);
 orvane_float4 __orvane_l9_nearbyintf3(orvane_float4 x);
 orvane_float4 __orvane_l9_nearbyintf4(orvane_float4 x);
 orvane_float8 __orvane_l9_nearbyintf8(orvane_float8 x);
-extern const char __orvane_l9_nearbyintf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_nearbyintf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* round: Nearest integer, ties away from zero. */
 orvane_double2 __orvane_l9_round1(orvane_double2 x);
 orvane_double2 __orvane_l9_round2(orvane_double2 x);
 orvane_double4 __orvane_l9_round3(orvane_double4 x);
 orvane_double4 __orvane_l9_round4(orvane_double4 x);
-extern const char __orvane_l9_round8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
-extern const char __orvane_l9_round16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+void __orvane_l9_round8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_round16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
 
 /* roundf: Nearest integer, ties away from zero. */
 orvane_float4 __orvane_l9_roundf1(orvane_float4 x);
@@ -149,15 +481,15 @@ orvane_float4 __orvane_l9_roundf2(orvane_float4 x);
 orvane_float4 __orvane_l9_roundf3(orvane_float4 x);
 orvane_float4 __orvane_l9_roundf4(orvane_float4 x);
 orvane_float8 __orvane_l9_roundf8(orvane_float8 x);
-extern const char __orvane_l9_roundf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_roundf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* fract: x - floor(x), below 1; floor(x) goes to the out-lane. A NaN goes on as it came. */
 orvane_double2 __orvane_l9_fract1(double* out, orvane_double2 x);
 orvane_double2 __orvane_l9_fract2(double* out, orvane_double2 x);
 orvane_double4 __orvane_l9_fract3(double* out, orvane_double4 x);
 orvane_double4 __orvane_l9_fract4(double* out, orvane_double4 x);
-extern const char __orvane_l9_fract8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1, at rdi */
-extern const char __orvane_l9_fract16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+void __orvane_l9_fract8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_fract16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
 
 /* fractf: x - floor(x), below 1; floor(x) goes to the out-lane. A NaN goes on as it came. */
 orvane_float4 __orvane_l9_fractf1(float* out, orvane_float4 x);
@@ -165,15 +497,15 @@ orvane_float4 __orvane_l9_fractf2(float* out, orvane_float4 x);
 orvane_float4 __orvane_l9_fractf3(float* out, orvane_float4 x);
 orvane_float4 __orvane_l9_fractf4(float* out, orvane_float4 x);
 orvane_float8 __orvane_l9_fractf8(float* out, orvane_float8 x);
-extern const char __orvane_l9_fractf16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_fractf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
 
 /* modf: Fraction of x with its sign; trunc(x) goes to the out-lane. A NaN is quieted. */
 orvane_double2 __orvane_l9_modf1(double* out, orvane_double2 x);
 orvane_double2 __orvane_l9_modf2(double* out, orvane_double2 x);
 orvane_double4 __orvane_l9_modf3(double* out, orvane_double4 x);
 orvane_double4 __orvane_l9_modf4(double* out, orvane_double4 x);
-extern const char __orvane_l9_modf8[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1, at rdi */
-extern const char __orvane_l9_modf16[]; /* opaque: in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+void __orvane_l9_modf8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_modf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
 
 /* modff: Fraction of x with its sign; trunc(x) goes to the out-lane. A NaN is quieted. */
 orvane_float4 __orvane_l9_modff1(float* out, orvane_float4 x);
@@ -181,14 +513,14 @@ orvane_float4 __orvane_l9_modff2(float* out, orvane_float4 x);
 orvane_float4 __orvane_l9_modff3(float* out, orvane_float4 x);
 orvane_float4 __orvane_l9_modff4(float* out, orvane_float4 x);
 orvane_float8 __orvane_l9_modff8(float* out, orvane_float8 x);
-extern const char __orvane_l9_modff16[]; /* opaque: in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_modff16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
 
 /* fmin: The smaller of x and y; y on a tie. Of a NaN and a number the number. */
 orvane_double2 __orvane_l9_fmin1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_fmin2(orvane_double2 x, orvane_double2 y);
 orvane_double4 __orvane_l9_fmin3(orvane_double4 x, orvane_double4 y);
 orvane_double4 __orvane_l9_fmin4(orvane_double4 x, orvane_double4 y);
-extern const char __orvane_l9_fmin8[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_fmin8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 struct orvane_args_fmin16 { double x[16]; double y[16]; };
 void* __orvane_l9_fmin16(void* result, struct orvane_args_fmin16 arguments);
 
@@ -198,14 +530,14 @@ orvane_float4 __orvane_l9_fminf2(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_fminf3(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_fminf4(orvane_float4 x, orvane_float4 y);
 orvane_float8 __orvane_l9_fminf8(orvane_float8 x, orvane_float8 y);
-extern const char __orvane_l9_fminf16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_fminf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* fmax: The larger of x and y; y on a tie. Of a NaN and a number the number. */
 orvane_double2 __orvane_l9_fmax1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_fmax2(orvane_double2 x, orvane_double2 y);
 orvane_double4 __orvane_l9_fmax3(orvane_double4 x, orvane_double4 y);
 orvane_double4 __orvane_l9_fmax4(orvane_double4 x, orvane_double4 y);
-extern const char __orvane_l9_fmax8[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_fmax8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 struct orvane_args_fmax16 { double x[16]; double y[16]; };
 void* __orvane_l9_fmax16(void* result, struct orvane_args_fmax16 arguments);
 
@@ -215,14 +547,14 @@ orvane_float4 __orvane_l9_fmaxf2(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_fmaxf3(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_fmaxf4(orvane_float4 x, orvane_float4 y);
 orvane_float8 __orvane_l9_fmaxf8(orvane_float8 x, orvane_float8 y);
-extern const char __orvane_l9_fmaxf16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_fmaxf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* minmag: The argument of smaller magnitude; fmin of equal ones. Of a NaN and a number the number. */
 orvane_double2 __orvane_l9_minmag1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_minmag2(orvane_double2 x, orvane_double2 y);
 orvane_double4 __orvane_l9_minmag3(orvane_double4 x, orvane_double4 y);
 orvane_double4 __orvane_l9_minmag4(orvane_double4 x, orvane_double4 y);
-extern const char __orvane_l9_minmag8[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_minmag8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 struct orvane_args_minmag16 { double x[16]; double y[16]; };
 void* __orvane_l9_minmag16(void* result, struct orvane_args_minmag16 arguments);
 
@@ -232,14 +564,14 @@ orvane_float4 __orvane_l9_minmagf2(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_minmagf3(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_minmagf4(orvane_float4 x, orvane_float4 y);
 orvane_float8 __orvane_l9_minmagf8(orvane_float8 x, orvane_float8 y);
-extern const char __orvane_l9_minmagf16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_minmagf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* maxmag: The argument of larger magnitude; fmax of equal ones. Of a NaN and a number the number. */
 orvane_double2 __orvane_l9_maxmag1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_maxmag2(orvane_double2 x, orvane_double2 y);
 orvane_double4 __orvane_l9_maxmag3(orvane_double4 x, orvane_double4 y);
 orvane_double4 __orvane_l9_maxmag4(orvane_double4 x, orvane_double4 y);
-extern const char __orvane_l9_maxmag8[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_maxmag8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 struct orvane_args_maxmag16 { double x[16]; double y[16]; };
 void* __orvane_l9_maxmag16(void* result, struct orvane_args_maxmag16 arguments);
 
@@ -249,14 +581,14 @@ orvane_float4 __orvane_l9_maxmagf2(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_maxmagf3(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_maxmagf4(orvane_float4 x, orvane_float4 y);
 orvane_float8 __orvane_l9_maxmagf8(orvane_float8 x, orvane_float8 y);
-extern const char __orvane_l9_maxmagf16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_maxmagf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* fdim: Positive difference: x - y if x > y, else +0. NaN if an argument is. */
 orvane_double2 __orvane_l9_fdim1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_fdim2(orvane_double2 x, orvane_double2 y);
 orvane_double4 __orvane_l9_fdim3(orvane_double4 x, orvane_double4 y);
 orvane_double4 __orvane_l9_fdim4(orvane_double4 x, orvane_double4 y);
-extern const char __orvane_l9_fdim8[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_fdim8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 struct orvane_args_fdim16 { double x[16]; double y[16]; };
 void* __orvane_l9_fdim16(void* result, struct orvane_args_fdim16 arguments);
 
@@ -266,7 +598,7 @@ orvane_float4 __orvane_l9_fdimf2(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_fdimf3(orvane_float4 x, orvane_float4 y);
 orvane_float4 __orvane_l9_fdimf4(orvane_float4 x, orvane_float4 y);
 orvane_float8 __orvane_l9_fdimf8(orvane_float8 x, orvane_float8 y);
-extern const char __orvane_l9_fdimf16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_fdimf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* fma: a b + c with one rounding. */
 orvane_double2 __orvane_l9_fma1(orvane_double2 x, orvane_double2 y, orvane_double2 z);
@@ -308,7 +640,7 @@ orvane_int4 __orvane_l9_idiv2(orvane_int4 x, orvane_int4 y);
 orvane_int4 __orvane_l9_idiv3(orvane_int4 x, orvane_int4 y);
 orvane_int4 __orvane_l9_idiv4(orvane_int4 x, orvane_int4 y);
 orvane_int8 __orvane_l9_idiv8(orvane_int8 x, orvane_int8 y);
-extern const char __orvane_l9_idiv16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_idiv16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* irem: Remainder a - q b, with the sign of a. a for b = 0. */
 int32_t __orvane_l9_irem1(int32_t x, int32_t y);
@@ -316,15 +648,15 @@ orvane_int4 __orvane_l9_irem2(orvane_int4 x, orvane_int4 y);
 orvane_int4 __orvane_l9_irem3(orvane_int4 x, orvane_int4 y);
 orvane_int4 __orvane_l9_irem4(orvane_int4 x, orvane_int4 y);
 orvane_int8 __orvane_l9_irem8(orvane_int8 x, orvane_int8 y);
-extern const char __orvane_l9_irem16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_irem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* idivrem: Quotient truncated toward zero, and remainder: idiv and irem of one computation. */
 uint64_t __orvane_l9_idivrem1(int32_t x, int32_t y);
-extern const char __orvane_l9_idivrem2[]; /* opaque: in xmm0, xmm1; out xmm0, xmm1 */
-extern const char __orvane_l9_idivrem3[]; /* opaque: in xmm0, xmm1; out xmm0, xmm1 */
-extern const char __orvane_l9_idivrem4[]; /* opaque: in xmm0, xmm1; out xmm0, xmm1 */
-extern const char __orvane_l9_idivrem8[]; /* opaque: in ymm0, ymm1; out ymm0, ymm1 */
-extern const char __orvane_l9_idivrem16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, ymm2 ymm3 */
+void __orvane_l9_idivrem2(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_idivrem3(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_idivrem4(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_idivrem8(void) ORVANE_NOT_C; /* in ymm0, ymm1; out ymm0, ymm1 */
+void __orvane_l9_idivrem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, ymm2 ymm3 */
 
 /* udiv: Quotient of unsigned integers. 0 for b = 0. */
 uint32_t __orvane_l9_udiv1(uint32_t x, uint32_t y);
@@ -332,7 +664,7 @@ orvane_uint4 __orvane_l9_udiv2(orvane_uint4 x, orvane_uint4 y);
 orvane_uint4 __orvane_l9_udiv3(orvane_uint4 x, orvane_uint4 y);
 orvane_uint4 __orvane_l9_udiv4(orvane_uint4 x, orvane_uint4 y);
 orvane_uint8 __orvane_l9_udiv8(orvane_uint8 x, orvane_uint8 y);
-extern const char __orvane_l9_udiv16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_udiv16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* urem: Remainder of unsigned integers. a for b = 0. */
 uint32_t __orvane_l9_urem1(uint32_t x, uint32_t y);
@@ -340,15 +672,15 @@ orvane_uint4 __orvane_l9_urem2(orvane_uint4 x, orvane_uint4 y);
 orvane_uint4 __orvane_l9_urem3(orvane_uint4 x, orvane_uint4 y);
 orvane_uint4 __orvane_l9_urem4(orvane_uint4 x, orvane_uint4 y);
 orvane_uint8 __orvane_l9_urem8(orvane_uint8 x, orvane_uint8 y);
-extern const char __orvane_l9_urem16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+void __orvane_l9_urem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* udivrem: Quotient and remainder of unsigned integers: udiv and urem of one computation. */
 uint64_t __orvane_l9_udivrem1(uint32_t x, uint32_t y);
-extern const char __orvane_l9_udivrem2[]; /* opaque: in xmm0, xmm1; out xmm0, xmm1 */
-extern const char __orvane_l9_udivrem3[]; /* opaque: in xmm0, xmm1; out xmm0, xmm1 */
-extern const char __orvane_l9_udivrem4[]; /* opaque: in xmm0, xmm1; out xmm0, xmm1 */
-extern const char __orvane_l9_udivrem8[]; /* opaque: in ymm0, ymm1; out ymm0, ymm1 */
-extern const char __orvane_l9_udivrem16[]; /* opaque: in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, ymm2 ymm3 */
+void __orvane_l9_udivrem2(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_udivrem3(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_udivrem4(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 */
+void __orvane_l9_udivrem8(void) ORVANE_NOT_C; /* in ymm0, ymm1; out ymm0, ymm1 */
+void __orvane_l9_udivrem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, ymm2 ymm3 */
 
 #ifdef __cplusplus
 }

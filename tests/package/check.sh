@@ -3,6 +3,7 @@
 #     check.sh SOURCES BUILD SCRATCH
 set -euo pipefail
 sources=$1 build=$2 scratch=$3
+export CMAKE_GENERATOR=Ninja
 rm -rf "$scratch"
 mkdir -p "$scratch"
 log=$scratch/log
@@ -25,7 +26,9 @@ done
 
 export PKG_CONFIG_PATH
 PKG_CONFIG_PATH=$(dirname "$(find "$scratch/prefix" -name orvane.pc)")
-cc -mavx2 -Wno-psabi "$sources/tests/package/consumer.c" $(pkg-config --cflags --libs orvane) -o "$scratch/by_pkg_config"
+(cd "$scratch" && cc -c -mavx2 -Wno-psabi $(pkg-config --cflags orvane) "$sources/tests/package/consumer.c")
+c++ -std=c++20 -mavx2 -Wno-psabi $(pkg-config --cflags orvane) "$sources/tests/package/wide.cpp" "$scratch/consumer.o" \
+    $(pkg-config --libs orvane) -o "$scratch/by_pkg_config"
 [ "$(LD_LIBRARY_PATH=$(pkg-config --variable=libdir orvane) "$scratch/by_pkg_config")" = "1 2.71828175" ]
 [ -f "$scratch/prefix/include/orvane/exports.json" ]
 echo "the installed package works by find_package and by pkg-config"

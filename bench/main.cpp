@@ -1,0 +1,265 @@
+// Throughput of every export that is built, in one run with SLEEF and scalar libm: nanoseconds a lane over a buffer
+// of lanes in the first-level cache, on ordinary lanes and with one special lane in 64.
+//
+//     orvane-bench [FAMILY_REGEX ...] [--benchmark_...]
+#include "bench/peers.h"
+#include "bench/table.h"
+
+#include <cmath>
+#include <cstring>
+#include <dlfcn.h>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <random>
+#include <regex>
+#include <set>
+
+using namespace orvane;
+using namespace orvane::bench;
+
+namespace {
+
+// Argument lanes of a row: evenly spread over its ordinary range; in the special set one lane of every 64, at a
+// random place, is the row's special one.
+void fill(buffer& b, const kernel_row& row, int width, bool special, unsigned seed = 1) {
+    std::mt19937_64 random(seed);
+    for (int j = 0; j < row.arguments(); j++)
+        with_type(row.argument(j), [&]<class T>(type<T>) {
+            const double lo = row.range[j ? 2 : 0], hi = row.range[j ? 3 : 1];
+            T* lane = b.argument[j].as<T>();
+            for (int i = 0; i < lanes_of_buffer; i++) {
+                if constexpr (std::is_integral_v<T>) lane[i] = std::uniform_int_distribution<T>(T(lo), T(hi))(random);
+                else lane[i] = (T)std::uniform_real_distribution<double>(lo, hi)(random);
+            }
+        });
+    if (!special) return;
+    const int live = lanes_of_buffer / stored_lanes(width) * width;
+    for (int block = 0; block < live; block += 64) {
+        const int lane = block + int(random() % 64), at = lane / width * stored_lanes(width) + lane % width;
+        for (int j = 0; j < row.arguments(); j++) {
+            const int size = size_of(row.argument(j));
+            memcpy(b.argument[j].bytes + at * size, &row.special[j], size);
+        }
+    }
+}
+
+// The largest error of the first result over many ordinary lanes, in units of the last place of the true value.
+double largest_error(const kernel_row& row, const pass& run, const family_peers& peers) {
+    if (!peers.truth) return -1;
+    auto b = std::make_unique<buffer>();
+    std::vector<long double> truth(lanes_of_buffer);
+    double worst = 0;
+    for (unsigned seed = 1; seed <= 64; seed++) {
+        fill(*b, row, 16, false, seed);
+        peers.truth(*b, truth.data());
+        run(*b);
+        with_type(row.out, [&]<class T>(type<T>) {
+            using limits = std::numeric_limits<T>;
+            for (int i = 0; i < lanes_of_buffer; i++) {
+                if (!std::isfinite(truth[i])) continue;
+                const int exponent =
+                    std::max(truth[i] == 0 ? limits::min_exponent : std::ilogb(truth[i]), limits::min_exponent - 1);
+                const long double ulp = std::ldexp(1.0L, exponent - limits::digits + 1);
+                worst = std::max(worst, (double)(std::fabs(b->result[0].as<T>()[i] - truth[i]) / ulp));
+            }
+        });
+    }
+    return worst;
+}
+
+// A call in the wrong form would be measured as gladly as a right one: all widths must give the same lanes.
+void check_widths(const kernel_row& row, const std::vector<pass>& runs, bool special) {
+    auto first = std::make_unique<buffer>(), b = std::make_unique<buffer>();
+    const bool has_second = row.has_out() || row.results() > 1;
+    for (size_t w = 0; w < runs.size(); w++) {
+        fill(*b, row, 1, special);
+        runs[w](*b);
+        if (w == 0) *first = *b;
+        for (int j = 0; j < 1 + has_second; j++)
+            for (int i = 0; i < lanes_of_buffer; i++) {
+                const int size = size_of(row.result(j));
+                if (widths[w] == 3 && i % 4 == 3) continue;
+                if (memcmp(b->result[j].bytes + i * size, first->result[j].bytes + i * size, size) == 0) continue;
+                std::cerr << "orvane-bench: " << plan_of(row, widths[w]).symbol
+                          << " and its 1-wide twin disagree in lane " << i % widths[w]
+                          << ": this is a fault in one of them, and nothing is measured\n";
+                exit(1);
+            }
+    }
+}
+
+buffer lanes; // of the benchmark that runs
+
+void register_benchmark(const std::string& name, const kernel_row& row, int width, bool special, const pass& run) {
+    benchmark::RegisterBenchmark(name.c_str(), [=, &row](benchmark::State& state) {
+        fill(lanes, row, width, special);
+        run(lanes); // the results' pages and the caches
+        for (auto _ : state) {
+            run(lanes);
+            benchmark::ClobberMemory();
+        }
+        using flags = benchmark::Counter;
+        const double live = lanes_of_buffer / stored_lanes(width) * width;
+        state.counters["lane"] =
+            benchmark::Counter(live, flags::Flags(flags::kIsIterationInvariantRate | flags::kInvert));
+    });
+}
+
+// The first tier with the same kernel within the family.
+const kernel_row* kernel_of(const kernel_row* row) {
+    while (row->twin_name == row->name)
+        row = find_row(library_rows(), row->twin_name, row->twin_tier);
+    return row;
+}
+
+class bench_plan {
+public:
+    explicit bench_plan(void* library) : library(library) {}
+    std::vector<table_row> rows;
+    size_t benchmarks = 0;
+
+    void add_family(std::string_view name) {
+        std::vector<const kernel_row*> kernels;
+        for (const kernel_row& row : library_rows())
+            if (row.built && row.name == name) {
+                tiers[kernel_of(&row)].push_back(&row);
+                if (kernel_of(&row) == &row) kernels.push_back(&row);
+            }
+        for (const kernel_row* kernel : kernels)
+            add_kernel(*kernel);
+    }
+
+private:
+    void* library;
+    std::map<const kernel_row*, std::vector<const kernel_row*>> tiers;
+    std::set<std::string> registered;
+
+    void add_kernel(const kernel_row& row) {
+        const family_peers peers = peers_of(row);
+        const bool has_special = !row.special.empty();
+        std::vector<pass> runs;
+        for (int width : widths) {
+            const call_plan plan = plan_of(row, width);
+            const void* f = dlsym(library, plan.symbol.c_str());
+            if (!f) {
+                std::cerr << "orvane-bench: " << plan.symbol << " is listed as built and is not in the library\n";
+                exit(1);
+            }
+            runs.push_back(export_pass(plan, f));
+        }
+        for (int special = 0; special <= has_special; special++)
+            check_widths(row, runs, special);
+        const double error = largest_error(row, runs.back(), peers);
+
+        const std::string family(row.name), ours = family + '/' + std::string(row.tier) + '/';
+        for (size_t w = 0; w < runs.size(); w++)
+            add(ours + std::to_string(widths[w]), row, widths[w], has_special, runs[w]);
+        const std::string scalar = peers.scalar ? family + "/libm" : "";
+        if (peers.scalar) add(scalar, row, 16, has_special, peers.scalar);
+
+        // The tiers that are this kernel, by the function of SLEEF that they are held against: the most accurate one
+        // where the error is at most 1.25 ulp, except for native.
+        std::map<const peer*, std::string> tiers_beside;
+        for (const kernel_row* t : tiers[&row]) {
+            const bool is_fast = peers.fast && (t->tier == "native" || error > 1.25);
+            const peer* sleef = is_fast ? &*peers.fast : peers.accurate ? &*peers.accurate : nullptr;
+            std::string& names = tiers_beside[sleef];
+            names += (names.empty() ? "" : " = ") + std::string(t->tier);
+        }
+        for (const auto& [sleef, names] : tiers_beside) {
+            const std::string sleef_name = sleef ? family + "/SLEEF" + sleef->name : "";
+            if (sleef) add(sleef_name, row, 16, has_special, sleef->run);
+            for (int width : widths)
+                rows.push_back({family, names, width, error, sleef ? sleef->name : "", has_special,
+                                ours + std::to_string(width), sleef_name, scalar});
+        }
+    }
+
+    void add(const std::string& name, const kernel_row& row, int width, bool has_special, const pass& run) {
+        if (!registered.insert(name).second) return;
+        for (int special = 0; special <= has_special; special++) {
+            register_benchmark(name + '/' + lane_sets[special], row, width, special, run);
+            benchmarks++;
+        }
+    }
+};
+
+std::string processor() {
+    std::ifstream info("/proc/cpuinfo");
+    for (std::string line; std::getline(info, line);)
+        if (line.starts_with("model name")) return line.substr(line.find(':') + 2);
+    return "an unknown processor";
+}
+
+void print_usage() {
+    puts("orvane-bench [FAMILY_REGEX ...] [--benchmark_...]\n\n"
+         "Throughput of the exports that are built, beside SLEEF and scalar libm. A family is picked by its whole "
+         "name,\n"
+         "with the f of the float member: orvane-bench 'exp.*' fmodf. Single benchmarks are named "
+         "FAMILY/TIER/WIDTH/SET;\n"
+         "--benchmark_filter picks among them.\n");
+    benchmark::PrintDefaultHelp();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // Medians of short repetitions, interleaved at random over the whole run, so that a peer is measured at the same
+    // time as what is held against it.
+    std::vector<char*> arguments = {argv[0]};
+    for (const char* option :
+         {"--benchmark_repetitions=9", "--benchmark_min_time=0.005", "--benchmark_enable_random_interleaving=true"})
+        arguments.push_back(strdup(option));
+    arguments.insert(arguments.end(), argv + 1, argv + argc);
+    int count = (int)arguments.size();
+    benchmark::Initialize(&count, arguments.data(), print_usage);
+
+    void* library = dlopen(ORVANE_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+    if (!library) {
+        std::cerr << "orvane-bench: " << dlerror() << '\n';
+        return 1;
+    }
+    std::vector<std::string> families;
+    for (const kernel_row& row : library_rows())
+        if (row.built && (families.empty() || families.back() != row.name)) families.emplace_back(row.name);
+
+    std::set<std::string> picked;
+    for (int i = 1; i < count; i++) {
+        const std::string pattern = arguments[i];
+        if (pattern.starts_with('-')) {
+            std::cerr << "orvane-bench: unknown option " << pattern << "; --help lists them\n";
+            return 1;
+        }
+        try {
+            const std::regex regex(pattern);
+            const size_t before = picked.size();
+            bool any = false;
+            for (const auto& f : families)
+                if (std::regex_match(f, regex)) picked.insert(f), any = true;
+            if (!any && before == picked.size()) {
+                std::cerr << "orvane-bench: no family that is built is named " << pattern << "; built are";
+                for (const auto& f : families)
+                    std::cerr << ' ' << f;
+                std::cerr << '\n';
+                return 1;
+            }
+        } catch (const std::regex_error& e) {
+            std::cerr << "orvane-bench: " << pattern << " is not a regular expression: " << e.what() << '\n';
+            return 1;
+        }
+    }
+
+    bench_plan plan(library);
+    for (const auto& f : families)
+        if (picked.empty() || picked.contains(f)) plan.add_family(f);
+
+    gathering_reporter reporter(plan.benchmarks);
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+    printf("On %s: nanoseconds a lane, medians; a ratio is the peer's time over ours. SLEEF runs 8 float or 4 double "
+           "lanes\n"
+           "a call (u10: within 1.0 ulp), libm one; ulp is our largest error over 65536 ordinary lanes.\n\n",
+           processor().c_str());
+    print_table(plan.rows, reporter);
+}

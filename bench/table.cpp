@@ -1,0 +1,66 @@
+#include "bench/table.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <unistd.h>
+
+namespace orvane::bench {
+
+void gathering_reporter::ReportRuns(const std::vector<Run>& runs) {
+    for (const Run& r : runs) {
+        const bool is_median = r.run_type == Run::RT_Aggregate && r.aggregate_name == "median";
+        const bool is_only_run = r.run_type == Run::RT_Iteration && r.repetitions <= 1;
+        if (is_median || is_only_run) medians[r.run_name.function_name] = 1e9 * r.counters.at("lane").value;
+    }
+    if (isatty(STDERR_FILENO)) fprintf(stderr, "\r%zu of %zu measured ", medians.size(), expected);
+}
+
+double gathering_reporter::nanoseconds(const std::string& name) const {
+    const auto at = medians.find(name);
+    return at == medians.end() ? -1 : at->second;
+}
+
+void print_table(const std::vector<table_row>& rows, const gathering_reporter& measured) {
+    auto text = [](const char* format, double x, const std::string& suffix = "") {
+        if (x < 0) return std::string("-");
+        char s[32];
+        snprintf(s, sizeof s, format, x);
+        return s + suffix;
+    };
+
+    std::vector<std::vector<std::string>> cells = {{"family", "tier", "width", "ulp", "ns/lane", "SLEEF", "ratio",
+                                                    "libm", "ratio", "1 special in 64", "SLEEF", "ratio", "libm",
+                                                    "ratio"},
+                                                   {}};
+    for (const table_row& r : rows) {
+        std::vector<std::string> line = {r.family, r.tiers, std::to_string(r.width), text(r.error < 100 ? "%.2f" : "%.3g", r.error)};
+        bool any = false;
+        for (const char* set : lane_sets) {
+            auto of = [&](const std::string& name) { return measured.nanoseconds(name + '/' + set); };
+            const double ours = of(r.ours), sleef = of(r.sleef), scalar = of(r.scalar);
+            any |= ours >= 0; // not picked by a filter otherwise
+            auto ratio = [&](double peer) { return text("%.2f", ours > 0 && peer > 0 ? peer / ours : -1); };
+            line.insert(line.end(),
+                        {text("%.3f", ours), text("%.3f", sleef, r.sleef_name.empty() ? "" : ' ' + r.sleef_name),
+                         ratio(sleef), text("%.3f", scalar), ratio(scalar)});
+        }
+        if (any) cells.push_back(std::move(line));
+    }
+    if (cells.size() == 2) return;
+
+    std::vector<size_t> widths;
+    for (const auto& line : cells)
+        for (size_t j = 0; j < line.size(); j++) {
+            widths.resize(std::max(widths.size(), j + 1));
+            widths[j] = std::max(widths[j], line[j].size());
+        }
+    for (const auto& line : cells) {
+        for (size_t j = 0; j < widths.size(); j++) {
+            if (line.empty()) printf("|%s%c", std::string(widths[j] + 1, '-').c_str(), j < 2 ? '-' : ':');
+            else printf(j < 2 ? "| %-*s " : "| %*s ", (int)widths[j], line[j].c_str());
+        }
+        puts("|");
+    }
+}
+
+} // namespace orvane::bench

@@ -1,0 +1,40 @@
+// The table that a run ends with, and the reporter of Google Benchmark that gathers its figures.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace orvane::bench {
+
+// Names of benchmarks: FAMILY/TIER/WIDTH/SET for an export, FAMILY/PEER/SET for a peer.
+inline const char* const lane_sets[] = {"ordinary", "special"};
+
+struct table_row {
+    std::string family, tiers;
+    int width;
+    double error; // in ulp; negative: not measured
+    std::string sleef_name;
+    bool has_special;
+    // Names of benchmarks without the set; empty where there is no such peer.
+    std::string ours, sleef, scalar;
+};
+
+class gathering_reporter : public benchmark::BenchmarkReporter {
+public:
+    explicit gathering_reporter(size_t expected) : expected(expected) {}
+    bool ReportContext(const Context&) override { return true; }
+    void ReportRuns(const std::vector<Run>&) override;
+    // The median time a lane of a benchmark, in nanoseconds; negative if it did not run.
+    double nanoseconds(const std::string& benchmark_name) const;
+
+private:
+    size_t expected;
+    std::map<std::string, double> medians;
+};
+
+void print_table(const std::vector<table_row>&, const gathering_reporter&);
+
+} // namespace orvane::bench

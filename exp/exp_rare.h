@@ -1,0 +1,87 @@
+// The scalar exponential of the slow paths, in double: b^x = 2^(n/64) b^r with n = round(x 64 log2 b), a table of 64
+// entries and a polynomial. Every operation rounds by itself, in the order written.
+#pragma once
+
+#include "exp/exp_tables.h"
+
+namespace orvane {
+
+// What differs from one base to the next: 64 log2 b, and its reciprocal with the sign turned, in a high part with
+// trailing zeros, so that n * high is exact, and a low part.
+struct exp_base {
+    double scale, neg_step_hi, neg_step_lo;
+};
+inline constexpr exp_base base_e = {f64(0x40571547652B82FE), f64(0xBF862E42FEFA0000), f64(0xBD1CF79ABC9E3B3A)};
+inline constexpr exp_base base_10 = {212.60339807279118, -0.004703593682222618, -2.7088530630863833e-14};
+
+// x taken apart: the entry of 2^(j/64), the exponent of 2^e (large for x < 0: its low bits count) and the remainder.
+struct reduced_exponent {
+    double r, hi, lo;
+    uint32_t e;
+};
+inline reduced_exponent reduce(double x, const exp_base& b) {
+    const double w = x * b.scale + f64(0x4338000000000000); // 1.5 * 2^52
+    const double n = w + f64(0xC338000000000000);
+    const uint32_t bits_of_n = (uint32_t)bits(w), j = bits_of_n & 63;
+    const double r = (n * b.neg_step_hi + x) + n * b.neg_step_lo;
+    return {r, _orvdExpHATab[j].hi, _orvdExpHATab[j].lo, bits_of_n >> 6};
+}
+
+// b^r - 1.
+inline double expm1_polynomial(double r) {
+    double p = f64(0x3F56C16A1C2A3FFD);
+    p = p * r + f64(0x3F8111123AAF20D3);
+    p = p * r + f64(0x3FA5555555558FCC);
+    p = p * r + f64(0x3FC55555555548F8);
+    p = p * r + 0.5;
+    return (p * r) * r + r;
+}
+inline double exp10m1_polynomial(double r) {
+    return ((((0.5393660213379269 * r + 1.1712567517670747) * r + 2.0346785924261965) * r + 2.6509490552364285) * r +
+            2.3025850929940455) *
+           r;
+}
+
+// v * 2^e where the result is normal; at the top 2^e itself is no double.
+inline double scaled(double v, uint32_t e) {
+    if ((e & 0x7FF) == 1024) {
+        const double half = v * power_of_two(2046); // 2^1023
+        return half + half;
+    }
+    return v * power_of_two(e + 1023);
+}
+
+// (hi + y) * 2^e where the result may be subnormal in its type: the sum is cut at the last bit that counts there, and
+// what falls off it, with the sum's own error, is added last, so that one rounding shows.
+inline double scaled_to_subnormal(double hi, double y, uint32_t e) {
+    constexpr double back = f64(0x3C30000000000000); // 2^-60
+    const uint32_t field = (e + 1083) & 0x7FF;       // of 2^(e + 60)
+    const double scale = power_of_two(field);
+    const double a = hi * scale, c = y * scale, s = a + c;
+    if (field <= 50) return s * back;
+    const double shifter = s * f64(0x41F8000000000000); // 1.5 * 2^32
+    const double h = (s + shifter) - shifter;
+    return h * back + back * ((c + (a - s)) + (s - h));
+}
+
+// e^x for finite x without overflow or underflow, rounded to double once: shared with expm1, whose lanes here are
+// large.
+inline double exp_normal(double x) {
+    const auto [r, hi, lo, e] = reduce(x, base_e);
+    return scaled(hi + (expm1_polynomial(r) + lo) * hi, e);
+}
+// The same as a float: e is far from the ends of the double range.
+inline float expf_normal(float x) {
+    const auto [r, hi, lo, e] = reduce(x, base_e);
+    return (float)((hi + (expm1_polynomial(r) + lo) * hi) * power_of_two(e + 1023));
+}
+
+// -Inf gives +0, +Inf itself, NaN is quieted.
+template <class T> bool exp_of_not_finite(T x, T* result) {
+    constexpr auto field = sizeof(T) == 8 ? uint64_t(0x7FF0000000000000) : uint64_t(0x7F800000);
+    if ((bits(x) & field) != field) return false;
+    *result = x == -__builtin_inf() ? T(0) : x * x;
+    return true;
+}
+
+} // namespace orvane

@@ -1,0 +1,102 @@
+// The slow paths of log2, log10 and their float members.
+#include "log/log_rare.h"
+
+namespace orvane {
+
+ORVANE_SLOW_PATH(__orvane_dlog10_cout_rare, const double* x, double* result) {
+    int status;
+    if (no_logarithm(*x, result, &status)) return status;
+    const double scaled = *x * 0x1p60; // of a subnormal
+    const double K = biased_exponent(scaled) - 1083, M = significand(scaled);
+    const auto [R, hi, lo] = __dlog10_g_CoutTab[entry_of(M)];
+    const double Mh = (M + 8388608.0) + -8388608.0, Ml = M - Mh;
+    const double t = Mh * R + -0.43359375, u = Ml * R;
+    const double A = f64(0x3FD34413509F8000) * K + hi, Bl = f64(0xBD380433B83B532A) * K + lo;
+    const double v = t + u;
+    static constexpr double p[] = {-43.39945393331915,  21.537397485614264,   -10.89268808217976,
+                                   5.667600559012126,   -3.0717952611199135,  1.7758816353485936,
+                                   -1.1550167667401798, 0.0016161024074997103};
+    const double P = horner(p, v);
+    *result = P * t + ((P * u + Bl) + u) + (A + t);
+    return ordinary;
+}
+
+namespace {
+
+// log10f and log2f of a subnormal: R is cut as well as M, and the table's reciprocals carry a constant K0 near
+// 256 / ln of the base, so that the leading term of the polynomial is 1.
+template <int Scaling, class Part> float scaled_log(float x, const rare_log_entry<float> (&entries)[65], float k0,
+                                                    const float (&p)[8], Part exponent_part) {
+    const float scaled = x * float(uint64_t(1) << Scaling);
+    const float K = float(biased_exponent(scaled) - (127 + Scaling)), M = significand(scaled);
+    const auto [R, hi, lo] = entries[entry_of(M)];
+    const float Rh = f32(bits(R) & 0xFFFFE000);
+    const float Mh = (M + 8192.0f) + -8192.0f;
+    const float A0 = Rh * Mh + -k0, B0 = (R - Rh) * Mh + (M - Mh) * R;
+    const float v = A0 + B0;
+    const auto [high, low] = exponent_part(K, hi, lo);
+    const float A = high + A0;
+    const float P = horner(p, v);
+    return (P * A0 + ((P * B0 + low) + B0)) + A;
+}
+
+} // namespace
+
+ORVANE_SLOW_PATH(__orvane_slog10_cout_rare, const float* x, float* result) {
+    int status;
+    if (no_logarithm(*x, result, &status)) return status;
+    static constexpr float p[] = {f32(0xA22B5DAE), f32(0x25AA5BFD), f32(0xA92C998B), f32(0x2CB3E701),
+                                  f32(0xB04353B9), f32(0x33E23666), f32(0xB7935D5A), f32(0xBF7F0000)};
+    *result = scaled_log<40>(*x, __slog10_g_CoutTab, 111.1796875f, p, [](float K, float hi, float lo) {
+        return hi_lo<float>{0.30078125f * K + hi, K * f32(0x39826A14) + lo};
+    });
+    return ordinary;
+}
+
+ORVANE_SLOW_PATH(__orvane_slog2_cout_rare, const float* x, float* result) {
+    int status;
+    if (no_logarithm(*x, result, &status)) return status;
+    static constexpr float p[] = {f32(0x9C1D865E), f32(0x2081CD9D), f32(0xA4DA74DC), f32(0x293D1988),
+                                  f32(0xADAA8223), f32(0x3223FE93), f32(0xB6B1720F), f32(0xBF7F0000)};
+    *result = scaled_log<27>(*x, __slog2_g_CoutTab, 369.330078125f, p, [](float K, float hi, float lo) {
+        return hi_lo<float>{K + hi, lo};
+    });
+    return ordinary;
+}
+
+ORVANE_SLOW_PATH(__orvane_dlog2_cout_rare, const double* x, double* result) {
+    const double v0 = *x;
+    if (bits(v0) >> 52 >= 0x7FF) { // NaN, an infinity or negative
+        if (v0 == 0) {
+            *result = -__builtin_inf();
+            return pole;
+        }
+        if (v0 < 0) {
+            *result = invalid<double>;
+            return domain_error;
+        }
+        *result = v0 - 0.0; // quiets a NaN
+        return ordinary;
+    }
+    if (v0 == 0) {
+        *result = -__builtin_inf();
+        return pole;
+    }
+    const double d = v0 * 36028797018963968.0; // 2^55, of a subnormal
+    const double k = biased_exponent(d) - 1078;
+    const int i = int(bits(d) >> 44) & 255;
+    const double rc = __dlog2_g___libm_rcp_table_256[i];
+    const double M = significand(d), Mh = f64(bits(M) & 0xFFFFFFFF00000000), Ml = M - Mh;
+    const double t = Mh * rc + -1.0, u = Ml * rc, v = t + u, vsq = v * v;
+    const double W = ((-0.24045091916380087 * vsq + -0.36067376021722414) * vsq + -0.7213475204444817) * vsq +
+                     ((0.2885405044652136 * vsq + 0.48089834696027206) * vsq + 3.7688749856434016e-07) * v;
+    double a = u * 1.4426946640014648 + W;
+    const double b = t * 1.4426946640014648, bh = (b + 4294967296.0) + -4294967296.0;
+    a = (b - bh) + a;
+    const auto [lo, hi] = __dlog2_g___libm_log2_table_256[i];
+    a = a + lo;
+    *result = ((k + hi) + bh) + a;
+    return ordinary;
+}
+
+} // namespace orvane
