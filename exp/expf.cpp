@@ -54,13 +54,13 @@ struct expf_table : kernel<one_argument<float>> {
         auto r = fma(-n, c.ln2_q_hi, x);
         r = fma(-n, c.ln2_q_lo, r);
 
-        auto lo = permute(c.tab_lo, t); // j is t's two low bits: 508 is a multiple of 4
-        auto hi = permute(c.tab_hi, t);
-
         auto r2 = r * r;
-        auto p = fma(horner(r, c.c3, c.c2, c.c1), r2, lo); // e^r = 1 + r + p, the table's low part in p
+        auto p = horner(r, c.c3, c.c2, c.c1);
+        auto lo = permute(c.tab_lo, t); // j is t's two low bits: 508 is a multiple of 4
+        p = fma(p, r2, lo);             // e^r = 1 + r + p, the table's low part in p
 
         auto s = as<float>(bits(t) << 21) & c.exponent_mask; // (k + 508) / 4 as the exponent field: 2^floor(k/4)
+        auto hi = permute(c.tab_hi, t);
         s = hi * s;
         auto q = r + p;
         return answer{fma(q, s, s), not_less_equal(x & c.abs_mask, c.ordinary_limit)};

@@ -11,38 +11,41 @@ ORVANE_SLOW_PATH(__orvane_sfmin_cout_rare, const float* x, const float* y, float
 ORVANE_SLOW_PATH(__orvane_dfdim_cout_rare, const double* x, const double* y, double* result);
 ORVANE_SLOW_PATH(__orvane_sfdim_cout_rare, const float* x, const float* y, float* result);
 
-// min(a, b) and max(a, b) give b on a tie; where magnitudes are equal the operands are turned round.
+// min(a, b) and max(a, b) give b on a tie; where the magnitudes a of x and b of y are equal the operands are turned
+// round.
 struct smaller {
-    static ORVANE_INLINE auto of(auto x, auto y) { return min(x, y); }
+    static ORVANE_INLINE auto of(auto x, auto y, auto, auto) { return min(x, y); }
 };
 struct larger {
-    static ORVANE_INLINE auto of(auto x, auto y) { return max(x, y); }
+    static ORVANE_INLINE auto of(auto x, auto y, auto, auto) { return max(x, y); }
 };
-template <int W, class T> ORVANE_INLINE auto magnitude(lanes<T, W> x) { return andnot(lanes<T, W>(T(-0.0)), x); }
 struct smaller_magnitude {
-    template <int W, class T> static ORVANE_INLINE auto of(lanes<T, W> x, lanes<T, W> y) {
-        auto a = magnitude(x), b = magnitude(y);
-        return select(a < b, x, select(b < a, y, min(y, x)));
+    static ORVANE_INLINE auto of(auto x, auto y, auto a, auto b) {
+        auto x_is = a < b, y_is = b < a;
+        return select(x_is, x, select(y_is, y, min(y, x)));
     }
 };
 struct larger_magnitude {
-    template <int W, class T> static ORVANE_INLINE auto of(lanes<T, W> x, lanes<T, W> y) {
-        auto a = magnitude(x), b = magnitude(y);
-        return select(b < a, x, select(a < b, y, max(y, x)));
+    static ORVANE_INLINE auto of(auto x, auto y, auto a, auto b) {
+        auto x_is = b < a, y_is = a < b;
+        return select(x_is, x, select(y_is, y, max(y, x)));
     }
 };
 
-template <class T, class Choice, auto& Rare> struct selection_kernel : kernel<two_arguments<T>> {
+template <class T, class Choice, const auto& Pool, auto& Rare> struct selection_kernel : kernel<two_arguments<T>> {
+    static constexpr auto& block = Pool;
     static constexpr auto& slow_path = Rare;
-    template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<T, W> y) {
-        return answer{Choice::of(x, y), either_not_finite(x, y)};
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
+        auto a = x & c.magnitude, b = y & c.magnitude;
+        lane_bits<W> not_finite = marked<T, W>(max(words(a), words(b)) > c.largest_word); // x or y
+        return answer{Choice::of(x, y, a, b), not_finite};
     }
 };
 
 // The four of a type share one slow path.
 #define ORVANE_SELECTION(family, Choice)                                                                             \
-    using d##family##_kernel = selection_kernel<double, Choice, __orvane_dfmin_cout_rare>;                           \
-    using s##family##_kernel = selection_kernel<float, Choice, __orvane_sfmin_cout_rare>;                            \
+    using d##family##_kernel = selection_kernel<double, Choice, __orvane_dfputil_pool, __orvane_dfmin_cout_rare>;    \
+    using s##family##_kernel = selection_kernel<float, Choice, __orvane_sfputil_pool, __orvane_sfmin_cout_rare>;     \
     ORVANE_EXPORT(family, , d##family##_kernel)                                                                      \
     ORVANE_EXPORT(family##f, , s##family##_kernel)
 ORVANE_SELECTION(fmin, smaller)
@@ -52,13 +55,9 @@ ORVANE_SELECTION(maxmag, larger_magnitude)
 
 struct dfdim_block {
     SLOT(uint32_t, 0, exp_word, 0x7FF00000)
-    GAP(1, 1)
-    SLOT(double, 2, pos_zero, 0x0)
 };
 struct sfdim_block {
     SLOT(uint32_t, 0, exp_word, 0x7F800000)
-    GAP(1, 1)
-    SLOT(float, 2, pos_zero, 0x0)
 };
 ORVANE_BLOCK(dfdim_block, __orvane_dfdim_data)
 ORVANE_BLOCK(sfdim_block, __orvane_sfdim_data)
@@ -67,8 +66,8 @@ template <class T, const auto& Block, auto& Rare> struct fdim_kernel : kernel<tw
     static constexpr auto& block = Block;
     static constexpr auto& slow_path = Rare;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
-        auto special = [&](auto v) ORVANE_LAMBDA { return (top_words(v) & c.exp_word) == c.exp_word; };
-        return answer{select(y < x, x - y, lanes<T, W>(c.pos_zero)), special(x) | special(y)};
+        auto not_finite = marked<T, W>(max(words(x) & c.exp_word, words(y) & c.exp_word) == c.exp_word);
+        return answer{keep(y < x, x - y), not_finite}; // else +0
     }
 };
 using dfdim_kernel = fdim_kernel<double, __orvane_dfdim_data, __orvane_dfdim_cout_rare>;

@@ -1,33 +1,36 @@
-// Tests on the fields of floating lanes that the utilities share.
+// Tests on the fields of floating lanes that the utilities share, on 32-bit words in their places: a double is its
+// high word, and what its low word gives is never looked at, since the sign of a lane is what marks it.
 #pragma once
 
 #include "frame/lanes.h"
+#include "frame/slots.h"
 
 namespace orvane {
 
-template <class T> constexpr uint_of<T> exponent_field = sizeof(T) == 8 ? uint_of<T>(0x7FF0000000000000) : 0x7F800000;
-
-// The 32-bit word with sign and exponent, and what stands below it.
-template <class T, int W> ORVANE_INLINE lanes<uint32_t, W> top_words(lanes<T, W> x) {
-    if constexpr (sizeof(T) == 8) return high_words(x);
-    else return bits(x);
+template <class T, int W> ORVANE_INLINE auto words(lanes<T, W> x) {
+    if constexpr (sizeof(T) == 8) return words_in_place<int32_t>(x);
+    else return signed_bits(x);
 }
-template <class T, int W> ORVANE_INLINE lanes<uint32_t, W> rest_of_words(lanes<T, W> x) {
-    if constexpr (sizeof(T) == 8) return low_words(x);
-    else return lanes<uint32_t, W>(0u);
+// A comparison of words as special lanes of T.
+template <class T, int W, class M> ORVANE_INLINE lanes<int_of<T>, W> marked(M m) {
+    return (typename lanes<int_of<T>, W>::raw)m.v;
 }
 
-// Infinities and NaN: the exponent field is all ones.
-template <class T, int W> ORVANE_INLINE auto not_finite(lanes<T, W> x) {
-    const lanes<uint_of<T>, W> field(exponent_field<T>);
-    return (bits(x) & field) == field;
-}
-// The same of x or of y. 32-bit patterns have a maximum, which saves a comparison.
-template <class T, int W> ORVANE_INLINE auto either_not_finite(lanes<T, W> x, lanes<T, W> y) {
-    if constexpr (sizeof(T) == 4) {
-        const lanes<int32_t, W> magnitude(0x7FFFFFFF);
-        return max(signed_bits(x) & magnitude, signed_bits(y) & magnitude) > lanes<int32_t, W>(0x7F7FFFFF);
-    } else return not_finite(x) | not_finite(y);
+// Constants that stand in no block of their own.
+template <class T> struct fputil_pool;
+template <> struct fputil_pool<double> {
+    SLOT(int32_t, 0, largest_word, 0x7FEFFFFF) // of a finite magnitude
+    SLOT(double, 1, magnitude, 0x7FFFFFFFFFFFFFFF)
+    SLOT(double, 2, sign, 0x8000000000000000)
+};
+template <> struct fputil_pool<float> {
+    SLOT(int32_t, 0, largest_word, 0x7F7FFFFF)
+    SLOT(float, 1, magnitude, 0x7FFFFFFF)
+    SLOT(float, 2, sign, 0x80000000)
+};
+extern "C" {
+inline constexpr fputil_pool<double> __orvane_dfputil_pool;
+inline constexpr fputil_pool<float> __orvane_sfputil_pool;
 }
 
 } // namespace orvane

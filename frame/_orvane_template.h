@@ -10,14 +10,13 @@
 //     template <int W> static auto vector_path(block, x...)
 //
 // where the formula runs on W lanes of each argument and returns an `answer`: the result, a second result or
-// out-lane, and the special lanes, as a lane of ones each. The rest of an instance is here: spare lane, copy-up of
-// low lanes, the formula register by register, the one branch of the ordinary path, the callout, results in their
-// places.
+// out-lane, and the special lanes, each marked by its sign (by a lane of ones, say). The rest of an instance is here:
+// spare lane, copy-up of low lanes, the formula register by register, the one branch of the ordinary path, the
+// callout, results in their places.
 //
 // A kernel may have more:
 //
-//     template <int W> static auto settle(block, x..., answer)        finishes some special lanes without a slow
-//     path:
+//     template <int W> static auto settle(block, x..., answer)        finishes special lanes with no slow path: gives
 //                                                                      the answer with those lanes out of `special`
 //     template <int W> static auto large_path(block, x..., answer)    an inline path for the lanes that the formula
 //                                                                      left as special; gives all results, and as
@@ -97,19 +96,44 @@ concept has_special = requires(A a) {
     a.special.v;
 };
 
-// Some lane of some chunk is special: with several registers their words are ORed first, so that the ordinary path
-// never packs a mask.
-template <class A, size_t N> ORVANE_INLINE bool any_special(const A (&a)[N]) {
-    auto word = a[0].special;
-    each<N - 1>([&](auto i) ORVANE_LAMBDA { word = word | a[i + 1].special; });
-    return any(word);
-}
-// Bit i is set for special lane i of the whole vector.
-template <int C, class A, size_t N> ORVANE_INLINE unsigned special_mask(const A (&a)[N]) {
-    unsigned mask = 0;
-    each<N>([&](auto i) ORVANE_LAMBDA { mask |= sign_mask(a[i].special) << (C * i); });
-    return mask;
-}
+// The answers of N chunks of C lanes, one finished before the next begins. Special lanes are bits in an integer
+// register from then on, so that no vector register is kept for them; the ordinary path ORs these and never packs a
+// mask.
+template <class A, int C, size_t N> struct answers {
+    A chunk[N];
+    unsigned special[N];
+
+    ORVANE_INLINE void put(auto i, const A& a) {
+        chunk[i] = a;
+        if constexpr (N == 1) void();
+        else if constexpr (requires { a.second; })
+            chunk[i].first = finished(a.first), chunk[i].second = finished(a.second);
+        else if constexpr (requires { a.first; }) chunk[i].first = finished(a.first);
+        else chunk[i] = finished(a);
+        if constexpr (has_special<A>) {
+            special[i] = a.special.signs();
+            if constexpr (N > 1) asm("" : "+r"(special[i]));
+        }
+    }
+    ORVANE_INLINE bool any_special() const {
+        unsigned some = 0;
+        each<N>([&](auto i) ORVANE_LAMBDA { some |= special[i]; });
+        return __builtin_expect((some & live) != 0, 0);
+    }
+    // Bit i is set for special lane i of the whole vector.
+    ORVANE_INLINE unsigned mask() const {
+        unsigned m = 0;
+        each<N>([&](auto i) ORVANE_LAMBDA { m |= (special[i] & live) << (C * i); });
+        return m;
+    }
+    static constexpr unsigned live = C < 4 ? (1u << C) - 1 : ~0u;
+    // A chunk's answer for the steps behind the branch, its special lanes made from their bits.
+    ORVANE_INLINE A again(auto i) const {
+        A a = chunk[i];
+        a.special = decltype(a.special)::of_bits(special[i]);
+        return a;
+    }
+};
 
 } // namespace detail
 
@@ -135,9 +159,9 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         came.vector[3] = v3;
     }
 
-    // Spare lane and copy-up, chunk by chunk. Arguments on the stack are loaded where a chunk needs them, and once
-    // more for the callout, instead of being kept in registers in between: `again` tells the compiler's eyes the
-    // loads apart.
+    // Spare lane and copy-up, chunk by chunk. Arguments on the stack are loaded where a chunk needs them, and again
+    // behind the branch, instead of being kept in registers in between; the compiler may not see that these loads are
+    // the same.
     auto admit_chunk = [&](const incoming<S, W>& from, auto i) ORVANE_LAMBDA {
         return [&]<int... J>(std::integer_sequence<int, J...>) ORVANE_LAMBDA {
             return std::tuple{
@@ -151,19 +175,21 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
     auto arguments_of = [&](auto i, auto again) ORVANE_LAMBDA {
         if constexpr (L::in_memory) {
             incoming<S, W> from = came;
-            asm("" : "+r"(from.stack) : "i"(i + N * again));
+            if constexpr (again) asm("" : "+r"(from.stack) : "i"(+i));
             return admit_chunk(from, i);
         } else return x[i];
     };
-    constexpr std::integral_constant<int, 0> at_first;
-    constexpr std::integral_constant<int, 1> for_callout;
+    constexpr std::false_type at_first;
+    constexpr std::true_type behind_branch;
 
-    auto on_chunk = [&](auto i, auto f, const auto&... more) ORVANE_LAMBDA {
-        return std::apply([&](const auto&... a) ORVANE_LAMBDA { return f(base_of<i>(K::block), a..., more...); },
-                          arguments_of(i, at_first));
+    const auto* block = &K::block;
+    auto on_chunk = [&](auto again, auto i, auto f, const auto&... more) ORVANE_LAMBDA {
+        const auto& c = anew(block);
+        return std::apply([&](const auto&... a) ORVANE_LAMBDA { return f(c, a..., more...); },
+                          arguments_of(i, again));
     };
     auto callout = [&](auto& r, unsigned mask) ORVANE_LAMBDA {
-        call_out<K, W>([&](auto i) ORVANE_LAMBDA { return arguments_of(i, for_callout); }, r, mask, wrapper, where);
+        call_out<K, W>([&](auto i) ORVANE_LAMBDA { return arguments_of(i, behind_branch); }, r, mask, wrapper, where);
     };
 
     if constexpr (calls_for_all_lanes<K>) {
@@ -180,29 +206,27 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         }
     } else {
         auto formula = [&](const auto&... a) ORVANE_LAMBDA { return K::template vector_path<C>(a...); };
-        auto compute = [&](auto i) ORVANE_LAMBDA {
-            if constexpr (detail::has_reduce<K>)
-                return on_chunk(i, [&](const auto&... a) ORVANE_LAMBDA { return K::template reduce<C>(a...); });
-            else return on_chunk(i, formula);
+        auto on_all = [&](auto step) ORVANE_LAMBDA {
+            detail::answers<decltype(step(first_chunk)), C, N> all;
+            each<N>([&](auto i) ORVANE_LAMBDA { all.put(i, step(i)); });
+            return all;
         };
-        decltype(compute(first_chunk)) stage[N];
-        each<N>([&](auto i) ORVANE_LAMBDA { stage[i] = compute(i); });
 
         // From answers to the return: results alone on the ordinary path, the callout behind its branch.
         auto finish = [&](auto& a) ORVANE_LAMBDA -> entry_result<S, W> {
-            decltype(detail::results_of(a[0])) r[N];
+            decltype(detail::results_of(a.chunk[0])) r[N];
             auto take_results = [&]() ORVANE_LAMBDA {
-                each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(a[i]); });
+                each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(a.chunk[i]); });
             };
-            if constexpr (detail::has_special<std::remove_reference_t<decltype(a[0])>>) {
-                if (__builtin_expect(detail::any_special(a), 0)) {
-                    if constexpr (detail::has_settle<K>)
-                        each<N>([&](auto i) ORVANE_LAMBDA {
-                            a[i] = on_chunk(
-                                i, [&](const auto&... b) ORVANE_LAMBDA { return K::template settle<C>(b...); }, a[i]);
-                        });
+            if constexpr (detail::has_special<std::remove_reference_t<decltype(a.chunk[0])>>) {
+                if (a.any_special()) {
+                    if constexpr (detail::has_settle<K>) {
+                        auto settle = [&](const auto&... b) ORVANE_LAMBDA { return K::template settle<C>(b...); };
+                        each<N>([&](auto i)
+                                    ORVANE_LAMBDA { a.put(i, on_chunk(behind_branch, i, settle, a.again(i))); });
+                    }
                     take_results();
-                    const unsigned mask = detail::special_mask<C>(a);
+                    const unsigned mask = a.mask();
                     if (!detail::has_settle<K> || mask) callout(r, mask);
                     return hand_over<S, W>(r, where.result, where.out);
                 }
@@ -212,31 +236,30 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         };
 
         if constexpr (detail::has_large_path<K>) {
+            auto large = [&](const auto&... a) ORVANE_LAMBDA { return K::template large_path<C>(a...); };
+            auto stage = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, formula); });
             // Where it runs, the large path's answers take over, with its own special lanes.
-            if (__builtin_expect(detail::any_special(stage), 0)) {
-                auto large = [&](auto i) ORVANE_LAMBDA {
-                    return on_chunk(
-                        i, [&](const auto&... b) ORVANE_LAMBDA { return K::template large_path<C>(b...); }, stage[i]);
-                };
-                decltype(large(first_chunk)) a[N];
-                each<N>([&](auto i) ORVANE_LAMBDA { a[i] = large(i); });
+            if (stage.any_special()) {
+                auto a =
+                    on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(behind_branch, i, large, stage.again(i)); });
                 return finish(a);
             }
-            decltype(detail::results_of(stage[0])) r[N];
-            each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(stage[i]); });
+            decltype(detail::results_of(stage.chunk[0])) r[N];
+            each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(stage.chunk[i]); });
             return hand_over<S, W>(r, where.result, where.out);
         } else if constexpr (detail::has_reduce<K>) {
-            if (__builtin_expect(detail::any_special(stage), 0))
-                each<N>([&](auto i) ORVANE_LAMBDA {
-                    stage[i] = on_chunk(
-                        i, [&](const auto&... b) ORVANE_LAMBDA { return K::template large_reduce<C>(b...); },
-                        stage[i]);
-                });
-            auto after = [&](auto i) ORVANE_LAMBDA { return on_chunk(i, formula, stage[i]); };
-            decltype(after(first_chunk)) a[N];
-            each<N>([&](auto i) ORVANE_LAMBDA { a[i] = after(i); });
+            auto reduce = [&](const auto&... a) ORVANE_LAMBDA { return K::template reduce<C>(a...); };
+            auto large = [&](const auto&... a) ORVANE_LAMBDA { return K::template large_reduce<C>(a...); };
+            auto stage = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, reduce); });
+            if (stage.any_special())
+                each<N>([&](auto i)
+                            ORVANE_LAMBDA { stage.chunk[i] = on_chunk(behind_branch, i, large, stage.again(i)); });
+            auto a = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, formula, stage.chunk[i]); });
             return finish(a);
-        } else return finish(stage);
+        } else {
+            auto a = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, formula); });
+            return finish(a);
+        }
     }
 }
 

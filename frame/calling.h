@@ -103,8 +103,14 @@ template <class T, int W> ORVANE_INLINE void store_lanes(void* at, lanes<T, W> x
     constexpr int bytes = sizeof(T) * stored(W);
     if constexpr (bytes == 32) _mm256_storeu_si256((__m256i_u*)at, (__m256i)x.v);
     else if constexpr (bytes == 16) _mm_storeu_si128((__m128i_u*)at, (__m128i)x.v);
-    else if constexpr (bytes == 8) _mm_storeu_si64(at, (__m128i)detail::in_register(x.v));
-    else _mm_storeu_si32(at, (__m128i)detail::in_register(x.v));
+    // The part stores are written out: taken as an element, the value would be moved, or kept in memory.
+    else if constexpr (bytes == 8) {
+        typedef uint64_t word [[gnu::may_alias, gnu::aligned(1)]];
+        asm("vmovq %1, %0" : "=m"(*(word*)at) : "x"(x.v));
+    } else {
+        typedef uint32_t word [[gnu::may_alias, gnu::aligned(1)]];
+        asm("vmovd %1, %0" : "=m"(*(word*)at) : "x"(x.v));
+    }
 }
 
 // The first parameter of the memory form beside its pointers: all arguments, by value, on the stack.

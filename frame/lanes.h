@@ -64,6 +64,14 @@ enum rounding : int { to_nearest = 0, downward = 1, upward = 2, toward_zero = 3,
 
 enum comparison : int { LT = 17, LE = 18, NLT = 21, NLE = 22, EQ = 0, NEQ = 4, ORD = 7, UNORD = 3, NEQ_ORDERED = 12 };
 
+namespace detail {
+// A value in a register, which the compiler takes as it stands.
+template <class R> ORVANE_INLINE R in_register(R r) {
+    asm("" : "+x"(r));
+    return r;
+}
+} // namespace detail
+
 // -a as an operand: a fused product takes the sign into the instruction, which leaves a NaN as it is; anywhere else
 // the sign bit is turned.
 template <class V> struct negated {
@@ -159,7 +167,8 @@ template <class T, int W> struct lanes {
         else return from(_mm_srlv_epi64((__m128i)a.v, (__m128i)n.v));
     }
 
-    // Comparisons give a lane of ones or of zeros.
+    // Comparisons give a lane of ones or of zeros. Those of integers are hidden from the compiler, which would turn
+    // an OR with one into a blend.
     template <comparison P> static ORVANE_INLINE mask compare(lanes a, lanes b) requires is_floating<T> {
         if constexpr (std::is_same_v<T, float> && is_wide) return (typename mask::raw)_mm256_cmp_ps(a.v, b.v, P);
         else if constexpr (std::is_same_v<T, float>) return (typename mask::raw)_mm_cmp_ps(a.v, b.v, P);
@@ -168,17 +177,17 @@ template <class T, int W> struct lanes {
     }
     friend ORVANE_INLINE mask operator<(lanes a, lanes b) {
         if constexpr (is_floating<T>) return compare<LT>(a, b);
-        else return mask((typename mask::raw)(a.v < b.v));
+        else return mask(detail::in_register((typename mask::raw)(a.v < b.v)));
     }
     friend ORVANE_INLINE mask operator<=(lanes a, lanes b) {
         if constexpr (is_floating<T>) return compare<LE>(a, b);
-        else return mask((typename mask::raw)(a.v <= b.v));
+        else return mask(detail::in_register((typename mask::raw)(a.v <= b.v)));
     }
     friend ORVANE_INLINE mask operator>(lanes a, lanes b) { return b < a; }
     friend ORVANE_INLINE mask operator>=(lanes a, lanes b) { return b <= a; }
     friend ORVANE_INLINE mask operator==(lanes a, lanes b) {
         if constexpr (is_floating<T>) return compare<EQ>(a, b);
-        else return mask((typename mask::raw)(a.v == b.v));
+        else return mask(detail::in_register((typename mask::raw)(a.v == b.v)));
     }
     // For floating lanes also true of an unordered pair.
     friend ORVANE_INLINE mask operator!=(lanes a, lanes b) {
@@ -263,6 +272,12 @@ template <class T, int W> struct lanes {
         else return a.v > b.v ? a.v : b.v;
     }
 
+    // Even lanes of one and odd lanes of the other.
+    friend ORVANE_INLINE lanes alternate(lanes even, lanes odd) requires(sizeof(T) == 4) {
+        if constexpr (is_wide) return from(_mm256_blend_epi32((__m256i)even.v, (__m256i)odd.v, 0xAA));
+        else return from(_mm_blend_epi32((__m128i)even.v, (__m128i)odd.v, 0xA));
+    }
+
     // The product of the low 32 bits of each 64-bit lane, exact in 64 bits.
     friend ORVANE_INLINE lanes multiply_low_words(lanes a, lanes b) requires(sizeof(T) == 8 && !is_floating<T>) {
         if constexpr (std::is_signed_v<T> && is_wide) return from(_mm256_mul_epi32((__m256i)a.v, (__m256i)b.v));
@@ -271,16 +286,28 @@ template <class T, int W> struct lanes {
         else return from(_mm_mul_epu32((__m128i)a.v, (__m128i)b.v));
     }
 
-    // Bit i is the sign of lane i; bits at and above W are 0. At W = 3 the spare lane has no bit.
-    friend ORVANE_INLINE unsigned sign_mask(lanes a) {
-        unsigned m;
-        if constexpr (sizeof(T) == 4 && is_wide) m = (unsigned)_mm256_movemask_ps((__m256)a.v);
-        else if constexpr (sizeof(T) == 4) m = (unsigned)_mm_movemask_ps((__m128)a.v);
-        else if constexpr (is_wide) m = (unsigned)_mm256_movemask_pd((__m256d)a.v);
-        else m = (unsigned)_mm_movemask_pd((__m128d)a.v);
-        return W == capacity ? m : m & ((1u << W) - 1);
+    // Bit i is the sign of lane i, of all lanes of the register: above W are the copies or the spare lane.
+    ORVANE_INLINE unsigned signs() const {
+        if constexpr (sizeof(T) == 4 && is_wide) return (unsigned)_mm256_movemask_ps((__m256)v);
+        else if constexpr (sizeof(T) == 4) return (unsigned)_mm_movemask_ps((__m128)v);
+        else if constexpr (is_wide) return (unsigned)_mm256_movemask_pd((__m256d)v);
+        else return (unsigned)_mm_movemask_pd((__m128d)v);
     }
-    friend ORVANE_INLINE bool any(lanes a) { return sign_mask(a) != 0; }
+    // All ones in lane i where bit i is set, else 0.
+    static ORVANE_INLINE lanes of_bits(unsigned m) requires(!is_floating<T>) {
+        const lanes bit = shift_left(lanes(T(1)), counting(std::make_integer_sequence<int, capacity>{}));
+        return lanes((raw)((lanes(T(m)) & bit) == bit).v);
+    }
+    template <int... I> static ORVANE_INLINE lanes counting(std::integer_sequence<int, I...>) { return raw{T(I)...}; }
+};
+
+// Special lanes as bits in an integer register from here on: for kernels that are short of vector registers and have
+// no further step that wants them as lanes.
+template <int W> struct lane_bits {
+    unsigned v;
+    lane_bits() = default;
+    template <class T> ORVANE_INLINE lane_bits(lanes<T, W> m) : v(m.signs()) { asm("" : "+r"(v)); }
+    ORVANE_INLINE unsigned signs() const { return v; }
 };
 
 // The rounding instruction with its mode in the immediate.
@@ -290,6 +317,13 @@ template <rounding R, class T, int W> ORVANE_INLINE lanes<T, W> round_to(lanes<T
     else if constexpr (std::is_same_v<T, float>) return _mm_round_ps(a.v, R);
     else if constexpr (wide) return _mm256_round_pd(a.v, R);
     else return _mm_round_pd(a.v, R);
+}
+
+// A value whose steps end here: the compiler would put them off to where it is used, and run out of registers
+// between.
+template <class V> ORVANE_INLINE V finished(V a) {
+    a.v = detail::in_register(a.v);
+    return a;
 }
 
 // The same bits under another type of the same size.
@@ -381,6 +415,12 @@ template <class U, class T, int W> ORVANE_INLINE auto words_in_place(lanes<T, W>
     return lanes<U, words>((typename lanes<U, words>::raw)a.v);
 }
 
+// 32-bit lanes two by two seen as 64-bit ones.
+template <class U, class T, int W> ORVANE_INLINE auto pairs_in_place(lanes<T, W> a) {
+    static_assert(sizeof(T) == 4 && sizeof(U) == 8);
+    return lanes<U, W / 2>((typename lanes<U, W / 2>::raw) a.v);
+}
+
 // Whether the high word of x under `mask` is greater than `limit`, as signed integers; the comparison runs on all
 // words in place, and only the sign of each lane of the result counts, which is all that a special mask and a select
 // look at.
@@ -401,8 +441,10 @@ ORVANE_INLINE lanes<T, W> horner(lanes<T, W> x, const A& highest, const B&... lo
 // f on operands whose 32-bit lanes must be widened to 64 bits: at W = 8 f runs on each half and the results are
 // joined; at the lower widths it runs once.
 template <class F, class A, int W, class... B> ORVANE_INLINE auto by_halves(F f, lanes<A, W> a, lanes<B, W>... b) {
-    if constexpr (W == 8) return join(f(low_half(a), low_half(b)...), f(high_half(a), high_half(b)...));
-    else return f(a, b...);
+    if constexpr (W == 8) {
+        auto low = finished(f(low_half(a), low_half(b)...));
+        return join(low, f(high_half(a), high_half(b)...));
+    } else return f(a, b...);
 }
 
 // Table lookups from memory, a scalar load a live lane, assembled in a register; the index counts entries.
@@ -418,12 +460,6 @@ template <class T, int W, class Entry> ORVANE_INLINE lanes<T, W> assemble(Entry 
         }
     (std::make_integer_sequence<int, V::capacity>{});
 }
-// A register whose elements are taken one by one. The compiler must see it whole: elements taken out of a variable
-// keep that variable in memory.
-template <class R> ORVANE_INLINE R in_register(R r) {
-    asm("" : "+x"(r));
-    return r;
-}
 template <class T> ORVANE_INLINE T load(const void* at) {
     T x;
     __builtin_memcpy(&x, at, sizeof x);
@@ -431,7 +467,7 @@ template <class T> ORVANE_INLINE T load(const void* at) {
 }
 } // namespace detail
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup(const T* table, lanes<I, W> index) {
-    const auto at = detail::in_register(index.v);
+    const auto at = detail::in_register(index.v); // elements taken out of a variable would keep it in memory
     return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return table[at[i]]; });
 }
 // The same at byte offsets from a base, for indices that come scaled out of the bits of a sum.

@@ -66,14 +66,13 @@ template <int First, int Last> struct alignas(slot_bytes) gap {
     unsigned char unread[(Last - First + 1) * slot_bytes] = {};
 };
 
-// Where chunk I of a kernel reads its block from: the address, in a register. The compiler may not look through it,
-// so that every constant is read from its slot and not from a copy in a pool of the compiler's own; and each chunk
-// has its own, so that a constant serves as a memory operand in each of them instead of being kept (and spilled) in
-// between.
-template <int I, class B> ORVANE_INLINE const B& base_of(const B& block) {
-    const B* base = &block;
-    asm("" : "+r"(base) : "i"(I));
-    return *base;
+// Where a kernel reads its block from: the address, in a register. The compiler may not look through it, so that
+// every constant is read from its slot and not from a copy in a pool of the compiler's own; and each part of a kernel
+// that takes it anew has its constants as memory operands, instead of keeping (and spilling) them from one part to
+// the next.
+template <class B> ORVANE_INLINE const B& anew(const B*& block) {
+    asm("" : "+r"(block));
+    return *block;
 }
 
 #define ORVANE_PLACED(byte_offset, name)                                                                             \

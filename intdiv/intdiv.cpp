@@ -9,44 +9,66 @@
 
 namespace orvane {
 
-inline constexpr double two = from_bits<double>(0x4000000000000000);
-inline constexpr double two_biased = from_bits<double>(0x4000000000000200); // 2 + 2^-42
-inline constexpr double shifter = from_bits<double>(0x4338000000000000);    // 1.5 * 2^52: an integer below 2^32 added
-inline constexpr double neg_shifter = from_bits<double>(0xC338000000000000); // to it lies in the low word
+struct intdiv_pool {
+    SLOT(double, 0, two, 0x4000000000000000)
+    SLOT(double, 1, two_biased, 0x4000000000000200) // 2 + 2^-42
+    SLOT(double, 2, shifter, 0x4338000000000000) // 1.5 * 2^52: an integer below 2^32 added to it lies in the low word
+    SLOT(double, 3, neg_shifter, 0xC338000000000000)
+};
+ORVANE_BLOCK(intdiv_pool, __orvane_intdiv_pool)
 
-// (a / b) lifted just over the true quotient, from the estimate r0 of 1 / b.
+// 1 / b from its estimate r0, in two factors whose product has the bias: (a r1) e is a / b lifted just over it.
+template <int W> struct reciprocal { lanes<double, W> r1, e; };
 template <int W>
-ORVANE_INLINE lanes<double, W> lifted_quotient(lanes<double, W> ad, lanes<double, W> bd, lanes<double, W> r0) {
-    using V = lanes<double, W>;
-    auto r1 = fma(-r0, bd, V(two)) * r0;
-    auto e = fma(-r1, bd, V(two_biased));
-    return (ad * r1) * e;
+ORVANE_INLINE reciprocal<W> refined(const intdiv_pool& c, lanes<double, W> bd, lanes<float, W> estimate) {
+    auto r0 = convert<double>(estimate);
+    auto r1 = fma(-r0, bd, c.two) * r0;
+    auto e = fma(-r1, bd, c.two_biased);
+    return {r1, e};
 }
 
-template <int W> ORVANE_INLINE lanes<int32_t, W> quotient(lanes<int32_t, W> a, lanes<int32_t, W> b) {
+template <int W>
+ORVANE_INLINE lanes<int32_t, W> quotient(const intdiv_pool& pool, lanes<int32_t, W> a, lanes<int32_t, W> b) {
+    const auto* block = &pool;
     auto estimate = reciprocal_estimate(convert<float>(b)); // one for all lanes
     return by_halves(
-        [](auto a, auto b, auto r0) ORVANE_LAMBDA {
-            auto q = lifted_quotient(convert<double>(a), convert<double>(b), convert<double>(r0));
+        [&](auto a, auto b, auto r0) ORVANE_LAMBDA {
+            auto [r1, e] = refined(anew(block), convert<double>(b), r0);
+            auto q = (convert<double>(a) * r1) * e;
             return truncate<int32_t>(q); // NaN and what is out of range: 0x80000000
         },
         a, b, estimate);
 }
 
-// There is no unsigned conversion: u is put into the low word of the shifter, which is taken off again, exactly.
-template <int W> ORVANE_INLINE lanes<double, W> widened(lanes<uint32_t, W> u) {
-    using V = lanes<double, W>;
-    return as<double>(convert<uint64_t>(u) | bits(V(shifter))) + V(neg_shifter);
+// There is no unsigned conversion: u goes into the low word of the shifter, which is taken off again, exactly; and
+// the quotient comes back in the low word of the shifter.
+template <int W>
+ORVANE_INLINE lanes<double, W> quotient_in_shifter(const intdiv_pool& c, lanes<double, W> a, lanes<double, W> b) {
+    auto bd = b + c.neg_shifter;
+    auto [r1, e] = refined(c, bd, reciprocal_estimate(convert<float>(bd)));
+    auto q = ((a + c.neg_shifter) * r1) * e;
+    return round_to<toward_zero>(q) + c.shifter; // the low word of the default NaN is 0
 }
-template <int W> ORVANE_INLINE lanes<uint32_t, W> quotient(lanes<uint32_t, W> a, lanes<uint32_t, W> b) {
-    return by_halves(
-        [](auto a, auto b) ORVANE_LAMBDA {
-            auto bd = widened(b);
-            auto r0 = convert<double>(reciprocal_estimate(convert<float>(bd)));
-            auto t = round_to<toward_zero>(lifted_quotient(widened(a), bd, r0));
-            return low_words(t + decltype(t)(shifter)); // 0 for the default NaN
-        },
-        a, b);
+template <int W>
+ORVANE_INLINE lanes<uint32_t, W> quotient(const intdiv_pool& pool, lanes<uint32_t, W> a, lanes<uint32_t, W> b) {
+    if constexpr (W == 8) {
+        const auto* block = &pool;
+        // Even lanes and then odd lanes, so that nothing crosses the halves of a register.
+        auto even = [](const intdiv_pool& c, auto u) ORVANE_LAMBDA {
+            return pairs_in_place<double>(alternate(u, words_in_place<uint32_t>(lanes<double, 4>(c.shifter))));
+        };
+        auto odd = [](const intdiv_pool& c, auto u)
+                       ORVANE_LAMBDA { return as<double>((pairs_in_place<uint64_t>(u) >> 32) | c.shifter); };
+        auto divide = [&](auto part) ORVANE_LAMBDA {
+            const auto& c = anew(block);
+            return finished(bits(quotient_in_shifter(c, part(c, a), part(c, b))));
+        };
+        auto q_even = divide(even), q_odd = divide(odd);
+        return alternate(words_in_place<uint32_t>(q_even), words_in_place<uint32_t>(q_odd << 32));
+    } else {
+        auto in_shifter = [&](auto u) ORVANE_LAMBDA { return as<double>(convert<uint64_t>(u) | pool.shifter); };
+        return low_words(quotient_in_shifter(pool, in_shifter(a), in_shifter(b)));
+    }
 }
 
 // a - q b, wrapping in 32 bits.
@@ -55,21 +77,24 @@ template <class I, int W> ORVANE_INLINE lanes<I, W> remainder(lanes<I, W> a, lan
 }
 
 template <class I> struct division : kernel<integer<I>> {
+    static constexpr auto& block = __orvane_intdiv_pool;
     static constexpr double spare = 1;
-    template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<I, W> a, lanes<I, W> b) {
-        return quotient(a, b);
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<I, W> a, lanes<I, W> b) {
+        return quotient(c, a, b);
     }
 };
 template <class I> struct modulo : kernel<integer<I>> {
+    static constexpr auto& block = __orvane_intdiv_pool;
     static constexpr double spare = 1;
-    template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<I, W> a, lanes<I, W> b) {
-        return remainder(a, b, quotient(a, b));
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<I, W> a, lanes<I, W> b) {
+        return remainder(a, b, quotient(c, a, b));
     }
 };
 template <class I> struct division_and_modulo : kernel<integer_pair<I>> {
+    static constexpr auto& block = __orvane_intdiv_pool;
     static constexpr double spare = 1;
-    template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<I, W> a, lanes<I, W> b) {
-        auto q = quotient(a, b);
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<I, W> a, lanes<I, W> b) {
+        auto q = quotient(c, a, b);
         return results{q, remainder(a, b, q)};
     }
 };

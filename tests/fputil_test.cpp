@@ -94,6 +94,12 @@ TYPED_TEST(Fputil, OnlyRintAndNearbyintFollowTheMode) {
     EXPECT_SAME(number<T>(words_of<T>("fract", down, tiny)[0]), below);
     const T x = sizeof(T) == 8 ? T(-0x1.0000000000001p-3) : T(-0x1.000002p-3); // 1 + x is no number of the type
     EXPECT_GT(number<T>(words_of<T>("fract", up, x)[0]), number<T>(words_of<T>("fract", down, x)[0]));
+    // Nothing left is a negative zero where the mode is downward.
+    for (auto f : {"fract", "modf"}) {
+        EXPECT_SAME(number<T>(words_of<T>(f, down, T(3))[0]), T(-0.0)) << f;
+        for (uint32_t mode : {to_even, up, to_zero})
+            EXPECT_SAME(number<T>(words_of<T>(f, mode, T(3))[0]), T(0)) << f;
+    }
 }
 
 TYPED_TEST(Fputil, FractionsAddUpAgain) {
@@ -165,6 +171,32 @@ TYPED_TEST(Fputil, Selections) {
     EXPECT_SAME(value<T>("fmin", T(0), T(-0.0)), T(-0.0));
     EXPECT_SAME(value<T>("minmag", T(0), T(-0.0)), T(0));
     EXPECT_SAME(value<T>("fdim", T(HUGE_VAL), T(HUGE_VAL)), T(0));
+}
+
+// No error is ever told, and what a slow path does not answer stays as the vector path has put it there.
+TYPED_TEST(Fputil, SlowPaths) {
+    using T = TypeParam;
+    const auto infinity = word(T(HUGE_VAL)), minus = word(T(-0.0)), one = word(T(1)), before = word(T(42));
+    const auto quiet = word(std::numeric_limits<T>::quiet_NaN()), nan = infinity | 5 | minus;
+    const uint64_t mask = sizeof(T) == 4 ? 0xFFFFFFFF : ~uint64_t(0);
+    auto slow = [&](const char* base, std::vector<uint64_t> lane) {
+        const auto r =
+            call_slow_path(library_under_test(), *find_row(library_rows(), member<T>(base), "default"), lane, before);
+        EXPECT_EQ(r.status, 0) << base;
+        return std::pair{r.result & mask, r.out & mask};
+    };
+    for (uint64_t sign : {uint64_t(0), minus}) {
+        EXPECT_EQ(slow("fract", {sign}), std::pair(sign, sign));
+        EXPECT_EQ(slow("fract", {infinity | sign}), std::pair(sign, infinity | sign));
+        EXPECT_EQ(slow("modf", {infinity | sign}), std::pair(sign, infinity | sign));
+    }
+    EXPECT_EQ(slow("fract", {nan}), std::pair(nan, nan));
+    EXPECT_EQ(slow("modf", {nan}), std::pair(nan | quiet, nan | quiet));
+    for (auto f : {"fmin", "fmax", "minmag", "maxmag", "fdim"}) {
+        EXPECT_EQ(slow(f, {infinity, one}).first, before) << f;
+        EXPECT_EQ(slow(f, {infinity, nan}).first, std::string(f) == "fdim" ? nan | quiet : infinity) << f;
+        EXPECT_EQ(slow(f, {nan ^ 1, nan}).first, nan | quiet) << f;
+    }
 }
 
 TYPED_TEST(Fputil, FmaRoundsOnce) {
