@@ -6,7 +6,6 @@
 // is that of the rounded value.
 #pragma once
 
-#include "fputil/words.h"
 #include "frame/_orvane_template.h"
 
 namespace orvane {
@@ -14,7 +13,10 @@ namespace orvane {
 template <class T, int W> ORVANE_INLINE auto magnitude(lanes<T, W> x) {
     return x & lanes<T, W>(from_bits<T>(uint_of<T>(-1) >> 1));
 }
-template <class T, int W> ORVANE_INLINE auto signed_top_words(lanes<T, W> x) { return as<int32_t>(top_words(x)); }
+template <class T, int W> ORVANE_INLINE lanes<int32_t, W> signed_top_words(lanes<T, W> x) {
+    if constexpr (sizeof(T) == 8) return as<int32_t>(high_words(x));
+    else return signed_bits(x);
+}
 
 // A comparison of T lanes as a mask of 32-bit lanes, and 32-bit lanes or masks as 64-bit ones.
 template <class M, int W> ORVANE_INLINE auto narrow(lanes<M, W> m) {
