@@ -1,6 +1,6 @@
-// cvtfp64tofp32<mode>: the ordinary conversion to nearest, converted back and compared with the source; where it lies on
-// the wrong side the pattern moves by one, which leads over binades, subnormals and zeros, and from an infinity to the
-// largest finite value. A NaN compares false and stays as the conversion quieted it.
+// cvtfp64tofp32<mode>: the ordinary conversion to nearest, converted back and compared with the source; where it lies
+// on the wrong side the pattern moves by one, which leads over binades, subnormals and zeros, and from an infinity to
+// the largest finite value. A NaN compares false and stays as the conversion quieted it.
 #include "frame/_orvane_template.h"
 
 namespace orvane {

@@ -1,9 +1,9 @@
 // Floating lanes to integer lanes, in a rounding mode that stands in the immediate of the rounding instruction.
 //
-// After that instruction a lane is a whole number, an infinity or a NaN, so that nothing which follows rounds, whatever
-// mode the caller is in. Out of range: the saturating forms give the nearest end of the result's range and 0 for a NaN;
-// the others give the top bit alone, and the unsigned ones of them convert the magnitude of a negative lane. The range
-// is that of the rounded value.
+// After that instruction a lane is a whole number, an infinity or a NaN, so that nothing which follows rounds,
+// whatever mode the caller is in. Out of range: the saturating forms give the nearest end of the result's range and 0
+// for a NaN; the others give the top bit alone, and the unsigned ones of them convert the magnitude of a negative
+// lane. The range is that of the rounded value.
 #pragma once
 
 #include "frame/_orvane_template.h"
@@ -66,8 +66,8 @@ template <class T, rounding R, bool Saturating, const auto& Block> struct to_u32
 };
 
 // 64-bit results, for which there is no conversion: the integer is built from the pattern of the magnitude. From 2^52
-// (2^23) on it is the significand shifted left; below that, adding 2^52 (2^23) lays it into the significand field. The
-// saturating unsigned form keeps the sign, since its last step drops negative lanes anyway.
+// (2^23) on it is the significand shifted left; below that, adding 2^52 (2^23) lays it into the significand field.
+// The saturating unsigned form keeps the sign, since its last step drops negative lanes anyway.
 template <class T, class I, rounding R, bool Saturating, const auto& Block> struct to_64 : kernel<conversion<T, I>> {
     static constexpr auto& block = Block;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {

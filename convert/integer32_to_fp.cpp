@@ -12,7 +12,9 @@ struct i32_to_double : kernel<conversion<int32_t, double>> {
 };
 ORVANE_FROM_INTEGER_EXACTLY(cvti32tofp, i32_to_double)
 
-struct u32_to_double_block { SLOT(double, 0, shift_lo, 0x4330000000000000) };
+struct u32_to_double_block {
+    SLOT(double, 0, shift_lo, 0x4330000000000000)
+};
 ORVANE_FROM_INTEGER_BLOCK(u32_to_double_block, __orvane_dcvtu32tofp)
 
 struct u32_to_double : kernel<conversion<uint32_t, double>> {

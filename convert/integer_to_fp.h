@@ -1,7 +1,7 @@
-// Integer lanes to floating lanes in four rounding modes, by ordinary arithmetic: the magnitude is cut into pieces that
-// are exact in the target type, their sum is rounded once to nearest, and the sign of that rounding's error says
-// whether the pattern of the sum must move by one. A piece becomes a floating value by ORing it into the pattern of the
-// power of two whose unit in the last place is the piece's weight, and taking that power off again.
+// Integer lanes to floating lanes in four rounding modes, by ordinary arithmetic: the magnitude is cut into pieces
+// that are exact in the target type, their sum is rounded once to nearest, and the sign of that rounding's error says
+// whether the pattern of the sum must move by one. A piece becomes a floating value by ORing it into the pattern of
+// the power of two whose unit in the last place is the piece's weight, and taking that power off again.
 #pragma once
 
 #include "frame/_orvane_template.h"
@@ -85,8 +85,9 @@ template <class I, rounding R, const auto& Block> struct from_three_pieces : ker
             auto nlo = V(c.shift_lo) - as<float>(low | c.shift_lo);
             auto s = mid + hi;
             auto e = mid + (hi - s); // its exact error
-            // Where mid + hi was a tie that went down to its even neighbour and lo lies above, the pattern is even and
-            // half a unit is missing: made odd, it is right, and lo, less than half a unit, does not move it again.
+            // Where mid + hi was a tie that went down to its even neighbour and lo lies above, the pattern is even
+            // and half a unit is missing: made odd, it is right, and lo, less than half a unit, does not move it
+            // again.
             auto h = andnot(lanes<uint32_t, W>(c.low_mask), bits(s)) - c.half_ulp_step;
             auto sticky = keep(bits(e) == h, bits(nlo) >> 31);
             return with_sign(as<float>(bits(s) | sticky) - nlo);
