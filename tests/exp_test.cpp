@@ -1,0 +1,143 @@
+// exp, exp2, exp10, expm1: figures that tell tiers and paths apart, the ends of their ranges, and errors.
+#include "accuracy.h"
+
+using namespace orvane;
+
+namespace {
+
+uint64_t one(const char* name, uint64_t x, const char* tier = "default") {
+    sweep f(name, tier, 1);
+    return f({{x}})[0][0];
+}
+double of(const char* name, double x, const char* tier = "default") {
+    const kernel_row& row = *find_row(library_rows(), name, tier);
+    return value_of(row.in, one(name, word_of(row.in, x), tier));
+}
+double next(double x, double to) { return std::nextafter(x, to); }
+std::vector<const char*> tiers_of(const char* name) {
+    std::vector<const char*> t;
+    for (auto tier : {"default", "rm", "native", "half"})
+        if (find_row(library_rows(), name, tier)) t.push_back(tier);
+    return t;
+}
+int status(const char* name, double x) {
+    const kernel_row& row = *find_row(library_rows(), name, "default");
+    return call_slow_path(library_under_test(), row, {word_of(row.in, x)}).status;
+}
+
+TEST(Exponentials, ZerosInfinitiesAndNan) {
+    for (auto name : {"exp", "exp2", "exp10", "exp2f", "exp10f"})
+        for (auto tier : tiers_of(name)) {
+            SCOPED_TRACE(std::string(name) + tier);
+            // Polynomials without a table have a constant term of their own.
+            const bool exact = std::string(tier) == "default" || std::string(name) == "exp" ||
+                               std::string(name).starts_with("exp10");
+            if (exact) EXPECT_EQ(of(name, 0.0, tier), 1.0);
+            EXPECT_EQ(of(name, -0.0, tier), of(name, 0.0, tier));
+            EXPECT_EQ(of(name, HUGE_VAL, tier), HUGE_VAL);
+            EXPECT_EQ(one(name, word_of(find_row(library_rows(), name, tier)->in, -HUGE_VAL), tier), 0u);
+        }
+    for (auto name : {"expm1", "expm1f"})
+        for (auto tier : tiers_of(name)) {
+            EXPECT_FALSE(std::signbit(of(name, 0.0, tier)));
+            EXPECT_TRUE(std::signbit(of(name, -0.0, tier)));
+            EXPECT_EQ(of(name, 1e-40, tier), value_of(find_row(library_rows(), name, tier)->in,
+                                                      word_of(find_row(library_rows(), name, tier)->in, 1e-40)));
+            EXPECT_EQ(of(name, -800, tier), -1);
+            EXPECT_EQ(of(name, -HUGE_VAL, tier), -1);
+            EXPECT_EQ(of(name, HUGE_VAL, tier), HUGE_VAL);
+        }
+    for (auto name : {"exp", "exp2", "exp10", "expm1"})
+        for (auto tier : tiers_of(name)) {
+            EXPECT_EQ(one(name, 0x7FF0000000000123, tier), 0x7FF8000000000123u);
+            EXPECT_EQ(one(name, 0xFFF8000000000456, tier), 0xFFF8000000000456u);
+        }
+}
+
+TEST(Exponentials, FiguresOfTheTiers) {
+    EXPECT_EQ(of("exp", 1.0), 2.718281828459045);
+    EXPECT_EQ(of("exp", 1.0, "rm"), 2.7182818311600885);
+    EXPECT_EQ(of("expm1", 1.0), 1.7182818284590453);
+    for (int k = -1022; k < 1024; k++)
+        EXPECT_EQ(of("exp2", k), std::ldexp(1.0, k)) << k;
+    for (int k = -149; k < 128; k++)
+        EXPECT_EQ(of("exp2f", k), std::ldexp(1.0, k)) << k;
+    EXPECT_EQ(of("exp2", -1074), 0x1p-1074);
+}
+
+TEST(Exponentials, EndsOfTheRange) {
+    struct ends {
+        const char* name;
+        double overflow, underflow;
+    };
+    for (const auto& [name, over, under] :
+         {ends{"exp", 709.782712893384, -745.1332191019411}, ends{"exp10", 308.2547155599167, -323.60724533877976}}) {
+        for (auto tier : tiers_of(name)) {
+            EXPECT_TRUE(std::isfinite(of(name, over, tier))) << name;
+            EXPECT_EQ(of(name, next(over, 1e9), tier), HUGE_VAL) << name;
+            EXPECT_EQ(of(name, under, tier), 0x1p-1074) << name;
+            EXPECT_EQ(of(name, next(under, -1e9), tier), 0) << name;
+        }
+        EXPECT_EQ(status(name, over), 0);
+        EXPECT_EQ(status(name, next(over, 1e9)), 3);
+        EXPECT_EQ(status(name, under), 4);
+        EXPECT_EQ(status(name, next(under, -1e9)), 4);
+    }
+    EXPECT_EQ(of("exp2", next(1024, 0)), std::exp2(next(1024, 0)));
+    EXPECT_EQ(of("exp2", 1024), HUGE_VAL);
+    EXPECT_EQ(of("exp2", -1075), 0);
+    EXPECT_EQ(of("exp2f", 128), HUGE_VAL);
+    EXPECT_EQ(status("exp2f", -126.5), 4);
+    EXPECT_EQ(of("expm1", 709.782712893384), of("exp", 709.782712893384));
+    EXPECT_EQ(status("expm1", 710), 3);
+    EXPECT_EQ(status("expm1", HUGE_VAL), 0);
+}
+
+// The slow paths on the lanes that reach them.
+TEST(Exponentials, SlowPaths) {
+    struct margin {
+        const char* name;
+        double lo, hi, bound;
+        extended_function reference;
+    };
+    truth t;
+    for (const auto& [name, lo, hi, bound, reference] :
+         {margin{"exp", 708.396, 709.7827, 0.51, expl}, margin{"exp", -745.1332, -708.396, 0.51, expl},
+          margin{"exp10", 307.66, 308.2547, 0.52, exp10l}, margin{"exp10", -323.6, -307.6526, 0.51, exp10l},
+          margin{"exp2", 1022.0, 1023.9, 0.52, exp2l}, margin{"exp2", -1074.9, -1022.0, 0.754, exp2l}}) {
+        sweep f(name);
+        const auto w = sampled_error(f, t, spread(lane_type::f64, lo, hi, 200'000, false, 23), reference);
+        EXPECT_LE(w.ulps, bound) << name << " from " << lo << std::hex << " at " << w.argument;
+    }
+    for (auto [name, lo, hi] : {std::tuple{"exp2f", 126.01, 127.99},
+                                {"exp2f", -149.9, -126.01},
+                                {"exp10f", 37.93, 38.53},
+                                {"exp10f", -45.15, -37.93},
+                                {"expm1f", 86.65, 88.72}}) {
+        sweep f(name);
+        const auto reference = std::string(name) == "exp2f" ? exp2l : std::string(name) == "exp10f" ? exp10l : expm1l;
+        const auto w = sampled_error(f, t, spread(lane_type::f32, lo, hi, 200'000, false, 24), reference);
+        EXPECT_LE(w.ulps, 0.5005) << name << " from " << lo << std::hex << " at " << w.argument;
+    }
+}
+
+TEST(Exponentials, LargestErrors) {
+    const double double_ulp = 0x1p53; // of a relative error, at most
+    for (const auto& a : {accuracy{"exp", "default", 0.525, -708, 708, expl},
+                          {"exp", "native", 0x1p-28 * double_ulp, -708, 708, expl},
+                          {"exp2", "default", 0.52, -1021, 1021, exp2l},
+                          {"exp2", "native", 0x1p-29 * double_ulp, -1021, 1021, exp2l},
+                          {"exp10", "default", 0.51, -307, 307, exp10l},
+                          {"exp10", "native", std::exp2(-27.7) * double_ulp, -307, 307, exp10l},
+                          {"expm1", "default", 0.61, -40, 700, expm1l},
+                          {"expm1", "native", 5.3e6, -40, 700, expm1l},
+                          {"exp2f", "default", 0.62, -125, 125, exp2l},
+                          {"exp2f", "native", 1.3e3, -125, 125, exp2l},
+                          {"exp10f", "default", 0.53, -37, 37, exp10l},
+                          {"exp10f", "native", 2.2e3, -37, 37, exp10l},
+                          {"expm1f", "default", 0.56, -20, 86, expm1l},
+                          {"expm1f", "native", 300, -20, 86, expm1l}})
+        check_accuracy(a);
+}
+
+} // namespace

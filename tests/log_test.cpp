@@ -1,0 +1,142 @@
+// log, log2, log10, log1p: exact figures, poles and domains, slow paths, and errors. The kernels are fed by the
+// processor's reciprocal estimate in part: bounds are a tenth above what was measured, and no bits are frozen.
+#include "accuracy.h"
+
+using namespace orvane;
+
+namespace {
+
+struct member {
+    const char* name;
+    lane_type type;
+};
+constexpr member logarithms[] = {{"log", lane_type::f64},   {"logf", lane_type::f32},  {"log2", lane_type::f64},
+                                 {"log2f", lane_type::f32}, {"log10", lane_type::f64}, {"log10f", lane_type::f32},
+                                 {"log1p", lane_type::f64}, {"log1pf", lane_type::f32}};
+bool is_log1p(const member& m) { return std::string_view(m.name).starts_with("log1p"); }
+uint64_t quiet_nan(lane_type t) { return t == lane_type::f64 ? 0x7FF8000000000000 : 0x7FC00000; }
+
+uint64_t word_for(const member& m, uint64_t x, const char* tier) {
+    sweep f(m.name, tier, 1);
+    return f({{x}})[0][0];
+}
+double of(const member& m, double x, const char* tier = "default") {
+    return value_of(m.type, word_for(m, word_of(m.type, x), tier));
+}
+template <class F> void each_tier(F f) {
+    for (const auto& m : logarithms)
+        for (auto tier : {"default", "rm", "native", "half"})
+            if (find_row(library_rows(), m.name, tier)) {
+                SCOPED_TRACE(std::string(m.name) + " " + tier);
+                f(m, tier);
+            }
+}
+
+TEST(Logarithms, PolesDomainsAndNan) {
+    each_tier([](const member& m, const char* tier) {
+        const double pole = is_log1p(m) ? -1 : 0;
+        EXPECT_EQ(of(m, pole, tier), -HUGE_VAL);
+        if (!is_log1p(m)) EXPECT_EQ(of(m, -0.0, tier), -HUGE_VAL);
+        EXPECT_EQ(of(m, HUGE_VAL, tier), HUGE_VAL);
+        for (double x : {-2.0, -1e30, -HUGE_VAL})
+            EXPECT_EQ(word_for(m, word_of(m.type, x), tier), quiet_nan(m.type)) << x; // positive
+        const uint64_t payload = m.type == lane_type::f64 ? 0xFFF0000000000777 : 0xFF800777;
+        EXPECT_EQ(word_for(m, payload, tier), payload | quiet_nan(m.type));
+    });
+}
+
+TEST(Logarithms, ExactZeros) {
+    each_tier([](const member& m, const char* tier) {
+        if (is_log1p(m)) {
+            for (double x : {0.0, -0.0})
+                EXPECT_EQ(word_for(m, word_of(m.type, x), tier), word_of(m.type, x));
+            const double tiny = m.type == lane_type::f64 ? 0x1p-1074 : 0x1p-149;
+            EXPECT_EQ(of(m, tiny, tier), tiny);
+        } else EXPECT_EQ(word_for(m, word_of(m.type, 1.0), tier), 0u); // +0
+    });
+}
+
+TEST(Logarithms, Figures) {
+    const member log_{"log", lane_type::f64}, log2_{"log2", lane_type::f64}, log2f_{"log2f", lane_type::f32};
+    EXPECT_EQ(word_for(log_, word_of(lane_type::f64, 2.0), "default"), 0x3FE62E42FEFA39EFu);
+    for (int k = -1074; k < 1024; k++)
+        EXPECT_EQ(of(log2_, std::ldexp(1.0, k)), k);
+    for (int k = -149; k < 128; k++)
+        EXPECT_EQ(of(log2f_, std::ldexp(1.0, k)), k);
+    for (auto tier : {"default", "native", "half"}) {
+        EXPECT_EQ(of(log_, 0x1p-1074, tier), -744.4400719213812);
+        EXPECT_EQ(of({"logf", lane_type::f32}, 0x1p-149, tier), (float)-103.27892990343184);
+    }
+}
+
+TEST(Logarithms, StatusCodes) {
+    for (const auto& m : logarithms) {
+        const kernel_row& row = *find_row(library_rows(), m.name, "default");
+        auto status = [&](double x) {
+            return call_slow_path(library_under_test(), row, {word_of(m.type, x)}).status;
+        };
+        EXPECT_EQ(status(is_log1p(m) ? -1.0 : 0.0), 2) << m.name;
+        EXPECT_EQ(status(-3.0), 1) << m.name;
+        EXPECT_EQ(status(-HUGE_VAL), 1) << m.name;
+        EXPECT_EQ(status(HUGE_VAL), 0) << m.name;
+        EXPECT_EQ(status(is_log1p(m) ? 1e37 : 1e-40), 0) << m.name;
+    }
+}
+
+// On subnormals, and on what is too large for log1p's kernels.
+TEST(Logarithms, SlowPaths) {
+    truth t;
+    struct lanes_of {
+        const char* name;
+        uint64_t first, last;
+        double bound;
+        extended_function reference;
+    };
+    for (const auto& [name, first, last, bound, reference] :
+         {lanes_of{"log", 1, 0x000FFFFFFFFFFFFF, 0.5005, logl},
+          {"log2", 1, 0x000FFFFFFFFFFFFF, 0.5005, log2l},
+          {"log10", 1, 0x000FFFFFFFFFFFFF, 0.5005, log10l},
+          {"logf", 1, 0x007FFFFF, 0.548, logl},
+          {"log2f", 1, 0x007FFFFF, 0.548, log2l},
+          {"log10f", 1, 0x007FFFFF, 0.548, log10l},
+          {"log1p", 0x7F40000000000000, 0x7FEFFFFFFFFFFFFF, 0.5005, log1pl},
+          {"log1pf", 0x7A800001, 0x7F7FFFFF, 0.548, log1pl}}) {
+        sweep f(name);
+        rng r(31);
+        words x;
+        for (int i = 0; i < 300'000; i++) {
+            const uint64_t w = first + r() % (last - first + 1);
+            x.push_back(i % 2 ? w : std::max(first, w >> r() % 50));
+        }
+        const auto w = sampled_error(f, t, x, reference);
+        EXPECT_LE(w.ulps, bound) << name << std::hex << " at " << w.argument;
+        printf("%-8s slow path: largest error %.4f ulp\n", name, w.ulps);
+    }
+}
+
+TEST(Logarithms, LargestErrors) {
+    constexpr double more = 1.1, fast = 0x1p-31 * 0x1p53;
+    for (const auto& a : {accuracy{"log", "default", 0.731 * more, 0x1p-1022, 1e308, logl, true},
+                          {"log", "default", 0.731 * more, 0.5, 2, logl, true},
+                          {"logf", "default", 0.91, 1.2e-38, 3e38, logl, true},
+                          {"logf", "default", 0.91, 0.5, 2, logl, true},
+                          {"logf", "half", 3.95, 0.5, 2, logl, true},
+                          {"logf", "native", 1600, 0.5, 2, logl, true},
+                          {"log2", "default", 0.502 * more, 0x1p-1022, 1e308, log2l, true},
+                          {"log2", "default", 0.502 * more, 0.5, 2, log2l, true},
+                          {"log2f", "default", 0.69 * more, 0.5, 2, log2l, true},
+                          {"log10", "default", 0.509 * more, 0x1p-1022, 1e308, log10l, true},
+                          {"log10", "default", 0.509 * more, 0.5, 2, log10l, true},
+                          {"log10f", "default", 0.75 * more, 0.5, 2, log10l, true},
+                          {"log1p", "default", 0.73 * more, 1e-20, 1e300, log1pl, true},
+                          {"log1p", "default", 0.73 * more, -0.9, 2, log1pl},
+                          {"log1pf", "default", 0.57 * more, -0.9, 2, log1pl},
+                          {"log1pf", "default", 0.57 * more, 1e-20, 1e35, log1pl, true},
+                          {"log", "native", fast * more, 2, 1e308, logl, true},
+                          {"log2", "native", fast * more, 2, 1e308, log2l, true},
+                          {"log10", "native", fast * more, 2, 1e308, log10l, true},
+                          {"log1p", "native", fast * more, 1, 1e300, log1pl, true}})
+        check_accuracy(a);
+}
+
+} // namespace
