@@ -13,8 +13,6 @@ namespace orvane {
 
 using extended_function = long double (*)(long double);
 
-inline double float_or_double(lane_type t, uint64_t w) { return value_of(t, w); }
-
 // Error of a result in ulps of its type at the reference, to about 2^-11 of one in double.
 inline double approximate_ulps(lane_type t, uint64_t result, long double reference) {
     if (reference == 0 || !std::isfinite(reference)) return 0;
@@ -23,28 +21,68 @@ inline double approximate_ulps(lane_type t, uint64_t result, long double referen
     return (double)std::ldexp(std::fabs((long double)value_of(t, result) - reference), bits - exponent);
 }
 
+// Lanes of the largest approximate errors, as many as are to be decided against the truth.
+class largest_errors {
+public:
+    explicit largest_errors(size_t keep) : keep(keep) {}
+    void offer(double ulps, uint64_t x, uint64_t y) {
+        if (!(ulps >= least)) return;
+        top.push_back({ulps, x, y});
+        if (top.size() >= 4 * keep) cut();
+    }
+    worst decided(const kernel_row& row, truth& t) {
+        if (top.size() > keep) cut();
+        worst w;
+        for (const auto& lane : top)
+            if (t(row, &lane.x)) {
+                const double exact = t.error(0, row.out, lane.y);
+                if (exact > w.ulps) w = {exact, lane.x};
+            }
+        return w;
+    }
+
+private:
+    struct lane {
+        double ulps;
+        uint64_t x, y;
+    };
+    void cut() {
+        std::nth_element(top.begin(), top.begin() + keep, top.end(),
+                         [](const lane& a, const lane& b) { return a.ulps > b.ulps; });
+        top.resize(keep);
+        for (least = HUGE_VAL; const auto& l : top)
+            least = std::min(least, l.ulps);
+    }
+    size_t keep;
+    double least = 0;
+    std::vector<lane> top;
+};
+
 inline worst sampled_error(sweep& f, truth& t, const words& x, extended_function reference) {
-    constexpr size_t candidates = 16;
     const lane_type type = f.row().in;
     const auto& y = f({x});
-    std::vector<std::pair<double, uint64_t>> top; // approximate error, lane
-    double least = 0;
-    for (size_t i = 0; i < x.size(); i++) {
-        const double e = approximate_ulps(type, y[0][i], reference(value_of(type, x[i])));
-        if (e < least) continue;
-        top.emplace_back(e, i);
-        if (top.size() < 4 * candidates) continue;
-        std::nth_element(top.begin(), top.begin() + candidates, top.end(), std::greater<>());
-        top.resize(candidates);
-        least = std::min_element(top.begin(), top.end())->first;
+    largest_errors top(16);
+    for (size_t i = 0; i < x.size(); i++)
+        top.offer(approximate_ulps(type, y[0][i], reference(value_of(type, x[i]))), x[i], y[0][i]);
+    return top.decided(f.row(), t);
+}
+
+// Every float of both signs, vector path and slow path, against the C library's double function; the worst thousand
+// are decided against the truth.
+inline worst error_over_all_floats(const char* name, const char* tier, double (*reference)(double)) {
+    sweep f(name, tier, 16);
+    truth t;
+    largest_errors top(1000);
+    words x(1 << 16);
+    for (uint64_t from = 0; from < (uint64_t(1) << 32); from += x.size()) {
+        for (size_t i = 0; i < x.size(); i++)
+            x[i] = from + i;
+        const auto& y = f({x});
+        for (size_t i = 0; i < x.size(); i++)
+            top.offer(approximate_ulps(lane_type::f32, y[0][i], reference(value_of(lane_type::f32, x[i]))), x[i],
+                      y[0][i]);
     }
-    worst w;
-    for (const auto& [e, i] : top)
-        if (t(f.row(), &x[i])) {
-            const double exact = t.error(0, type, y[0][i]);
-            if (exact > w.ulps) w = {exact, x[i]};
-        }
-    return w;
+    return top.decided(f.row(), t);
 }
 
 // Spread over a range: evenly, or evenly in the exponent.

@@ -163,6 +163,23 @@ TEST_P(Code, NoGatherAndNoControlState) {
     }
 }
 
+// Conversions round by the rounding instruction, or by arithmetic, alone: no truncating conversion, nothing of the
+// x87.
+TEST(Conversions, NeitherTruncateNorTouchTheX87) {
+    const binary b(library_under_test());
+    int seen = 0;
+    for (const auto& f : b.in.symbols()) {
+        if (!f.name.starts_with("__orvane_l9_cvt")) continue;
+        seen++;
+        for (const auto& [at, i] : b.code(f)) {
+            const std::string_view name = ZydisMnemonicGetString(i.what.mnemonic);
+            EXPECT_FALSE(name.starts_with("vcvtt") || name.starts_with("cvtt") || name.starts_with("f"))
+                << f.name << ": " << name;
+        }
+    }
+    EXPECT_EQ(seen, 600);
+}
+
 // Slow paths, and whatever they share, are baseline code: everything that is neither a kernel nor a wrapper.
 TEST_P(Code, SlowPathsAreBaseline) {
     const binary b(*GetParam());

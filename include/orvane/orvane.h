@@ -682,6 +682,806 @@ void __orvane_l9_udivrem4(void) ORVANE_NOT_C; /* in xmm0, xmm1; out xmm0, xmm1 *
 void __orvane_l9_udivrem8(void) ORVANE_NOT_C; /* in ymm0, ymm1; out ymm0, ymm1 */
 void __orvane_l9_udivrem16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, ymm2 ymm3 */
 
+/* cvtfptoi32rtesat: Conversion from double to int, rounded to nearest, ties to even; values out of range give the nearest end of it, NaN gives 0. */
+int32_t __orvane_l9_cvtfptoi32rtesat1(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtesat2(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtesat3(orvane_double4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtesat4(orvane_double4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtesat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptoi32rtesat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptoi32rtesatf: Conversion from float to int, rounded to nearest, ties to even; values out of range give the nearest end of it, NaN gives 0. */
+int32_t __orvane_l9_cvtfptoi32rtesatf1(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtesatf2(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtesatf3(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtesatf4(orvane_float4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtesatf8(orvane_float8 x);
+void __orvane_l9_cvtfptoi32rtesatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptoi32rtenosat: Conversion from double to int, rounded to nearest, ties to even; values out of range give what the processor's steps give. */
+int32_t __orvane_l9_cvtfptoi32rtenosat1(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtenosat2(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtenosat3(orvane_double4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtenosat4(orvane_double4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtenosat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptoi32rtenosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptoi32rtenosatf: Conversion from float to int, rounded to nearest, ties to even; values out of range give what the processor's steps give. */
+int32_t __orvane_l9_cvtfptoi32rtenosatf1(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtenosatf2(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtenosatf3(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtenosatf4(orvane_float4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtenosatf8(orvane_float8 x);
+void __orvane_l9_cvtfptoi32rtenosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptoi32rtnsat: Conversion from double to int, rounded down; values out of range give the nearest end of it, NaN gives 0. */
+int32_t __orvane_l9_cvtfptoi32rtnsat1(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnsat2(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnsat3(orvane_double4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnsat4(orvane_double4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtnsat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptoi32rtnsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptoi32rtnsatf: Conversion from float to int, rounded down; values out of range give the nearest end of it, NaN gives 0. */
+int32_t __orvane_l9_cvtfptoi32rtnsatf1(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnsatf2(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnsatf3(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnsatf4(orvane_float4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtnsatf8(orvane_float8 x);
+void __orvane_l9_cvtfptoi32rtnsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptoi32rtnnosat: Conversion from double to int, rounded down; values out of range give what the processor's steps give. */
+int32_t __orvane_l9_cvtfptoi32rtnnosat1(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnnosat2(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnnosat3(orvane_double4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnnosat4(orvane_double4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtnnosat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptoi32rtnnosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptoi32rtnnosatf: Conversion from float to int, rounded down; values out of range give what the processor's steps give. */
+int32_t __orvane_l9_cvtfptoi32rtnnosatf1(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnnosatf2(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnnosatf3(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtnnosatf4(orvane_float4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtnnosatf8(orvane_float8 x);
+void __orvane_l9_cvtfptoi32rtnnosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptoi32rtpsat: Conversion from double to int, rounded up; values out of range give the nearest end of it, NaN gives 0. */
+int32_t __orvane_l9_cvtfptoi32rtpsat1(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpsat2(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpsat3(orvane_double4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpsat4(orvane_double4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtpsat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptoi32rtpsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptoi32rtpsatf: Conversion from float to int, rounded up; values out of range give the nearest end of it, NaN gives 0. */
+int32_t __orvane_l9_cvtfptoi32rtpsatf1(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpsatf2(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpsatf3(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpsatf4(orvane_float4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtpsatf8(orvane_float8 x);
+void __orvane_l9_cvtfptoi32rtpsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptoi32rtpnosat: Conversion from double to int, rounded up; values out of range give what the processor's steps give. */
+int32_t __orvane_l9_cvtfptoi32rtpnosat1(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpnosat2(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpnosat3(orvane_double4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpnosat4(orvane_double4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtpnosat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptoi32rtpnosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptoi32rtpnosatf: Conversion from float to int, rounded up; values out of range give what the processor's steps give. */
+int32_t __orvane_l9_cvtfptoi32rtpnosatf1(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpnosatf2(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpnosatf3(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtpnosatf4(orvane_float4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtpnosatf8(orvane_float8 x);
+void __orvane_l9_cvtfptoi32rtpnosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptoi32rtzsat: Conversion from double to int, rounded toward zero; values out of range give the nearest end of it, NaN gives 0. */
+int32_t __orvane_l9_cvtfptoi32rtzsat1(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtzsat2(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtzsat3(orvane_double4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtzsat4(orvane_double4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtzsat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptoi32rtzsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptoi32rtzsatf: Conversion from float to int, rounded toward zero; values out of range give the nearest end of it, NaN gives 0. */
+int32_t __orvane_l9_cvtfptoi32rtzsatf1(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtzsatf2(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtzsatf3(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtzsatf4(orvane_float4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtzsatf8(orvane_float8 x);
+void __orvane_l9_cvtfptoi32rtzsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptoi32rtznosat: Conversion from double to int, rounded toward zero; values out of range give what the processor's steps give. */
+int32_t __orvane_l9_cvtfptoi32rtznosat1(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtznosat2(orvane_double2 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtznosat3(orvane_double4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtznosat4(orvane_double4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtznosat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptoi32rtznosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptoi32rtznosatf: Conversion from float to int, rounded toward zero; values out of range give what the processor's steps give. */
+int32_t __orvane_l9_cvtfptoi32rtznosatf1(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtznosatf2(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtznosatf3(orvane_float4 x);
+orvane_int4 __orvane_l9_cvtfptoi32rtznosatf4(orvane_float4 x);
+orvane_int8 __orvane_l9_cvtfptoi32rtznosatf8(orvane_float8 x);
+void __orvane_l9_cvtfptoi32rtznosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptoi64rtesat: Conversion from double to long, rounded to nearest, ties to even; values out of range give the nearest end of it, NaN gives 0. */
+int64_t __orvane_l9_cvtfptoi64rtesat1(orvane_double2 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtesat2(orvane_double2 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtesat3(orvane_double4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtesat4(orvane_double4 x);
+void __orvane_l9_cvtfptoi64rtesat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtesat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtesatf: Conversion from float to long, rounded to nearest, ties to even; values out of range give the nearest end of it, NaN gives 0. */
+int64_t __orvane_l9_cvtfptoi64rtesatf1(orvane_float4 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtesatf2(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtesatf3(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtesatf4(orvane_float4 x);
+void __orvane_l9_cvtfptoi64rtesatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtesatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtenosat: Conversion from double to long, rounded to nearest, ties to even; values out of range give what the processor's steps give. */
+int64_t __orvane_l9_cvtfptoi64rtenosat1(orvane_double2 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtenosat2(orvane_double2 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtenosat3(orvane_double4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtenosat4(orvane_double4 x);
+void __orvane_l9_cvtfptoi64rtenosat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtenosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtenosatf: Conversion from float to long, rounded to nearest, ties to even; values out of range give what the processor's steps give. */
+int64_t __orvane_l9_cvtfptoi64rtenosatf1(orvane_float4 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtenosatf2(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtenosatf3(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtenosatf4(orvane_float4 x);
+void __orvane_l9_cvtfptoi64rtenosatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtenosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtnsat: Conversion from double to long, rounded down; values out of range give the nearest end of it, NaN gives 0. */
+int64_t __orvane_l9_cvtfptoi64rtnsat1(orvane_double2 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtnsat2(orvane_double2 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtnsat3(orvane_double4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtnsat4(orvane_double4 x);
+void __orvane_l9_cvtfptoi64rtnsat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtnsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtnsatf: Conversion from float to long, rounded down; values out of range give the nearest end of it, NaN gives 0. */
+int64_t __orvane_l9_cvtfptoi64rtnsatf1(orvane_float4 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtnsatf2(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtnsatf3(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtnsatf4(orvane_float4 x);
+void __orvane_l9_cvtfptoi64rtnsatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtnsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtnnosat: Conversion from double to long, rounded down; values out of range give what the processor's steps give. */
+int64_t __orvane_l9_cvtfptoi64rtnnosat1(orvane_double2 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtnnosat2(orvane_double2 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtnnosat3(orvane_double4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtnnosat4(orvane_double4 x);
+void __orvane_l9_cvtfptoi64rtnnosat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtnnosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtnnosatf: Conversion from float to long, rounded down; values out of range give what the processor's steps give. */
+int64_t __orvane_l9_cvtfptoi64rtnnosatf1(orvane_float4 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtnnosatf2(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtnnosatf3(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtnnosatf4(orvane_float4 x);
+void __orvane_l9_cvtfptoi64rtnnosatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtnnosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtpsat: Conversion from double to long, rounded up; values out of range give the nearest end of it, NaN gives 0. */
+int64_t __orvane_l9_cvtfptoi64rtpsat1(orvane_double2 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtpsat2(orvane_double2 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtpsat3(orvane_double4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtpsat4(orvane_double4 x);
+void __orvane_l9_cvtfptoi64rtpsat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtpsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtpsatf: Conversion from float to long, rounded up; values out of range give the nearest end of it, NaN gives 0. */
+int64_t __orvane_l9_cvtfptoi64rtpsatf1(orvane_float4 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtpsatf2(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtpsatf3(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtpsatf4(orvane_float4 x);
+void __orvane_l9_cvtfptoi64rtpsatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtpsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtpnosat: Conversion from double to long, rounded up; values out of range give what the processor's steps give. */
+int64_t __orvane_l9_cvtfptoi64rtpnosat1(orvane_double2 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtpnosat2(orvane_double2 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtpnosat3(orvane_double4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtpnosat4(orvane_double4 x);
+void __orvane_l9_cvtfptoi64rtpnosat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtpnosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtpnosatf: Conversion from float to long, rounded up; values out of range give what the processor's steps give. */
+int64_t __orvane_l9_cvtfptoi64rtpnosatf1(orvane_float4 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtpnosatf2(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtpnosatf3(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtpnosatf4(orvane_float4 x);
+void __orvane_l9_cvtfptoi64rtpnosatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtpnosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtzsat: Conversion from double to long, rounded toward zero; values out of range give the nearest end of it, NaN gives 0. */
+int64_t __orvane_l9_cvtfptoi64rtzsat1(orvane_double2 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtzsat2(orvane_double2 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtzsat3(orvane_double4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtzsat4(orvane_double4 x);
+void __orvane_l9_cvtfptoi64rtzsat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtzsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtzsatf: Conversion from float to long, rounded toward zero; values out of range give the nearest end of it, NaN gives 0. */
+int64_t __orvane_l9_cvtfptoi64rtzsatf1(orvane_float4 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtzsatf2(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtzsatf3(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtzsatf4(orvane_float4 x);
+void __orvane_l9_cvtfptoi64rtzsatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtzsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtznosat: Conversion from double to long, rounded toward zero; values out of range give what the processor's steps give. */
+int64_t __orvane_l9_cvtfptoi64rtznosat1(orvane_double2 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtznosat2(orvane_double2 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtznosat3(orvane_double4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtznosat4(orvane_double4 x);
+void __orvane_l9_cvtfptoi64rtznosat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtznosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptoi64rtznosatf: Conversion from float to long, rounded toward zero; values out of range give what the processor's steps give. */
+int64_t __orvane_l9_cvtfptoi64rtznosatf1(orvane_float4 x);
+orvane_long2 __orvane_l9_cvtfptoi64rtznosatf2(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtznosatf3(orvane_float4 x);
+orvane_long4 __orvane_l9_cvtfptoi64rtznosatf4(orvane_float4 x);
+void __orvane_l9_cvtfptoi64rtznosatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptoi64rtznosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou32rtesat: Conversion from double to uint, rounded to nearest, ties to even; values out of range give the nearest end of it, NaN gives 0. */
+uint32_t __orvane_l9_cvtfptou32rtesat1(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtesat2(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtesat3(orvane_double4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtesat4(orvane_double4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtesat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptou32rtesat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptou32rtesatf: Conversion from float to uint, rounded to nearest, ties to even; values out of range give the nearest end of it, NaN gives 0. */
+uint32_t __orvane_l9_cvtfptou32rtesatf1(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtesatf2(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtesatf3(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtesatf4(orvane_float4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtesatf8(orvane_float8 x);
+void __orvane_l9_cvtfptou32rtesatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptou32rtenosat: Conversion from double to uint, rounded to nearest, ties to even; values out of range give what the processor's steps give. */
+uint32_t __orvane_l9_cvtfptou32rtenosat1(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtenosat2(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtenosat3(orvane_double4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtenosat4(orvane_double4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtenosat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptou32rtenosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptou32rtenosatf: Conversion from float to uint, rounded to nearest, ties to even; values out of range give what the processor's steps give. */
+uint32_t __orvane_l9_cvtfptou32rtenosatf1(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtenosatf2(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtenosatf3(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtenosatf4(orvane_float4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtenosatf8(orvane_float8 x);
+void __orvane_l9_cvtfptou32rtenosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptou32rtnsat: Conversion from double to uint, rounded down; values out of range give the nearest end of it, NaN gives 0. */
+uint32_t __orvane_l9_cvtfptou32rtnsat1(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnsat2(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnsat3(orvane_double4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnsat4(orvane_double4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtnsat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptou32rtnsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptou32rtnsatf: Conversion from float to uint, rounded down; values out of range give the nearest end of it, NaN gives 0. */
+uint32_t __orvane_l9_cvtfptou32rtnsatf1(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnsatf2(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnsatf3(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnsatf4(orvane_float4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtnsatf8(orvane_float8 x);
+void __orvane_l9_cvtfptou32rtnsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptou32rtnnosat: Conversion from double to uint, rounded down; values out of range give what the processor's steps give. */
+uint32_t __orvane_l9_cvtfptou32rtnnosat1(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnnosat2(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnnosat3(orvane_double4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnnosat4(orvane_double4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtnnosat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptou32rtnnosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptou32rtnnosatf: Conversion from float to uint, rounded down; values out of range give what the processor's steps give. */
+uint32_t __orvane_l9_cvtfptou32rtnnosatf1(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnnosatf2(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnnosatf3(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtnnosatf4(orvane_float4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtnnosatf8(orvane_float8 x);
+void __orvane_l9_cvtfptou32rtnnosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptou32rtpsat: Conversion from double to uint, rounded up; values out of range give the nearest end of it, NaN gives 0. */
+uint32_t __orvane_l9_cvtfptou32rtpsat1(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpsat2(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpsat3(orvane_double4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpsat4(orvane_double4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtpsat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptou32rtpsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptou32rtpsatf: Conversion from float to uint, rounded up; values out of range give the nearest end of it, NaN gives 0. */
+uint32_t __orvane_l9_cvtfptou32rtpsatf1(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpsatf2(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpsatf3(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpsatf4(orvane_float4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtpsatf8(orvane_float8 x);
+void __orvane_l9_cvtfptou32rtpsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptou32rtpnosat: Conversion from double to uint, rounded up; values out of range give what the processor's steps give. */
+uint32_t __orvane_l9_cvtfptou32rtpnosat1(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpnosat2(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpnosat3(orvane_double4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpnosat4(orvane_double4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtpnosat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptou32rtpnosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptou32rtpnosatf: Conversion from float to uint, rounded up; values out of range give what the processor's steps give. */
+uint32_t __orvane_l9_cvtfptou32rtpnosatf1(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpnosatf2(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpnosatf3(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtpnosatf4(orvane_float4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtpnosatf8(orvane_float8 x);
+void __orvane_l9_cvtfptou32rtpnosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptou32rtzsat: Conversion from double to uint, rounded toward zero; values out of range give the nearest end of it, NaN gives 0. */
+uint32_t __orvane_l9_cvtfptou32rtzsat1(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtzsat2(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtzsat3(orvane_double4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtzsat4(orvane_double4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtzsat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptou32rtzsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptou32rtzsatf: Conversion from float to uint, rounded toward zero; values out of range give the nearest end of it, NaN gives 0. */
+uint32_t __orvane_l9_cvtfptou32rtzsatf1(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtzsatf2(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtzsatf3(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtzsatf4(orvane_float4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtzsatf8(orvane_float8 x);
+void __orvane_l9_cvtfptou32rtzsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptou32rtznosat: Conversion from double to uint, rounded toward zero; values out of range give what the processor's steps give. */
+uint32_t __orvane_l9_cvtfptou32rtznosat1(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtznosat2(orvane_double2 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtznosat3(orvane_double4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtznosat4(orvane_double4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtznosat8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfptou32rtznosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfptou32rtznosatf: Conversion from float to uint, rounded toward zero; values out of range give what the processor's steps give. */
+uint32_t __orvane_l9_cvtfptou32rtznosatf1(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtznosatf2(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtznosatf3(orvane_float4 x);
+orvane_uint4 __orvane_l9_cvtfptou32rtznosatf4(orvane_float4 x);
+orvane_uint8 __orvane_l9_cvtfptou32rtznosatf8(orvane_float8 x);
+void __orvane_l9_cvtfptou32rtznosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtfptou64rtesat: Conversion from double to ulong, rounded to nearest, ties to even; values out of range give the nearest end of it, NaN gives 0. */
+uint64_t __orvane_l9_cvtfptou64rtesat1(orvane_double2 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtesat2(orvane_double2 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtesat3(orvane_double4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtesat4(orvane_double4 x);
+void __orvane_l9_cvtfptou64rtesat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtesat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtesatf: Conversion from float to ulong, rounded to nearest, ties to even; values out of range give the nearest end of it, NaN gives 0. */
+uint64_t __orvane_l9_cvtfptou64rtesatf1(orvane_float4 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtesatf2(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtesatf3(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtesatf4(orvane_float4 x);
+void __orvane_l9_cvtfptou64rtesatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtesatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtenosat: Conversion from double to ulong, rounded to nearest, ties to even; values out of range give what the processor's steps give. */
+uint64_t __orvane_l9_cvtfptou64rtenosat1(orvane_double2 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtenosat2(orvane_double2 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtenosat3(orvane_double4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtenosat4(orvane_double4 x);
+void __orvane_l9_cvtfptou64rtenosat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtenosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtenosatf: Conversion from float to ulong, rounded to nearest, ties to even; values out of range give what the processor's steps give. */
+uint64_t __orvane_l9_cvtfptou64rtenosatf1(orvane_float4 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtenosatf2(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtenosatf3(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtenosatf4(orvane_float4 x);
+void __orvane_l9_cvtfptou64rtenosatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtenosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtnsat: Conversion from double to ulong, rounded down; values out of range give the nearest end of it, NaN gives 0. */
+uint64_t __orvane_l9_cvtfptou64rtnsat1(orvane_double2 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtnsat2(orvane_double2 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtnsat3(orvane_double4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtnsat4(orvane_double4 x);
+void __orvane_l9_cvtfptou64rtnsat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtnsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtnsatf: Conversion from float to ulong, rounded down; values out of range give the nearest end of it, NaN gives 0. */
+uint64_t __orvane_l9_cvtfptou64rtnsatf1(orvane_float4 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtnsatf2(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtnsatf3(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtnsatf4(orvane_float4 x);
+void __orvane_l9_cvtfptou64rtnsatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtnsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtnnosat: Conversion from double to ulong, rounded down; values out of range give what the processor's steps give. */
+uint64_t __orvane_l9_cvtfptou64rtnnosat1(orvane_double2 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtnnosat2(orvane_double2 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtnnosat3(orvane_double4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtnnosat4(orvane_double4 x);
+void __orvane_l9_cvtfptou64rtnnosat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtnnosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtnnosatf: Conversion from float to ulong, rounded down; values out of range give what the processor's steps give. */
+uint64_t __orvane_l9_cvtfptou64rtnnosatf1(orvane_float4 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtnnosatf2(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtnnosatf3(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtnnosatf4(orvane_float4 x);
+void __orvane_l9_cvtfptou64rtnnosatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtnnosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtpsat: Conversion from double to ulong, rounded up; values out of range give the nearest end of it, NaN gives 0. */
+uint64_t __orvane_l9_cvtfptou64rtpsat1(orvane_double2 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtpsat2(orvane_double2 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtpsat3(orvane_double4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtpsat4(orvane_double4 x);
+void __orvane_l9_cvtfptou64rtpsat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtpsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtpsatf: Conversion from float to ulong, rounded up; values out of range give the nearest end of it, NaN gives 0. */
+uint64_t __orvane_l9_cvtfptou64rtpsatf1(orvane_float4 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtpsatf2(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtpsatf3(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtpsatf4(orvane_float4 x);
+void __orvane_l9_cvtfptou64rtpsatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtpsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtpnosat: Conversion from double to ulong, rounded up; values out of range give what the processor's steps give. */
+uint64_t __orvane_l9_cvtfptou64rtpnosat1(orvane_double2 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtpnosat2(orvane_double2 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtpnosat3(orvane_double4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtpnosat4(orvane_double4 x);
+void __orvane_l9_cvtfptou64rtpnosat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtpnosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtpnosatf: Conversion from float to ulong, rounded up; values out of range give what the processor's steps give. */
+uint64_t __orvane_l9_cvtfptou64rtpnosatf1(orvane_float4 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtpnosatf2(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtpnosatf3(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtpnosatf4(orvane_float4 x);
+void __orvane_l9_cvtfptou64rtpnosatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtpnosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtzsat: Conversion from double to ulong, rounded toward zero; values out of range give the nearest end of it, NaN gives 0. */
+uint64_t __orvane_l9_cvtfptou64rtzsat1(orvane_double2 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtzsat2(orvane_double2 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtzsat3(orvane_double4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtzsat4(orvane_double4 x);
+void __orvane_l9_cvtfptou64rtzsat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtzsat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtzsatf: Conversion from float to ulong, rounded toward zero; values out of range give the nearest end of it, NaN gives 0. */
+uint64_t __orvane_l9_cvtfptou64rtzsatf1(orvane_float4 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtzsatf2(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtzsatf3(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtzsatf4(orvane_float4 x);
+void __orvane_l9_cvtfptou64rtzsatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtzsatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtznosat: Conversion from double to ulong, rounded toward zero; values out of range give what the processor's steps give. */
+uint64_t __orvane_l9_cvtfptou64rtznosat1(orvane_double2 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtznosat2(orvane_double2 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtznosat3(orvane_double4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtznosat4(orvane_double4 x);
+void __orvane_l9_cvtfptou64rtznosat8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtznosat16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtfptou64rtznosatf: Conversion from float to ulong, rounded toward zero; values out of range give what the processor's steps give. */
+uint64_t __orvane_l9_cvtfptou64rtznosatf1(orvane_float4 x);
+orvane_ulong2 __orvane_l9_cvtfptou64rtznosatf2(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtznosatf3(orvane_float4 x);
+orvane_ulong4 __orvane_l9_cvtfptou64rtznosatf4(orvane_float4 x);
+void __orvane_l9_cvtfptou64rtznosatf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtfptou64rtznosatf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti32tofprte: Conversion from int to double, rounded to nearest, ties to even. */
+orvane_double2 __orvane_l9_cvti32tofprte1(int32_t x);
+orvane_double2 __orvane_l9_cvti32tofprte2(orvane_int4 x);
+orvane_double4 __orvane_l9_cvti32tofprte3(orvane_int4 x);
+orvane_double4 __orvane_l9_cvti32tofprte4(orvane_int4 x);
+void __orvane_l9_cvti32tofprte8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvti32tofprte16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti32tofprtef: Conversion from int to float, rounded to nearest, ties to even. */
+orvane_float4 __orvane_l9_cvti32tofprtef1(int32_t x);
+orvane_float4 __orvane_l9_cvti32tofprtef2(orvane_int4 x);
+orvane_float4 __orvane_l9_cvti32tofprtef3(orvane_int4 x);
+orvane_float4 __orvane_l9_cvti32tofprtef4(orvane_int4 x);
+orvane_float8 __orvane_l9_cvti32tofprtef8(orvane_int8 x);
+void __orvane_l9_cvti32tofprtef16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvti32tofprtn: Conversion from int to double, rounded down. */
+orvane_double2 __orvane_l9_cvti32tofprtn1(int32_t x);
+orvane_double2 __orvane_l9_cvti32tofprtn2(orvane_int4 x);
+orvane_double4 __orvane_l9_cvti32tofprtn3(orvane_int4 x);
+orvane_double4 __orvane_l9_cvti32tofprtn4(orvane_int4 x);
+void __orvane_l9_cvti32tofprtn8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvti32tofprtn16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti32tofprtnf: Conversion from int to float, rounded down. */
+orvane_float4 __orvane_l9_cvti32tofprtnf1(int32_t x);
+orvane_float4 __orvane_l9_cvti32tofprtnf2(orvane_int4 x);
+orvane_float4 __orvane_l9_cvti32tofprtnf3(orvane_int4 x);
+orvane_float4 __orvane_l9_cvti32tofprtnf4(orvane_int4 x);
+orvane_float8 __orvane_l9_cvti32tofprtnf8(orvane_int8 x);
+void __orvane_l9_cvti32tofprtnf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvti32tofprtp: Conversion from int to double, rounded up. */
+orvane_double2 __orvane_l9_cvti32tofprtp1(int32_t x);
+orvane_double2 __orvane_l9_cvti32tofprtp2(orvane_int4 x);
+orvane_double4 __orvane_l9_cvti32tofprtp3(orvane_int4 x);
+orvane_double4 __orvane_l9_cvti32tofprtp4(orvane_int4 x);
+void __orvane_l9_cvti32tofprtp8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvti32tofprtp16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti32tofprtpf: Conversion from int to float, rounded up. */
+orvane_float4 __orvane_l9_cvti32tofprtpf1(int32_t x);
+orvane_float4 __orvane_l9_cvti32tofprtpf2(orvane_int4 x);
+orvane_float4 __orvane_l9_cvti32tofprtpf3(orvane_int4 x);
+orvane_float4 __orvane_l9_cvti32tofprtpf4(orvane_int4 x);
+orvane_float8 __orvane_l9_cvti32tofprtpf8(orvane_int8 x);
+void __orvane_l9_cvti32tofprtpf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvti32tofprtz: Conversion from int to double, rounded toward zero. */
+orvane_double2 __orvane_l9_cvti32tofprtz1(int32_t x);
+orvane_double2 __orvane_l9_cvti32tofprtz2(orvane_int4 x);
+orvane_double4 __orvane_l9_cvti32tofprtz3(orvane_int4 x);
+orvane_double4 __orvane_l9_cvti32tofprtz4(orvane_int4 x);
+void __orvane_l9_cvti32tofprtz8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvti32tofprtz16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti32tofprtzf: Conversion from int to float, rounded toward zero. */
+orvane_float4 __orvane_l9_cvti32tofprtzf1(int32_t x);
+orvane_float4 __orvane_l9_cvti32tofprtzf2(orvane_int4 x);
+orvane_float4 __orvane_l9_cvti32tofprtzf3(orvane_int4 x);
+orvane_float4 __orvane_l9_cvti32tofprtzf4(orvane_int4 x);
+orvane_float8 __orvane_l9_cvti32tofprtzf8(orvane_int8 x);
+void __orvane_l9_cvti32tofprtzf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvti64tofprte: Conversion from long to double, rounded to nearest, ties to even. */
+orvane_double2 __orvane_l9_cvti64tofprte1(int64_t x);
+orvane_double2 __orvane_l9_cvti64tofprte2(orvane_long2 x);
+orvane_double4 __orvane_l9_cvti64tofprte3(orvane_long4 x);
+orvane_double4 __orvane_l9_cvti64tofprte4(orvane_long4 x);
+void __orvane_l9_cvti64tofprte8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvti64tofprte16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti64tofprtef: Conversion from long to float, rounded to nearest, ties to even. */
+orvane_float4 __orvane_l9_cvti64tofprtef1(int64_t x);
+orvane_float4 __orvane_l9_cvti64tofprtef2(orvane_long2 x);
+orvane_float4 __orvane_l9_cvti64tofprtef3(orvane_long4 x);
+orvane_float4 __orvane_l9_cvti64tofprtef4(orvane_long4 x);
+orvane_float8 __orvane_l9_cvti64tofprtef8(orvane_long4 x0, orvane_long4 x1);
+void __orvane_l9_cvti64tofprtef16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvti64tofprtn: Conversion from long to double, rounded down. */
+orvane_double2 __orvane_l9_cvti64tofprtn1(int64_t x);
+orvane_double2 __orvane_l9_cvti64tofprtn2(orvane_long2 x);
+orvane_double4 __orvane_l9_cvti64tofprtn3(orvane_long4 x);
+orvane_double4 __orvane_l9_cvti64tofprtn4(orvane_long4 x);
+void __orvane_l9_cvti64tofprtn8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvti64tofprtn16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti64tofprtnf: Conversion from long to float, rounded down. */
+orvane_float4 __orvane_l9_cvti64tofprtnf1(int64_t x);
+orvane_float4 __orvane_l9_cvti64tofprtnf2(orvane_long2 x);
+orvane_float4 __orvane_l9_cvti64tofprtnf3(orvane_long4 x);
+orvane_float4 __orvane_l9_cvti64tofprtnf4(orvane_long4 x);
+orvane_float8 __orvane_l9_cvti64tofprtnf8(orvane_long4 x0, orvane_long4 x1);
+void __orvane_l9_cvti64tofprtnf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvti64tofprtp: Conversion from long to double, rounded up. */
+orvane_double2 __orvane_l9_cvti64tofprtp1(int64_t x);
+orvane_double2 __orvane_l9_cvti64tofprtp2(orvane_long2 x);
+orvane_double4 __orvane_l9_cvti64tofprtp3(orvane_long4 x);
+orvane_double4 __orvane_l9_cvti64tofprtp4(orvane_long4 x);
+void __orvane_l9_cvti64tofprtp8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvti64tofprtp16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti64tofprtpf: Conversion from long to float, rounded up. */
+orvane_float4 __orvane_l9_cvti64tofprtpf1(int64_t x);
+orvane_float4 __orvane_l9_cvti64tofprtpf2(orvane_long2 x);
+orvane_float4 __orvane_l9_cvti64tofprtpf3(orvane_long4 x);
+orvane_float4 __orvane_l9_cvti64tofprtpf4(orvane_long4 x);
+orvane_float8 __orvane_l9_cvti64tofprtpf8(orvane_long4 x0, orvane_long4 x1);
+void __orvane_l9_cvti64tofprtpf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvti64tofprtz: Conversion from long to double, rounded toward zero. */
+orvane_double2 __orvane_l9_cvti64tofprtz1(int64_t x);
+orvane_double2 __orvane_l9_cvti64tofprtz2(orvane_long2 x);
+orvane_double4 __orvane_l9_cvti64tofprtz3(orvane_long4 x);
+orvane_double4 __orvane_l9_cvti64tofprtz4(orvane_long4 x);
+void __orvane_l9_cvti64tofprtz8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvti64tofprtz16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvti64tofprtzf: Conversion from long to float, rounded toward zero. */
+orvane_float4 __orvane_l9_cvti64tofprtzf1(int64_t x);
+orvane_float4 __orvane_l9_cvti64tofprtzf2(orvane_long2 x);
+orvane_float4 __orvane_l9_cvti64tofprtzf3(orvane_long4 x);
+orvane_float4 __orvane_l9_cvti64tofprtzf4(orvane_long4 x);
+orvane_float8 __orvane_l9_cvti64tofprtzf8(orvane_long4 x0, orvane_long4 x1);
+void __orvane_l9_cvti64tofprtzf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtu32tofprte: Conversion from uint to double, rounded to nearest, ties to even. */
+orvane_double2 __orvane_l9_cvtu32tofprte1(uint32_t x);
+orvane_double2 __orvane_l9_cvtu32tofprte2(orvane_uint4 x);
+orvane_double4 __orvane_l9_cvtu32tofprte3(orvane_uint4 x);
+orvane_double4 __orvane_l9_cvtu32tofprte4(orvane_uint4 x);
+void __orvane_l9_cvtu32tofprte8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtu32tofprte16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtu32tofprtef: Conversion from uint to float, rounded to nearest, ties to even. */
+orvane_float4 __orvane_l9_cvtu32tofprtef1(uint32_t x);
+orvane_float4 __orvane_l9_cvtu32tofprtef2(orvane_uint4 x);
+orvane_float4 __orvane_l9_cvtu32tofprtef3(orvane_uint4 x);
+orvane_float4 __orvane_l9_cvtu32tofprtef4(orvane_uint4 x);
+orvane_float8 __orvane_l9_cvtu32tofprtef8(orvane_uint8 x);
+void __orvane_l9_cvtu32tofprtef16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtu32tofprtn: Conversion from uint to double, rounded down. */
+orvane_double2 __orvane_l9_cvtu32tofprtn1(uint32_t x);
+orvane_double2 __orvane_l9_cvtu32tofprtn2(orvane_uint4 x);
+orvane_double4 __orvane_l9_cvtu32tofprtn3(orvane_uint4 x);
+orvane_double4 __orvane_l9_cvtu32tofprtn4(orvane_uint4 x);
+void __orvane_l9_cvtu32tofprtn8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtu32tofprtn16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtu32tofprtnf: Conversion from uint to float, rounded down. */
+orvane_float4 __orvane_l9_cvtu32tofprtnf1(uint32_t x);
+orvane_float4 __orvane_l9_cvtu32tofprtnf2(orvane_uint4 x);
+orvane_float4 __orvane_l9_cvtu32tofprtnf3(orvane_uint4 x);
+orvane_float4 __orvane_l9_cvtu32tofprtnf4(orvane_uint4 x);
+orvane_float8 __orvane_l9_cvtu32tofprtnf8(orvane_uint8 x);
+void __orvane_l9_cvtu32tofprtnf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtu32tofprtp: Conversion from uint to double, rounded up. */
+orvane_double2 __orvane_l9_cvtu32tofprtp1(uint32_t x);
+orvane_double2 __orvane_l9_cvtu32tofprtp2(orvane_uint4 x);
+orvane_double4 __orvane_l9_cvtu32tofprtp3(orvane_uint4 x);
+orvane_double4 __orvane_l9_cvtu32tofprtp4(orvane_uint4 x);
+void __orvane_l9_cvtu32tofprtp8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtu32tofprtp16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtu32tofprtpf: Conversion from uint to float, rounded up. */
+orvane_float4 __orvane_l9_cvtu32tofprtpf1(uint32_t x);
+orvane_float4 __orvane_l9_cvtu32tofprtpf2(orvane_uint4 x);
+orvane_float4 __orvane_l9_cvtu32tofprtpf3(orvane_uint4 x);
+orvane_float4 __orvane_l9_cvtu32tofprtpf4(orvane_uint4 x);
+orvane_float8 __orvane_l9_cvtu32tofprtpf8(orvane_uint8 x);
+void __orvane_l9_cvtu32tofprtpf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtu32tofprtz: Conversion from uint to double, rounded toward zero. */
+orvane_double2 __orvane_l9_cvtu32tofprtz1(uint32_t x);
+orvane_double2 __orvane_l9_cvtu32tofprtz2(orvane_uint4 x);
+orvane_double4 __orvane_l9_cvtu32tofprtz3(orvane_uint4 x);
+orvane_double4 __orvane_l9_cvtu32tofprtz4(orvane_uint4 x);
+void __orvane_l9_cvtu32tofprtz8(void) ORVANE_NOT_C; /* in ymm0; out ymm0 ymm1 */
+void __orvane_l9_cvtu32tofprtz16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtu32tofprtzf: Conversion from uint to float, rounded toward zero. */
+orvane_float4 __orvane_l9_cvtu32tofprtzf1(uint32_t x);
+orvane_float4 __orvane_l9_cvtu32tofprtzf2(orvane_uint4 x);
+orvane_float4 __orvane_l9_cvtu32tofprtzf3(orvane_uint4 x);
+orvane_float4 __orvane_l9_cvtu32tofprtzf4(orvane_uint4 x);
+orvane_float8 __orvane_l9_cvtu32tofprtzf8(orvane_uint8 x);
+void __orvane_l9_cvtu32tofprtzf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cvtu64tofprte: Conversion from ulong to double, rounded to nearest, ties to even. */
+orvane_double2 __orvane_l9_cvtu64tofprte1(uint64_t x);
+orvane_double2 __orvane_l9_cvtu64tofprte2(orvane_ulong2 x);
+orvane_double4 __orvane_l9_cvtu64tofprte3(orvane_ulong4 x);
+orvane_double4 __orvane_l9_cvtu64tofprte4(orvane_ulong4 x);
+void __orvane_l9_cvtu64tofprte8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtu64tofprte16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtu64tofprtef: Conversion from ulong to float, rounded to nearest, ties to even. */
+orvane_float4 __orvane_l9_cvtu64tofprtef1(uint64_t x);
+orvane_float4 __orvane_l9_cvtu64tofprtef2(orvane_ulong2 x);
+orvane_float4 __orvane_l9_cvtu64tofprtef3(orvane_ulong4 x);
+orvane_float4 __orvane_l9_cvtu64tofprtef4(orvane_ulong4 x);
+orvane_float8 __orvane_l9_cvtu64tofprtef8(orvane_ulong4 x0, orvane_ulong4 x1);
+void __orvane_l9_cvtu64tofprtef16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtu64tofprtn: Conversion from ulong to double, rounded down. */
+orvane_double2 __orvane_l9_cvtu64tofprtn1(uint64_t x);
+orvane_double2 __orvane_l9_cvtu64tofprtn2(orvane_ulong2 x);
+orvane_double4 __orvane_l9_cvtu64tofprtn3(orvane_ulong4 x);
+orvane_double4 __orvane_l9_cvtu64tofprtn4(orvane_ulong4 x);
+void __orvane_l9_cvtu64tofprtn8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtu64tofprtn16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtu64tofprtnf: Conversion from ulong to float, rounded down. */
+orvane_float4 __orvane_l9_cvtu64tofprtnf1(uint64_t x);
+orvane_float4 __orvane_l9_cvtu64tofprtnf2(orvane_ulong2 x);
+orvane_float4 __orvane_l9_cvtu64tofprtnf3(orvane_ulong4 x);
+orvane_float4 __orvane_l9_cvtu64tofprtnf4(orvane_ulong4 x);
+orvane_float8 __orvane_l9_cvtu64tofprtnf8(orvane_ulong4 x0, orvane_ulong4 x1);
+void __orvane_l9_cvtu64tofprtnf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtu64tofprtp: Conversion from ulong to double, rounded up. */
+orvane_double2 __orvane_l9_cvtu64tofprtp1(uint64_t x);
+orvane_double2 __orvane_l9_cvtu64tofprtp2(orvane_ulong2 x);
+orvane_double4 __orvane_l9_cvtu64tofprtp3(orvane_ulong4 x);
+orvane_double4 __orvane_l9_cvtu64tofprtp4(orvane_ulong4 x);
+void __orvane_l9_cvtu64tofprtp8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtu64tofprtp16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtu64tofprtpf: Conversion from ulong to float, rounded up. */
+orvane_float4 __orvane_l9_cvtu64tofprtpf1(uint64_t x);
+orvane_float4 __orvane_l9_cvtu64tofprtpf2(orvane_ulong2 x);
+orvane_float4 __orvane_l9_cvtu64tofprtpf3(orvane_ulong4 x);
+orvane_float4 __orvane_l9_cvtu64tofprtpf4(orvane_ulong4 x);
+orvane_float8 __orvane_l9_cvtu64tofprtpf8(orvane_ulong4 x0, orvane_ulong4 x1);
+void __orvane_l9_cvtu64tofprtpf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtu64tofprtz: Conversion from ulong to double, rounded toward zero. */
+orvane_double2 __orvane_l9_cvtu64tofprtz1(uint64_t x);
+orvane_double2 __orvane_l9_cvtu64tofprtz2(orvane_ulong2 x);
+orvane_double4 __orvane_l9_cvtu64tofprtz3(orvane_ulong4 x);
+orvane_double4 __orvane_l9_cvtu64tofprtz4(orvane_ulong4 x);
+void __orvane_l9_cvtu64tofprtz8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cvtu64tofprtz16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cvtu64tofprtzf: Conversion from ulong to float, rounded toward zero. */
+orvane_float4 __orvane_l9_cvtu64tofprtzf1(uint64_t x);
+orvane_float4 __orvane_l9_cvtu64tofprtzf2(orvane_ulong2 x);
+orvane_float4 __orvane_l9_cvtu64tofprtzf3(orvane_ulong4 x);
+orvane_float4 __orvane_l9_cvtu64tofprtzf4(orvane_ulong4 x);
+orvane_float8 __orvane_l9_cvtu64tofprtzf8(orvane_ulong4 x0, orvane_ulong4 x1);
+void __orvane_l9_cvtu64tofprtzf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfp64tofp32rte: Conversion from double to float, rounded to nearest, ties to even. */
+orvane_float4 __orvane_l9_cvtfp64tofp32rte1(orvane_double2 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rte2(orvane_double2 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rte3(orvane_double4 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rte4(orvane_double4 x);
+orvane_float8 __orvane_l9_cvtfp64tofp32rte8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfp64tofp32rte16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfp64tofp32rtn: Conversion from double to float, rounded down. */
+orvane_float4 __orvane_l9_cvtfp64tofp32rtn1(orvane_double2 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtn2(orvane_double2 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtn3(orvane_double4 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtn4(orvane_double4 x);
+orvane_float8 __orvane_l9_cvtfp64tofp32rtn8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfp64tofp32rtn16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfp64tofp32rtp: Conversion from double to float, rounded up. */
+orvane_float4 __orvane_l9_cvtfp64tofp32rtp1(orvane_double2 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtp2(orvane_double2 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtp3(orvane_double4 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtp4(orvane_double4 x);
+orvane_float8 __orvane_l9_cvtfp64tofp32rtp8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfp64tofp32rtp16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* cvtfp64tofp32rtz: Conversion from double to float, rounded toward zero. */
+orvane_float4 __orvane_l9_cvtfp64tofp32rtz1(orvane_double2 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtz2(orvane_double2 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtz3(orvane_double4 x);
+orvane_float4 __orvane_l9_cvtfp64tofp32rtz4(orvane_double4 x);
+orvane_float8 __orvane_l9_cvtfp64tofp32rtz8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_cvtfp64tofp32rtz16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
 #ifdef __cplusplus
 }
 #endif
