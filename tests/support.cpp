@@ -1,7 +1,5 @@
 #include "support.h"
 
-#include <bit>
-#include <cmath>
 #include <cstring>
 #include <elf.h>
 #include <fstream>
@@ -180,22 +178,6 @@ worst worst_error(sweep& f, truth& t, const std::vector<words>& arguments, int r
         if (!t(f.row(), lane.data())) continue;
         const double e = t.error(result, f.row().result(result), r[result][i]);
         if (!(e <= w.ulps)) w = {e, lane[0]};
-    }
-    return w;
-}
-
-worst worst_error(sweep& f, truth& t, const std::vector<words>& arguments, double (*sieve)(double)) {
-    const auto& r = f(arguments)[0];
-    const auto& x = arguments[0];
-    worst w;
-    for (size_t i = 0; i < x.size(); i++) {
-        const double y = sieve(std::bit_cast<float>((uint32_t)x[i]));
-        const double ulp = std::ldexp(1.0, std::max(std::ilogb(y), -126) - 23);
-        // The sieve is good to a few ulps of a double, some 2^-27 ulps of a float.
-        const double e = std::fabs(std::bit_cast<float>((uint32_t)r[i]) - y) / ulp;
-        if (e <= w.ulps - 0x1p-24 || !t(f.row(), &x[i])) continue;
-        const double exact = t.error(0, lane_type::f32, r[i]);
-        if (!(exact <= w.ulps)) w = {exact, x[i]};
     }
     return w;
 }

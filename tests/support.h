@@ -81,8 +81,5 @@ struct worst {
     uint64_t argument = 0;
 };
 worst worst_error(sweep& f, truth& t, const std::vector<words>& arguments, int result = 0);
-// The same of a float function of one argument, with a double-precision function as a sieve: only where the error by
-// it comes near the largest so far is the truth asked, so that a sweep over all floats takes minutes.
-worst worst_error(sweep& f, truth& t, const std::vector<words>& arguments, double (*sieve)(double));
 
 } // namespace orvane
