@@ -29,12 +29,11 @@ double scaled_hypot(double x, double y) {
 }
 
 template <class T> int hypot_rare(T x, T y, T* result) {
-    const bool x_infinite_or_nan = biased_exponent(x) == top_exponent<T>;
-    const bool y_infinite_or_nan = biased_exponent(y) == top_exponent<T>;
-    // An infinity wins over a NaN.
-    if (x_infinite_or_nan && y_infinite_or_nan && x != x) *result = y != y ? x * y : y * y;
-    else if (x_infinite_or_nan) *result = x * x;
-    else if (y_infinite_or_nan) *result = y * y;
+    const bool x_not_finite = biased_exponent(x) == top_exponent<T>,
+               y_not_finite = biased_exponent(y) == top_exponent<T>;
+    // An infinity wins over a NaN, the first NaN over the second.
+    if (x_not_finite && (x == x || y != y || !y_not_finite)) *result = x * x;
+    else if (y_not_finite) *result = y * y;
     else if (x == 0 && y == 0) *result = 0;
     else *result = T(scaled_hypot(x, y));
     return ordinary;
