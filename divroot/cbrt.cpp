@@ -220,21 +220,20 @@ template <const auto& Block, auto& Rare, bool Reciprocal> struct dcbrt_kernel : 
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         using V = lanes<double, W>;
+        lane_bits<W> special = not_normal(c, x);
+        // m - c is exact: c is m's top six fraction bits, the sixth set.
+        auto i = bits(x) & long_lanes<W>(c.i_mask);
+        auto r = lookup_bytes<double>(&c.neg_rcp, i >> 44);
+        auto minus_m = (x & c.mant_mask) | c.m_or;
+        auto minus_c = (x & c.c_mask) | c.c_or;
+        auto u = finished(r * (minus_m - minus_c));
+
         auto top = bits(x) >> 52;
         auto e = top & c.e_mask;
         auto q = multiply_low_words(e, lanes<uint64_t, W>(c.third_mul)) >> 14; // floor(e / 3) for all e that occur
         auto rem = e - (q + q + q);
-        auto i = bits(x) & long_lanes<W>(c.i_mask);
-
-        // m - c is exact: c is m's top six fraction bits, the sixth set.
-        auto r = lookup_bytes<double>(&c.neg_rcp, i >> 44);
-        auto minus_m = (x & c.mant_mask) | c.m_or;
-        auto minus_c = (x & c.c_mask) | c.c_or;
-        auto u = r * (minus_m - minus_c);
-
         auto sign_and_base = (top & long_lanes<W>(c.sign_word)) | long_lanes<W>(c.exp_base);
         auto scale = as<double>((Reciprocal ? sign_and_base - q : sign_and_base + q) << 52);
-        auto special = not_normal(c, x);
         if constexpr (requires { c.root_pairs; }) {
             auto [hi, lo] = lookup_pair<double>(&c.root_pairs, (rem << 9) + (i >> 43));
             V TS = hi * scale, LS = lo * scale;
@@ -276,20 +275,24 @@ template <const auto& Block> struct scbrt_kernel : kernel<one_argument<float>> {
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         using V = lanes<float, W>;
+        constexpr int entry_bytes = requires { c.root_pairs_f; }
+        ? 8 : 4;
         auto special = not_normal(c, x);
         auto m = (x & c.m_mask_f) | c.one_f;
         auto r = reciprocal_estimate(m) & c.rcp_mask_f;
         auto u = fma(r, m, -V(c.one_f));
         auto i4 = (bits(r) >> 16) & c.i_mask_f;
         auto [q, rem, sign] = exponent_thirds(c, x);
+        auto offset = root_offset<entry_bytes>(rem, i4, special);
+        lane_bits<W> special_bits = special;
         auto scale = as<float>(((q + c.exp_base_f) | sign) << 23);
         if constexpr (requires { c.root_pairs_f; }) {
-            auto [hi, lo] = lookup_pair<float>(&c.root_pairs_f, root_offset<8>(rem, i4, special));
+            auto [hi, lo] = lookup_pair<float>(&c.root_pairs_f, offset);
             V TS = hi * scale, LS = lo * scale;
-            return answer{TS + (LS + root_polynomial(c, u) * (u * TS)), special};
+            return answer{TS + (LS + root_polynomial(c, u) * (u * TS)), special_bits};
         } else {
-            auto TS = lookup_bytes<float>(&c.root_hi_f, root_offset<4>(rem, i4, special)) * scale;
-            return answer{TS + root_polynomial(c, u) * (u * TS), special};
+            auto TS = lookup_bytes<float>(&c.root_hi_f, offset) * scale;
+            return answer{TS + root_polynomial(c, u) * (u * TS), special_bits};
         }
     }
 };
@@ -304,21 +307,25 @@ template <const auto& Block> struct sinvcbrt_kernel : kernel<one_argument<float>
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         using V = lanes<float, W>;
+        constexpr int entry_bytes = requires { c.root_pairs_f; }
+        ? 8 : 4;
         auto special = not_normal(c, x);
         auto i4 = (bits(x) >> 16) & c.i_mask_f;
         auto r = lookup_bytes<float>(&c.neg_rcp_f, i4);
         auto minus_m = (x & c.m_mask_f) | c.m_or_f;
         auto minus_c = (x & c.c_mask_f) | c.c_or_f;
-        auto u = (minus_m - minus_c) * r;
+        auto u = finished((minus_m - minus_c) * r);
         auto [q, rem, sign] = exponent_thirds(c, x);
+        auto offset = root_offset<entry_bytes>(rem, i4, special);
+        lane_bits<W> special_bits = special;
         auto scale = as<float>(((sign | c.exp_base_f) - q) << 23);
         if constexpr (requires { c.root_pairs_f; }) {
-            auto [hi, lo] = lookup_pair<float>(&c.root_pairs_f, root_offset<8>(rem, i4, special));
+            auto [hi, lo] = lookup_pair<float>(&c.root_pairs_f, offset);
             V HS = hi * scale, LS = lo * scale;
-            return answer{HS + fma(root_polynomial(c, u), u * HS, LS), special};
+            return answer{HS + fma(root_polynomial(c, u), u * HS, LS), special_bits};
         } else {
-            auto TS = lookup_bytes<float>(&c.root_hi_f, root_offset<4>(rem, i4, special)) * scale;
-            return answer{TS + (u * TS) * root_polynomial(c, u), special};
+            auto TS = lookup_bytes<float>(&c.root_hi_f, offset) * scale;
+            return answer{TS + (u * TS) * root_polynomial(c, u), special_bits};
         }
     }
 };
