@@ -489,8 +489,10 @@ template <class T, int W, class At> ORVANE_INLINE lanes<T, W> assemble(At at) {
         auto four = [&](int i) ORVANE_LAMBDA {
             return _mm_insert_epi32(_mm_insert_epi32(two(i), word(i + 2), 2), word(i + 3), 3);
         };
-        if constexpr (W == 2) return V((raw)_mm_unpacklo_epi64(two(0), two(0)));
-        else {
+        if constexpr (W == 2) {
+            const __m128i both = two(0);
+            return V((raw)_mm_unpacklo_epi64(both, both));
+        } else {
             const __m128i low = four(0);
             if constexpr (V::is_wide) return V((raw)_mm256_set_m128i(four(4), low));
             else return V((raw)low);
