@@ -387,6 +387,54 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* tgamma: Gamma function. NaN at negative integers, infinities of zeros. */
+orvane_double2 __orvane_l9_tgamma1(orvane_double2 x);
+orvane_double2 __orvane_l9_tgamma2(orvane_double2 x);
+orvane_double4 __orvane_l9_tgamma3(orvane_double4 x);
+orvane_double4 __orvane_l9_tgamma4(orvane_double4 x);
+void __orvane_l9_tgamma8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tgamma16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tgammaf: Gamma function. NaN at negative integers, infinities of zeros. */
+orvane_float4 __orvane_l9_tgammaf1(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf2(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf3(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf4(orvane_float4 x);
+orvane_float8 __orvane_l9_tgammaf8(orvane_float8 x);
+void __orvane_l9_tgammaf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* lgamma: Logarithm of the magnitude of the gamma function. +Inf at 0 and at negative integers. */
+orvane_double2 __orvane_l9_lgamma1(orvane_double2 x);
+orvane_double2 __orvane_l9_lgamma2(orvane_double2 x);
+orvane_double4 __orvane_l9_lgamma3(orvane_double4 x);
+orvane_double4 __orvane_l9_lgamma4(orvane_double4 x);
+void __orvane_l9_lgamma8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_lgamma16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* lgammaf: Logarithm of the magnitude of the gamma function. +Inf at 0 and at negative integers. */
+orvane_float4 __orvane_l9_lgammaf1(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf2(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf3(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf4(orvane_float4 x);
+orvane_float8 __orvane_l9_lgammaf8(orvane_float8 x);
+void __orvane_l9_lgammaf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* lgammar: lgamma, with the sign of the gamma function in the out-lane. */
+orvane_double2 __orvane_l9_lgammar1(int32_t* out, orvane_double2 x);
+orvane_double2 __orvane_l9_lgammar2(int32_t* out, orvane_double2 x);
+orvane_double4 __orvane_l9_lgammar3(int32_t* out, orvane_double4 x);
+orvane_double4 __orvane_l9_lgammar4(int32_t* out, orvane_double4 x);
+void __orvane_l9_lgammar8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_lgammar16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* lgammarf: lgamma, with the sign of the gamma function in the out-lane. */
+orvane_float4 __orvane_l9_lgammarf1(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf2(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf3(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf4(int32_t* out, orvane_float4 x);
+orvane_float8 __orvane_l9_lgammarf8(int32_t* out, orvane_float8 x);
+void __orvane_l9_lgammarf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
