@@ -168,11 +168,14 @@ private:
             names += (names.empty() ? "" : " = ") + std::string(t->tier);
         }
         for (const auto& [sleef, names] : tiers_beside) {
-            const std::string sleef_name = sleef ? family + "/SLEEF" + sleef->name : "";
-            if (sleef) add(sleef_name, row, 16, has_special, sleef->run);
-            for (int width : widths)
+            for (int width : widths) {
+                const bool is_narrow = sleef && &sleef->at(width, row.in) == &sleef->narrow;
+                const std::string sleef_name =
+                    sleef ? family + "/SLEEF" + sleef->name + (is_narrow ? "x128" : "x256") : "";
+                if (sleef) add(sleef_name, row, 16, has_special, sleef->at(width, row.in));
                 rows.push_back({family, names, width, error, sleef ? sleef->name : "", has_special,
                                 ours + std::to_string(width), sleef_name, scalar});
+            }
         }
     }
 
@@ -261,9 +264,9 @@ int main(int argc, char** argv) {
     gathering_reporter reporter(plan.benchmarks);
     RUN_PICKED(&reporter);
     benchmark::Shutdown();
-    printf("On %s: nanoseconds a lane, medians; a ratio is the peer's time over ours. SLEEF runs 8 float or 4 double "
-           "lanes\n"
-           "a call (u10: within 1.0 ulp), libm one; ulp is our largest error over 65536 ordinary lanes.\n\n",
+    printf("On %s: nanoseconds a lane, medians; a ratio is the peer's time over ours. SLEEF runs 128 bits a "
+           "call\n"
+           "beside vectors that fit them and else 256 (u10: within 1.0 ulp), libm one lane; ulp is our largest error over 65536 ordinary lanes.\n\n",
            processor().c_str());
     print_table(plan.rows, reporter);
 }

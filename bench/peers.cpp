@@ -109,6 +109,13 @@ template <class T> T smaller_magnitude(T x, T y) {
 
 // ---- SLEEF: N lanes a call.
 
+// Integers beside two doubles: the low half of a register, 8 bytes in memory.
+struct half_vector {
+    int32_t lane[2];
+    half_vector(__m128i v) { memcpy(lane, &v, sizeof lane); }
+    operator __m128i() const { return _mm_loadu_si64(lane); }
+};
+
 template <int N, class R, class... A> pass vector_pass(R (*f)(A...)) {
     return [f](buffer& b) {
         for (int i = 0; i < lanes_of_buffer; i += N) {
@@ -125,19 +132,25 @@ template <int N, class R, class... A> pass vector_pass(R (*f)(A...)) {
 struct variants {
     std::optional<peer> f32, f64;
 };
-#define SLEEF(f, u)                                                                                                  \
+#define SLEEF_FUNCTIONS(name, f, u)                                                                                  \
     variants {                                                                                                       \
-        peer{#u, vector_pass<8>(Sleef_##f##f8_##u##avx2)}, peer { #u, vector_pass < 4>(Sleef_##f##d4_##u##avx2) }    \
+        peer{name, vector_pass<8>(Sleef_##f##f8_##u##avx2), vector_pass<4>(Sleef_##f##f4_##u##avx2128)}, peer {      \
+            name, vector_pass<4>(Sleef_##f##d4_##u##avx2), vector_pass < 2>(Sleef_##f##d2_##u##avx2128)              \
+        }                                                                                                            \
     }
-#define SLEEF_PLAIN(f)                                                                                               \
-    variants {                                                                                                       \
-        peer{"", vector_pass<8>(Sleef_##f##f8_avx2)}, peer { "", vector_pass<4>(Sleef_##f##d4_avx2) }                \
-    }
+#define SLEEF(f, u) SLEEF_FUNCTIONS(#u, f, u)
+#define SLEEF_PLAIN(f) SLEEF_FUNCTIONS("", f, )
 
-__m256 pown_f32(__m256 x, __m256i n) { return Sleef_powf8_u10avx2(x, _mm256_cvtepi32_ps(n)); }
-__m256d pown_f64(__m256d x, __m128i n) { return Sleef_powd4_u10avx2(x, _mm256_cvtepi32_pd(n)); }
-__m256 rootn_f32(__m256 x, __m256i n) { return Sleef_powf8_u10avx2(x, 1.0f / _mm256_cvtepi32_ps(n)); }
-__m256d rootn_f64(__m256d x, __m128i n) { return Sleef_powd4_u10avx2(x, 1.0 / _mm256_cvtepi32_pd(n)); }
+__m256 pown_f8(__m256 x, __m256i n) { return Sleef_powf8_u10avx2(x, _mm256_cvtepi32_ps(n)); }
+__m128 pown_f4(__m128 x, __m128i n) { return Sleef_powf4_u10avx2128(x, _mm_cvtepi32_ps(n)); }
+__m256d pown_d4(__m256d x, __m128i n) { return Sleef_powd4_u10avx2(x, _mm256_cvtepi32_pd(n)); }
+__m128d pown_d2(__m128d x, half_vector n) { return Sleef_powd2_u10avx2128(x, _mm_cvtepi32_pd(n)); }
+__m256 rootn_f8(__m256 x, __m256i n) { return Sleef_powf8_u10avx2(x, 1.0f / _mm256_cvtepi32_ps(n)); }
+__m128 rootn_f4(__m128 x, __m128i n) { return Sleef_powf4_u10avx2128(x, 1.0f / _mm_cvtepi32_ps(n)); }
+__m256d rootn_d4(__m256d x, __m128i n) { return Sleef_powd4_u10avx2(x, 1.0 / _mm256_cvtepi32_pd(n)); }
+__m128d rootn_d2(__m128d x, half_vector n) { return Sleef_powd2_u10avx2128(x, 1.0 / _mm_cvtepi32_pd(n)); }
+__m128d ldexp_d2(__m128d x, half_vector n) { return Sleef_ldexpd2_avx2128(x, n); }
+half_vector ilogb_d2(__m128d x) { return {Sleef_ilogbd2_avx2128(x)}; }
 
 // ---- The table, by base name.
 
@@ -180,9 +193,11 @@ const std::map<std::string, peers_of_both_types>& floating_table() {
         {"pow", against(TWO(std::pow(x, y)), SLEEF(pow, u10))},
         {"powr", against(TWO(std::pow(x, y)), SLEEF(pow, u10))},
         {"pown", against(WITH_INTEGER(std::pow(x, decltype(x)(n))),
-                         {peer{"u10", vector_pass<8>(pown_f32)}, peer{"u10", vector_pass<4>(pown_f64)}})},
+                         {peer{"u10", vector_pass<8>(pown_f8), vector_pass<4>(pown_f4)},
+                          peer{"u10", vector_pass<4>(pown_d4), vector_pass<2>(pown_d2)}})},
         {"rootn", against(WITH_INTEGER(std::pow(x, 1 / decltype(x)(n))),
-                          {peer{"u10", vector_pass<8>(rootn_f32)}, peer{"u10", vector_pass<4>(rootn_f64)}})},
+                          {peer{"u10", vector_pass<8>(rootn_f8), vector_pass<4>(rootn_f4)},
+                           peer{"u10", vector_pass<4>(rootn_d4), vector_pass<2>(rootn_d2)}})},
 
         {"div", against(TWO(x / y))},
         {"inv", against(ONE(1 / x))},
@@ -235,8 +250,8 @@ const std::map<std::string, peers_of_both_types>& floating_table() {
         {"fract", against(with_second{[](auto x, auto* whole) { return x - (*whole = std::floor(x)); }})},
         {"modf", against(with_second{[](auto x, auto* whole) { return std::modf(x, whole); }}, SLEEF_PLAIN(modf))},
         {"frexp", against(with_integer_out{[](auto x, int* n) { return std::frexp(x, n); }})},
-        {"ldexp", against(WITH_INTEGER(std::ldexp(x, n)), {{}, peer{"", vector_pass<4>(Sleef_ldexpd4_avx2)}})},
-        {"ilogb", against(ONE(std::ilogb(x)), {{}, peer{"", vector_pass<4>(Sleef_ilogbd4_avx2)}})},
+        {"ldexp", against(WITH_INTEGER(std::ldexp(x, n)), {{}, peer{"", vector_pass<4>(Sleef_ldexpd4_avx2), vector_pass<2>(ldexp_d2)}})},
+        {"ilogb", against(ONE(std::ilogb(x)), {{}, peer{"", vector_pass<4>(Sleef_ilogbd4_avx2), vector_pass<2>(ilogb_d2)}})},
         {"logb", against(ONE(std::logb(x)))},
         {"fabs", against(ONE(std::fabs(x)), SLEEF_PLAIN(fabs))},
         {"copysign", against(TWO(std::copysign(x, y)), SLEEF_PLAIN(copysign))},

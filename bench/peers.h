@@ -9,7 +9,9 @@ namespace orvane::bench {
 
 struct peer {
     const char* name; // "u10": within 1.0 ulp; "-" where SLEEF states no error
-    pass run;
+    pass wide;        // 256 bits a call
+    pass narrow;      // 128 bits a call, for vectors that fit them
+    const pass& at(int width, lane_type t) const { return width * size_of(t) <= 16 ? narrow : wide; }
 };
 
 struct family_peers {

@@ -12,31 +12,36 @@
 namespace orvane {
 
 using extended_function = long double (*)(long double);
+using extended_function2 = long double (*)(long double, long double);
 
-// Error of a result in ulps of its type at the reference, to about 2^-11 of one in double.
+// Error of a result in ulps of its type at the reference, to about 2^-11 of one in double; infinite where one of them
+// alone is a number.
 inline double approximate_ulps(lane_type t, uint64_t result, long double reference) {
-    if (reference == 0 || !std::isfinite(reference)) return 0;
+    const double y = value_of(t, result), rounded = t == lane_type::f32 ? (float)reference : (double)reference;
+    if (y == rounded || (std::isnan(y) && std::isnan(rounded))) {
+        if (reference == 0 || !std::isfinite(y)) return 0;
+    } else if (!std::isfinite(y) || !std::isfinite(rounded)) return HUGE_VAL;
     const int bits = t == lane_type::f32 ? 24 : 53, emin = t == lane_type::f32 ? -125 : -1021;
-    const int exponent = std::max(std::ilogb(reference) + 1, emin);
-    return (double)std::ldexp(std::fabs((long double)value_of(t, result) - reference), bits - exponent);
+    const int exponent = std::max(reference == 0 ? emin : std::ilogb(reference) + 1, emin);
+    return (double)std::ldexp(std::fabs(y - reference), bits - exponent);
 }
 
 // Lanes of the largest approximate errors, as many as are to be decided against the truth.
 class largest_errors {
 public:
     explicit largest_errors(size_t keep) : keep(keep) {}
-    void offer(double ulps, uint64_t x, uint64_t y) {
+    void offer(double ulps, uint64_t result, uint64_t x, uint64_t second = 0) {
         if (!(ulps >= least)) return;
-        top.push_back({ulps, x, y});
+        top.push_back({ulps, result, {x, second}});
         if (top.size() >= 4 * keep) cut();
     }
     worst decided(const kernel_row& row, truth& t) {
         if (top.size() > keep) cut();
         worst w;
         for (const auto& lane : top)
-            if (t(row, &lane.x)) {
-                const double exact = t.error(0, row.out, lane.y);
-                if (exact > w.ulps) w = {exact, lane.x};
+            if (t(row, lane.arguments)) {
+                const double exact = t.error(0, row.out, lane.result);
+                if (exact > w.ulps) w = {exact, lane.arguments[0], lane.arguments[1]};
             }
         return w;
     }
@@ -44,7 +49,7 @@ public:
 private:
     struct lane {
         double ulps;
-        uint64_t x, y;
+        uint64_t result, arguments[2];
     };
     void cut() {
         std::nth_element(top.begin(), top.begin() + keep, top.end(),
@@ -63,7 +68,16 @@ inline worst sampled_error(sweep& f, truth& t, const words& x, extended_function
     const auto& y = f({x});
     largest_errors top(16);
     for (size_t i = 0; i < x.size(); i++)
-        top.offer(approximate_ulps(type, y[0][i], reference(value_of(type, x[i]))), x[i], y[0][i]);
+        top.offer(approximate_ulps(f.row().out, y[0][i], reference(value_of(type, x[i]))), y[0][i], x[i]);
+    return top.decided(f.row(), t);
+}
+inline worst sampled_error(sweep& f, truth& t, const words& x, const words& second, extended_function2 reference) {
+    const auto& y = f({x, second});
+    largest_errors top(16);
+    for (size_t i = 0; i < x.size(); i++) {
+        const long double r = reference(value_of(f.row().argument(0), x[i]), value_of(f.row().argument(1), second[i]));
+        top.offer(approximate_ulps(f.row().out, y[0][i], r), y[0][i], x[i], second[i]);
+    }
     return top.decided(f.row(), t);
 }
 
@@ -79,8 +93,8 @@ inline worst error_over_all_floats(const char* name, const char* tier, double (*
             x[i] = from + i;
         const auto& y = f({x});
         for (size_t i = 0; i < x.size(); i++)
-            top.offer(approximate_ulps(lane_type::f32, y[0][i], reference(value_of(lane_type::f32, x[i]))), x[i],
-                      y[0][i]);
+            top.offer(approximate_ulps(lane_type::f32, y[0][i], reference(value_of(lane_type::f32, x[i]))), y[0][i],
+                      x[i]);
     }
     return top.decided(f.row(), t);
 }

@@ -177,7 +177,7 @@ worst worst_error(sweep& f, truth& t, const std::vector<words>& arguments, int r
             lane[j] = arguments[j][i];
         if (!t(f.row(), lane.data())) continue;
         const double e = t.error(result, f.row().result(result), r[result][i]);
-        if (!(e <= w.ulps)) w = {e, lane[0]};
+        if (!(e <= w.ulps)) w = {e, lane[0], lane.size() > 1 ? lane[1] : 0};
     }
     return w;
 }

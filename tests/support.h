@@ -75,10 +75,10 @@ private:
     std::vector<words> results;
 };
 
-// The largest error against the truth over lanes, with the argument where it occurs.
+// The largest error against the truth over lanes, with the arguments where it occurs.
 struct worst {
     double ulps = 0;
-    uint64_t argument = 0;
+    uint64_t argument = 0, second = 0;
 };
 worst worst_error(sweep& f, truth& t, const std::vector<words>& arguments, int result = 0);
 
