@@ -96,8 +96,15 @@ extended with_exponent_0(extended_fields f) {
     return ((e * ll_ln2_hi + __libm_logl_table_256[i].hi) + r0) + T;
 }
 
-// Each binade [2^(j+2), 2^(j+3)) in u from 0 to 1: a product of quadratics, (constant, linear) coefficients, then
-// the scale.
+// A product of monic quadratics in u without their scale C[22]: (constant, linear) coefficients, v = u^2.
+extended product_of_quadratics(const extended* C, extended u, extended v) {
+    extended G = (C[1] * u + v) + C[0];
+    for (int i = 1; i <= 10; i++)
+        G = G * ((C[2 * i + 1] * u + v) + C[2 * i]);
+    return G;
+}
+
+// Each binade [2^(j+2), 2^(j+3)) in u from 0 to 1.
 constexpr double _A[] = {0x1p2, 0x1p3, 0x1p4, 0x1p5, 0x1p6, 0x1p7, 0x1p8};
 constexpr double _B[] = {0x1p-2, 0x1p-3, 0x1p-4, 0x1p-5, 0x1p-6, 0x1p-7, 0x1p-8};
 constexpr extended _C5[7][24] = {
@@ -105,34 +112,18 @@ constexpr extended _C5[7][24] = {
 #include "special/tables/lgamma_C5_rows_1_6.inc"
 };
 extended binade(int j, extended x) {
-    const auto& C = _C5[j];
     const extended u = (x - _A[j]) * _B[j];
-    const extended v = u * u;
-    extended G = (C[1] * u + v) + C[0];
-    for (int i = 1; i <= 10; i++)
-        G = G * ((C[2 * i + 1] * u + v) + C[2 * i]);
-    return G * C[22];
+    return product_of_quadratics(_C5[j], u, u * u) * _C5[j][22];
 }
 
-// (x - 2) times a product of quadratics, on [2.25, 4): linear and constant coefficients.
-struct quadratic {
-    extended a, b;
-};
-constexpr quadratic ld_f24[] = {
-    {-0xF888E8D7892718A2p-61L, 0xD888B6CF34159B54p-61L}, {0xF62F273BA12A4639p-65L, 0xBCB79C8329FD9F44p-64L},
-    {-0xA93AC50A37EC8D38p-66L, 0xCB8896FAD69C455Dp-62L}, {-0xB4CC43D2C161E057p-63L, 0xE510A424639EBF5Ep-61L},
-    {-0xC6AC672F0C1392C7p-62L, 0xC65ED41B097486B3p-60L}, {-0xA292B9AE3276942Ep-61L, 0x943AF77763601441p-59L},
-    {-0xE554E4CCCA6C7B7Bp-61L, 0xC8A93F9ECB06E891p-59L}, {-0x92F0F55FBC87F860p-60L, 0xFC2E5A4AD33DE19Dp-59L},
-    {-0xAF60D0112843F6C1p-60L, 0x9526B75B38670119p-58L}, {-0xC5956500FA3D92E7p-60L, 0xA7675879D68B587Ep-58L},
-    {-0xD3B22CCBD8587750p-60L, 0xB31DFA672D7FB8C0p-58L}};
-constexpr extended ld_f24_scale = -0x83A27775D86F9A81p-103L;
-extended from_2_25_to_4(extended x) {
-    const extended z = x * x;
-    extended G = (ld_f24[0].a * x + z) + ld_f24[0].b;
-    for (int i = 1; i <= 10; i++)
-        G = G * ((ld_f24[i].a * x + z) + ld_f24[i].b);
-    return (x + -2) * (G * ld_f24_scale);
-}
+constexpr extended ld_f24[] = {
+    0xD888B6CF34159B54p-61L, -0xF888E8D7892718A2p-61L, 0xBCB79C8329FD9F44p-64L,  0xF62F273BA12A4639p-65L,
+    0xCB8896FAD69C455Dp-62L, -0xA93AC50A37EC8D38p-66L, 0xE510A424639EBF5Ep-61L,  -0xB4CC43D2C161E057p-63L,
+    0xC65ED41B097486B3p-60L, -0xC6AC672F0C1392C7p-62L, 0x943AF77763601441p-59L,  -0xA292B9AE3276942Ep-61L,
+    0xC8A93F9ECB06E891p-59L, -0xE554E4CCCA6C7B7Bp-61L, 0xFC2E5A4AD33DE19Dp-59L,  -0x92F0F55FBC87F860p-60L,
+    0x9526B75B38670119p-58L, -0xAF60D0112843F6C1p-60L, 0xA7675879D68B587Ep-58L,  -0xC5956500FA3D92E7p-60L,
+    0xB31DFA672D7FB8C0p-58L, -0xD3B22CCBD8587750p-60L, -0x83A27775D86F9A81p-103L};
+extended from_2_25_to_4(extended x) { return (x + -2) * (product_of_quadratics(ld_f24, x, x * x) * ld_f24[22]); }
 
 // Odd and even powers of u = x + shift, the first six coefficients of each in double.
 struct series {
@@ -206,8 +197,8 @@ constexpr left_row _LRP[13] = {
 #include "special/tables/lgamma_LRP_row_0.inc"
 #include "special/tables/lgamma_LRP_rows_1_12.inc"
 };
+// Of the 16th powers.
 constexpr double _LRP16[13] = {
-    // of the 16th powers
 #include "special/tables/lgamma_LRP16_row_0.inc"
 #include "special/tables/lgamma_LRP16_rows_1_12.inc"
 };
@@ -216,41 +207,31 @@ constexpr right_row _RRP[13] = {
 #include "special/tables/lgamma_RRP_rows_1_12.inc"
 };
 
+// Horner's scheme carried on from r, the coefficients in an order of their own.
+template <class C> extended horner_in_order(extended r, const C& c, extended v, std::initializer_list<int> order) {
+    for (int i : order)
+        r = r * v + c[i];
+    return r;
+}
 extended left_root(int k, double x) {
     const auto& [E, D, unused] = _LRP[k];
     const extended u = extended(x) - _LRIB[k].centre, v = u * u;
-    extended P = _LRP16[k];
-    for (int i : {9, 7, 5, 3, 1})
-        P = P * v + D[i];
-    for (int i : {4, 2, 0})
-        P = P * v + E[i];
-    extended Q = D[10];
-    for (int i : {8, 6, 4, 2, 0})
-        Q = Q * v + D[i];
-    for (int i : {3, 1})
-        Q = Q * v + E[i];
+    const extended P = horner_in_order(horner_in_order(_LRP16[k], D, v, {9, 7, 5, 3, 1}), E, v, {4, 2, 0});
+    const extended Q = horner_in_order(horner_in_order(D[10], D, v, {8, 6, 4, 2, 0}), E, v, {3, 1});
     return P + u * Q;
 }
 extended right_root(int k, double x) {
     const auto& [E, D] = _RRP[k];
     const extended u = extended(x) - _RRIB[k].centre, v = u * u;
-    extended P = D[1];
-    for (int i : {7, 3, 9, 5, 11})
-        P = P * v + D[i];
-    for (int i : {2, 0})
-        P = P * v + E[i];
-    extended Q = D[0];
-    for (int i : {6, 2, 8, 4, 10})
-        Q = Q * v + D[i];
-    for (int i : {3, 1})
-        Q = Q * v + E[i];
+    const extended P = horner_in_order(horner_in_order(D[1], D, v, {7, 3, 9, 5, 11}), E, v, {2, 0});
+    const extended Q = horner_in_order(horner_in_order(D[0], D, v, {6, 2, 8, 4, 10}), E, v, {3, 1});
     return P + u * Q;
 }
 
 // shifted_up with the product in two parts: each factor and the product's head are split so that the product of
 // their leading parts is exact.
 extended shifted_up_compensated(extended x) {
-    constexpr double S = 8589934593.0; // 2^33 + 1
+    constexpr double S = 0x1p33 + 1;
     extended y = x, hi = 1, lo = 0;
     do {
         const extended a = (y + y * S) - y * S, c = y - a;
@@ -264,7 +245,6 @@ extended shifted_up_compensated(extended x) {
     return own_lgamma_pos(y) - own_logl(hi < 0 ? -hi : hi);
 }
 
-constexpr extended lg_half_log2pi = 0xEB3F8E4325F5A535p-64L;
 constexpr extended ld_stir1 = 0xAAAAAAAAAAAAAAABp-67L;
 constexpr double ld_stir2 = f64(0xBF66C16C16C16C17);
 // Stirling's series for log gamma(x), with L = ln|x|; for x < 0 with the other sign of ln(2 pi) / 2.

@@ -8,6 +8,8 @@
 
 namespace orvane {
 
+constexpr extended lg_half_log2pi = 0xEB3F8E4325F5A535p-64L;
+
 // Lower bound, centre and upper bound of a window around a zero of log|gamma| on the negative axis.
 struct root_window {
     double lower, centre, upper;

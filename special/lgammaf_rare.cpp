@@ -125,13 +125,14 @@ constexpr split_polynomial<4> lg_q[] = {
      {f64(0x3FAC8CDFBC14D340), f64(0x40048D48C3A02F10), f64(0x4027CB007D9BF558), f64(0x40288FCC5B1371AE)},
      f64(0x4004F39421765550)},
 };
+// Of log gamma(x) / (x - 2) on (2, 4).
 constexpr split_polynomial<5> lg_p24 = {2.0,
                                         0.0,
                                         {f64(0x3F035F2D1833BF4C), f64(0x3F7437F2FA1436C6), f64(0x3FBF7422445C9460),
                                          f64(0x3FE9F107FEE8BD29), f64(0x3FFC9D5D5B6CDEFF)},
                                         {f64(0xBEB2CC7A38B9355F), f64(0xBF421676F9CB46C7), f64(0xBF9E1C289FB224AB),
                                          f64(0xBFD7A7041DE592FE), f64(0xBFF51BAA7FD27785)},
-                                        f64(0xBFF01E76D66F8D8A)}; // of log gamma(x) / (x - 2) on (2, 4)
+                                        f64(0xBFF01E76D66F8D8A)};
 
 // log gamma(y) for y in [1, 2], and from 4 to 8192.
 [[gnu::noinline]] extended own_lgammaf_pos(extended y) {
@@ -162,7 +163,6 @@ constexpr root_cubic right_roots[2] = {
      {f64(0x405C11371268DA38), f64(0x4039D4D2977D2C23), f64(0x401F20A65F2FAC62), f64(0x3CDE9605E3AE7A62)}},
 };
 
-constexpr extended lg_half_log2pi = 0xEB3F8E4325F5A535p-64L;
 constexpr double lg_sin[] = {f64(0xBFD58731A486E820), f64(0xBFA4452CC28E15A9), f64(0xBFC86A0D5252E778),
                              f64(0xBFC93E08C9EE284B), f64(0xBFD013F6E1B86C4F), f64(0xBFD5B3F19F7A341F),
                              f64(0xBFE15132555C9EDD), f64(0xBFFA51A662480E35)};
@@ -175,10 +175,9 @@ extended log_gamma_of_positive(float x) {
         const extended L = own_log(x);
         return ((x + -0.5L) * L + lg_half_log2pi) - x;
     }
-    if (x >= 1 && x < 2) return own_lgammaf_pos(x);
-    if (x >= 4) return own_lgammaf_pos(x);
-    if (x > 2) return (x + -2.0L) * lg_p24.at(x);
-    return own_lgammaf_pos(x + 1.0L) - own_log(x);
+    if (x < 1) return own_lgammaf_pos(x + 1.0L) - own_log(x);
+    if (x > 2 && x < 4) return (x + -2.0L) * lg_p24.at(x);
+    return own_lgammaf_pos(x);
 }
 
 extended log_gamma_of_negative(float x) {
