@@ -136,6 +136,7 @@ template <class T, class V> shifted<V> gamma_from_2(T A, T F, uint32_t n) {
     const V* row = c::_tgamma_A_table[n >> c::shift];
     const V t = A - F, z = t * t;
     V G = row[2 * Q];
+#pragma GCC unroll 11
     for (int i = 0; i < Q; i++)
         G = G * ((row[i] * t + z) + row[Q + i]);
     V p = 1;
