@@ -243,6 +243,7 @@ TEST(Gamma, LargestErrors) {
                                       {"tgamma", 1e-308, 1, true, tgammal},
                                       {"tgammaf", 0, 35, false, tgammal},
                                       {"tgammaf", -42, 0, false, tgammal},
+                                      {"tgammaf", -6, 6, false, tgammal},
                                       {"tgammaf", 1e-38, 1, true, tgammal},
                                       {"lgamma", 0, 4, false, lgammal},
                                       {"lgamma", 4, 1e305, true, lgammal},
