@@ -96,9 +96,18 @@ extended with_exponent_0(extended_fields f) {
     return ((e * ll_ln2_hi + __libm_logl_table_256[i].hi) + r0) + T;
 }
 
+// An extended value as the exact sum of two doubles, which loads in a quarter of the time that its 80 bits take: the
+// products below wait for their coefficients.
+struct stored_extended {
+    double hi, lo;
+    consteval stored_extended(extended v = 0) : hi(double(v)), lo(double(v - hi)) {}
+    operator extended() const { return extended(hi) + lo; }
+};
+
 // A product of monic quadratics in u without their scale C[22]: (constant, linear) coefficients, v = u^2.
-extended product_of_quadratics(const extended* C, extended u, extended v) {
+[[gnu::always_inline]] inline extended product_of_quadratics(const stored_extended* C, extended u, extended v) {
     extended G = (C[1] * u + v) + C[0];
+#pragma GCC unroll 10
     for (int i = 1; i <= 10; i++)
         G = G * ((C[2 * i + 1] * u + v) + C[2 * i]);
     return G;
@@ -107,7 +116,7 @@ extended product_of_quadratics(const extended* C, extended u, extended v) {
 // Each binade [2^(j+2), 2^(j+3)) in u from 0 to 1.
 constexpr double _A[] = {0x1p2, 0x1p3, 0x1p4, 0x1p5, 0x1p6, 0x1p7, 0x1p8};
 constexpr double _B[] = {0x1p-2, 0x1p-3, 0x1p-4, 0x1p-5, 0x1p-6, 0x1p-7, 0x1p-8};
-constexpr extended _C5[7][24] = {
+constexpr stored_extended _C5[7][24] = {
 #include "special/tables/lgamma_C5_row_0.inc"
 #include "special/tables/lgamma_C5_rows_1_6.inc"
 };
@@ -116,7 +125,7 @@ extended binade(int j, extended x) {
     return product_of_quadratics(_C5[j], u, u * u) * _C5[j][22];
 }
 
-constexpr extended ld_f24[] = {
+constexpr stored_extended ld_f24[] = {
     0xD888B6CF34159B54p-61L, -0xF888E8D7892718A2p-61L, 0xBCB79C8329FD9F44p-64L,  0xF62F273BA12A4639p-65L,
     0xCB8896FAD69C455Dp-62L, -0xA93AC50A37EC8D38p-66L, 0xE510A424639EBF5Ep-61L,  -0xB4CC43D2C161E057p-63L,
     0xC65ED41B097486B3p-60L, -0xC6AC672F0C1392C7p-62L, 0x943AF77763601441p-59L,  -0xA292B9AE3276942Ep-61L,
