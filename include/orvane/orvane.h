@@ -387,6 +387,152 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* pow: x to the power y, with all special pairs of IEEE pow. */
+orvane_double2 __orvane_l9_pow1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_pow2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_pow3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_pow4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_pow8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_pow16 { double x[16]; double y[16]; };
+void* __orvane_l9_pow16(void* result, struct orvane_args_pow16 arguments);
+orvane_double2 __orvane_l9_pow1_rm(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_pow2_rm(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_pow3_rm(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_pow4_rm(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_pow8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_pow16_rm { double x[16]; double y[16]; };
+void* __orvane_l9_pow16_rm(void* result, struct orvane_args_pow16_rm arguments);
+orvane_double2 __orvane_l9_pow1_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_pow2_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_pow3_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_pow4_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_pow8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_pow16_native { double x[16]; double y[16]; };
+void* __orvane_l9_pow16_native(void* result, struct orvane_args_pow16_native arguments);
+
+/* powf: x to the power y, with all special pairs of IEEE pow. */
+orvane_float4 __orvane_l9_powf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_powf1_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf2_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf3_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf4_rm(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powf8_rm(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_powf1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powf8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* powr: x to the power y for x >= 0: exp(y log x). NaN of negative x. */
+orvane_double2 __orvane_l9_powr1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_powr2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_powr3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_powr4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_powr8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_powr16 { double x[16]; double y[16]; };
+void* __orvane_l9_powr16(void* result, struct orvane_args_powr16 arguments);
+orvane_double2 __orvane_l9_powr1_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_powr2_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_powr3_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_powr4_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_powr8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_powr16_native { double x[16]; double y[16]; };
+void* __orvane_l9_powr16_native(void* result, struct orvane_args_powr16_native arguments);
+orvane_double2 __orvane_l9_powr1_half(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_powr2_half(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_powr3_half(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_powr4_half(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_powr8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_powr16_half { double x[16]; double y[16]; };
+void* __orvane_l9_powr16_half(void* result, struct orvane_args_powr16_half arguments);
+
+/* powrf: x to the power y for x >= 0: exp(y log x). NaN of negative x. */
+orvane_float4 __orvane_l9_powrf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powrf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powrf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_powrf1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powrf8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powrf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_powrf1_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf2_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf3_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf4_half(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powrf8_half(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powrf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* pown: x to the integer power n. */
+orvane_double2 __orvane_l9_pown1(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_pown2(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_pown3(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_pown4(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_pown8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_pown16 { double x[16]; int32_t y[16]; };
+void* __orvane_l9_pown16(void* result, struct orvane_args_pown16 arguments);
+orvane_double2 __orvane_l9_pown1_native(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_pown2_native(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_pown3_native(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_pown4_native(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_pown8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_pown16_native { double x[16]; int32_t y[16]; };
+void* __orvane_l9_pown16_native(void* result, struct orvane_args_pown16_native arguments);
+
+/* pownf: x to the integer power n. */
+orvane_float4 __orvane_l9_pownf1(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_pownf2(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_pownf3(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_pownf4(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_pownf8(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_pownf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_pownf1_native(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_pownf2_native(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_pownf3_native(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_pownf4_native(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_pownf8_native(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_pownf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* rootn: The n-th root of x. */
+orvane_double2 __orvane_l9_rootn1(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_rootn2(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_rootn3(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_rootn4(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_rootn8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_rootn16 { double x[16]; int32_t y[16]; };
+void* __orvane_l9_rootn16(void* result, struct orvane_args_rootn16 arguments);
+orvane_double2 __orvane_l9_rootn1_native(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_rootn2_native(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_rootn3_native(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_rootn4_native(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_rootn8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_rootn16_native { double x[16]; int32_t y[16]; };
+void* __orvane_l9_rootn16_native(void* result, struct orvane_args_rootn16_native arguments);
+
+/* rootnf: The n-th root of x. */
+orvane_float4 __orvane_l9_rootnf1(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_rootnf2(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_rootnf3(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_rootnf4(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_rootnf8(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_rootnf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_rootnf1_native(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_rootnf2_native(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_rootnf3_native(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_rootnf4_native(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_rootnf8_native(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_rootnf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
