@@ -104,7 +104,7 @@ template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs : ker
         auto H = fh * L1h;
         auto t = fma(fl, L1h, fma(fh, L1l, fl * L1l));
         auto B = llo * f + t;
-        auto special = in_lanes<int64_t, W>((hw + c.x_bias) < c.x_limit) | ~high_word_below(c, H, c.h_limit) |
+        lane_bits<W> special = in_lanes<int64_t, W>((hw + c.x_bias) < c.x_limit) | ~high_word_below(c, H, c.h_limit) |
                        Front::out_of_domain(x, n);
 
         auto N = H + c.ex_shifter;
@@ -126,7 +126,7 @@ template <class Front, auto& Rare> struct pown_by_chords : kernel<with_integer<d
     static ORVANE_INLINE auto vector_path(const dpown_native_block& c, lanes<double, W> x, lanes<int32_t, W> n) {
         auto ax = x & c.abs_mask;
         auto P = Front::template exponent<double>(n) * reduced_ln<3>(c, ax);
-        auto special =
+        lane_bits<W> special =
             no_positive_normal(c, ax) | ~high_word_below(c, P, c.p_word_limit) | Front::out_of_domain(x, n);
         return answer{chord_exp(c, P) | sign_of_odd(x, n), special};
     }
