@@ -460,6 +460,12 @@ template <class T, int W, class Entry> ORVANE_INLINE lanes<T, W> assemble(Entry 
         }
     (std::make_integer_sequence<int, V::capacity>{});
 }
+// Two doubles a register half, the second loaded into place.
+template <int W> ORVANE_INLINE lanes<double, W> assemble_doubles(auto at) {
+    auto two = [&](int i) ORVANE_LAMBDA { return _mm_loadh_pd(_mm_load_sd(at(i)), at(i + 1)); };
+    if constexpr (W == 2) return (typename lanes<double, W>::raw)two(0);
+    else return (typename lanes<double, W>::raw)_mm256_set_m128d(two(2), two(0));
+}
 template <class T> ORVANE_INLINE T load(const void* at) {
     T x;
     __builtin_memcpy(&x, at, sizeof x);
@@ -468,12 +474,19 @@ template <class T> ORVANE_INLINE T load(const void* at) {
 } // namespace detail
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup(const T* table, lanes<I, W> index) {
     const auto at = detail::in_register(index.v); // elements taken out of a variable would keep it in memory
-    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return table[at[i]]; });
+    if constexpr (std::is_same_v<T, double> && W > 1)
+        return detail::assemble_doubles<W>([&](int i) ORVANE_LAMBDA { return table + at[i]; });
+    else return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return table[at[i]]; });
 }
 // The same at byte offsets from a base, for indices that come scaled out of the bits of a sum.
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup_bytes(const void* base, lanes<I, W> offset) {
     const auto at = detail::in_register(offset.v);
-    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return detail::load<T>((const char*)base + at[i]); });
+    if constexpr (std::is_same_v<T, double> && W > 1)
+        return detail::assemble_doubles<W>([&](int i)
+                                               ORVANE_LAMBDA { return (const double*)((const char*)base + at[i]); });
+    else
+        return detail::assemble<T, W>([&](int i)
+                                          ORVANE_LAMBDA { return detail::load<T>((const char*)base + at[i]); });
 }
 // Pairs (first, second) that stand side by side: one load of both a lane.
 template <class T, int W> struct lane_pair { lanes<T, W> first, second; };

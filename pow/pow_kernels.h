@@ -40,7 +40,7 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         auto P = y * H;
         auto perr = fma(y, H, -P);
         lane_bits<W> special = not_less_equal(x, lanes<double, W>(c.max_normal)) | (x < c.min_normal) |
-                       not_less_equal(P & c.abs_mask, lanes<double, W>(c.p_limit));
+                               not_less_equal(P & c.abs_mask, lanes<double, W>(c.p_limit));
         auto s = fma(L, y, P);
         auto N = s + c.ex_shifter;
         auto Nf = N - c.ex_shifter;
@@ -149,7 +149,8 @@ template <const auto& Block, auto& Rare> struct powf_by_polynomials : kernel<two
     template <int W>
     static ORVANE_INLINE auto vector_path(const spow_rm_block& c, lanes<float, W> x, lanes<float, W> y) {
         auto P = y * float_ln(c, x);
-        lane_bits<W> special = pattern_out_of_range(x, c.f_x_bias, c.f_x_limit) | ((signed_bits(P) & c.f_abs) > c.p_limit_f);
+        lane_bits<W> special =
+            pattern_out_of_range(x, c.f_x_bias, c.f_x_limit) | ((signed_bits(P) & c.f_abs) > c.p_limit_f);
         return answer{float_exp(c, P), special};
     }
 };

@@ -105,7 +105,7 @@ template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs : ker
         auto t = fma(fl, L1h, fma(fh, L1l, fl * L1l));
         auto B = llo * f + t;
         lane_bits<W> special = in_lanes<int64_t, W>((hw + c.x_bias) < c.x_limit) | ~high_word_below(c, H, c.h_limit) |
-                       Front::out_of_domain(x, n);
+                               Front::out_of_domain(x, n);
 
         auto N = H + c.ex_shifter;
         auto [T, To] = lookup_pair<double>(&c.exp_pairs, (low_words(N) & c.j_mask) << 4);

@@ -119,8 +119,8 @@ template <class Front, const auto& Block, auto& Rare> struct pownf_in_pairs : ke
         auto [fh, fl] = Front::exponent_pair(c, n);
         auto H = fh * Lh;
         auto t = fma(Ll, fh, fma(Lh, fl, fl * Ll));
-        lane_bits<W> special = pattern_out_of_range(ax, c.x_bias, c.x_limit) | ((signed_bits(H) & c.f_abs) > c.h_limit_f) |
-                       Front::out_of_domain(x, n);
+        lane_bits<W> special = pattern_out_of_range(ax, c.x_bias, c.x_limit) |
+                               ((signed_bits(H) & c.f_abs) > c.h_limit_f) | Front::out_of_domain(x, n);
 
         auto a = fma(H, c.f_log2e, c.f_shifter);
         auto af = a - c.f_shifter;
@@ -149,8 +149,8 @@ template <class Front, auto& Rare> struct pownf_by_polynomials : kernel<with_int
     static ORVANE_INLINE auto vector_path(const spown_native_block& c, lanes<float, W> x, lanes<int32_t, W> n) {
         auto ax = x & c.f_abs;
         auto P = Front::template exponent<float>(n) * float_ln(c, ax);
-        lane_bits<W> special = pattern_out_of_range(ax, c.x_bias, c.x_limit) | ((signed_bits(P) & c.f_abs) > c.h_limit_f) |
-                       Front::out_of_domain(x, n);
+        lane_bits<W> special = pattern_out_of_range(ax, c.x_bias, c.x_limit) |
+                               ((signed_bits(P) & c.f_abs) > c.h_limit_f) | Front::out_of_domain(x, n);
         return answer{float_exp(c, P) | sign_of_odd(x, n), special};
     }
 };

@@ -70,7 +70,7 @@ struct powrf_in_pairs : kernel<two_arguments<float>> {
         auto P = y * H;
         auto perr = fma(y, H, -P);
         lane_bits<W> special = low | not_less_equal(x, lanes<float, W>(c.x_ceiling)) |
-                       not_less_equal(P & c.abs_mask, lanes<float, W>(c.p_ceiling));
+                               not_less_equal(P & c.abs_mask, lanes<float, W>(c.p_ceiling));
         auto s = fma(L, y, P);
         auto N = s + c.ex_shifter;
         auto Nf = N - c.ex_shifter;
