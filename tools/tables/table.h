@@ -100,6 +100,7 @@ std::vector<table> exp_tables();
 std::vector<table> log_tables();
 std::vector<table> divroot_tables();
 std::vector<table> gamma_tables();
+std::vector<table> pow_tables();
 
 std::vector<table> all_tables();
 

@@ -1,0 +1,46 @@
+// powf: x^y.
+#include "pow/pow_kernels.h"
+
+namespace orvane {
+
+ORVANE_SLOW_PATH(__orvane_spow_cout_rare, const float* x, const float* y, float* result);
+
+// The reduced double kernel on widened lanes, with a shorter polynomial. Overflow and underflow come from the
+// narrowing.
+struct powf_in_double : kernel<two_arguments<float>> {
+    static constexpr auto& block = __orvane_spow_data;
+    static constexpr auto& slow_path = __orvane_spow_cout_rare;
+
+    template <int W> struct widened {
+        lanes<float, W> y;
+        lane_bits<W> special;
+    };
+    template <int W>
+    static ORVANE_INLINE widened<W> power(const spow_block& c, lanes<float, W> x, lanes<float, W> y) {
+        auto P = convert<double>(y) * reduced_ln<3>(c, convert<double>(x));
+        lane_bits<W> beyond = high_word_exceeds(P, c.word_abs2, c.p_word_limit2);
+        return {convert<float>(chord_exp(c, P)), beyond};
+    }
+    template <int W>
+    static ORVANE_INLINE auto vector_path(const spow_block& c, lanes<float, W> x, lanes<float, W> y) {
+        lane_bits<W> special = pattern_out_of_range(x, c.x_bias, c.x_limit);
+        if constexpr (W == 8) {
+            auto low = power(c, low_half(x), low_half(y));
+            low.y = finished(low.y);
+            auto high = power(c, high_half(x), high_half(y));
+            special.v |= low.special.v | high.special.v << 4;
+            return answer{join(low.y, high.y), special};
+        } else {
+            auto p = power(c, x, y);
+            special.v |= p.special.v;
+            return answer{p.y, special};
+        }
+    }
+};
+using powf_fast = powf_by_polynomials<__orvane_spow_rm_data, __orvane_spow_cout_rare>;
+
+ORVANE_EXPORT(powf, , powf_in_double)
+ORVANE_EXPORT(powf, _rm, powf_fast)
+ORVANE_TWIN(powf, _native, powf, _rm)
+
+} // namespace orvane
