@@ -387,6 +387,174 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* sinh: Hyperbolic sine. Infinities on overflow; zeros come back as they are. */
+orvane_double2 __orvane_l9_sinh1(orvane_double2 x);
+orvane_double2 __orvane_l9_sinh2(orvane_double2 x);
+orvane_double4 __orvane_l9_sinh3(orvane_double4 x);
+orvane_double4 __orvane_l9_sinh4(orvane_double4 x);
+void __orvane_l9_sinh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sinh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sinh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_sinh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_sinh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_sinh4_native(orvane_double4 x);
+void __orvane_l9_sinh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sinh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* sinhf: Hyperbolic sine. Infinities on overflow; zeros come back as they are. */
+orvane_float4 __orvane_l9_sinhf1(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf2(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf3(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf4(orvane_float4 x);
+orvane_float8 __orvane_l9_sinhf8(orvane_float8 x);
+void __orvane_l9_sinhf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinhf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_sinhf8_native(orvane_float8 x);
+void __orvane_l9_sinhf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cosh: Hyperbolic cosine. +Inf of infinities and on overflow. */
+orvane_double2 __orvane_l9_cosh1(orvane_double2 x);
+orvane_double2 __orvane_l9_cosh2(orvane_double2 x);
+orvane_double4 __orvane_l9_cosh3(orvane_double4 x);
+orvane_double4 __orvane_l9_cosh4(orvane_double4 x);
+void __orvane_l9_cosh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cosh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cosh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_cosh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_cosh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_cosh4_native(orvane_double4 x);
+void __orvane_l9_cosh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cosh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* coshf: Hyperbolic cosine. +Inf of infinities and on overflow. */
+orvane_float4 __orvane_l9_coshf1(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf2(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf3(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf4(orvane_float4 x);
+orvane_float8 __orvane_l9_coshf8(orvane_float8 x);
+void __orvane_l9_coshf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_coshf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_coshf8_native(orvane_float8 x);
+void __orvane_l9_coshf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* tanh: Hyperbolic tangent, -1 to 1. Zeros come back as they are. */
+orvane_double2 __orvane_l9_tanh1(orvane_double2 x);
+orvane_double2 __orvane_l9_tanh2(orvane_double2 x);
+orvane_double4 __orvane_l9_tanh3(orvane_double4 x);
+orvane_double4 __orvane_l9_tanh4(orvane_double4 x);
+void __orvane_l9_tanh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tanh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tanh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_tanh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_tanh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_tanh4_native(orvane_double4 x);
+void __orvane_l9_tanh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tanh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tanhf: Hyperbolic tangent, -1 to 1. Zeros come back as they are. */
+orvane_float4 __orvane_l9_tanhf1(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf2(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf3(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf4(orvane_float4 x);
+orvane_float8 __orvane_l9_tanhf8(orvane_float8 x);
+void __orvane_l9_tanhf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanhf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_tanhf8_native(orvane_float8 x);
+void __orvane_l9_tanhf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* asinh: Inverse hyperbolic sine. Zeros and infinities come back as they are. */
+orvane_double2 __orvane_l9_asinh1(orvane_double2 x);
+orvane_double2 __orvane_l9_asinh2(orvane_double2 x);
+orvane_double4 __orvane_l9_asinh3(orvane_double4 x);
+orvane_double4 __orvane_l9_asinh4(orvane_double4 x);
+void __orvane_l9_asinh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asinh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_asinh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_asinh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_asinh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_asinh4_native(orvane_double4 x);
+void __orvane_l9_asinh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asinh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* asinhf: Inverse hyperbolic sine. Zeros and infinities come back as they are. */
+orvane_float4 __orvane_l9_asinhf1(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf2(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf3(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf4(orvane_float4 x);
+orvane_float8 __orvane_l9_asinhf8(orvane_float8 x);
+void __orvane_l9_asinhf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_asinhf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_asinhf8_native(orvane_float8 x);
+void __orvane_l9_asinhf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* acosh: Inverse hyperbolic cosine, 0 or greater. NaN below 1; +Inf of +Inf. */
+orvane_double2 __orvane_l9_acosh1(orvane_double2 x);
+orvane_double2 __orvane_l9_acosh2(orvane_double2 x);
+orvane_double4 __orvane_l9_acosh3(orvane_double4 x);
+orvane_double4 __orvane_l9_acosh4(orvane_double4 x);
+void __orvane_l9_acosh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acosh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_acosh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_acosh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_acosh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_acosh4_native(orvane_double4 x);
+void __orvane_l9_acosh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acosh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* acoshf: Inverse hyperbolic cosine, 0 or greater. NaN below 1; +Inf of +Inf. */
+orvane_float4 __orvane_l9_acoshf1(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf2(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf3(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf4(orvane_float4 x);
+orvane_float8 __orvane_l9_acoshf8(orvane_float8 x);
+void __orvane_l9_acoshf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_acoshf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_acoshf8_native(orvane_float8 x);
+void __orvane_l9_acoshf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* atanh: Inverse hyperbolic tangent. Infinities at -1 and 1, NaN beyond them. */
+orvane_double2 __orvane_l9_atanh1(orvane_double2 x);
+orvane_double2 __orvane_l9_atanh2(orvane_double2 x);
+orvane_double4 __orvane_l9_atanh3(orvane_double4 x);
+orvane_double4 __orvane_l9_atanh4(orvane_double4 x);
+void __orvane_l9_atanh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atanh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_atanh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_atanh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_atanh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_atanh4_native(orvane_double4 x);
+void __orvane_l9_atanh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atanh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* atanhf: Inverse hyperbolic tangent. Infinities at -1 and 1, NaN beyond them. */
+orvane_float4 __orvane_l9_atanhf1(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf2(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf3(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf4(orvane_float4 x);
+orvane_float8 __orvane_l9_atanhf8(orvane_float8 x);
+void __orvane_l9_atanhf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atanhf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_atanhf8_native(orvane_float8 x);
+void __orvane_l9_atanhf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
