@@ -518,11 +518,12 @@ template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(con
 // A row of a table for each lane, found by its byte offset: the addresses once, then entries or pairs of them, whose
 // numbers count entries of T.
 template <int W> struct row_addresses {
-    const char* row[W];
+    static constexpr int rows = W == 3 ? 4 : W; // the spare lane has one too
+    const char* row[rows];
 
     template <class I> ORVANE_INLINE row_addresses(const void* base, lanes<I, W> offset) {
         const auto offsets = detail::in_register(offset.v);
-        each<W>([&](auto i) ORVANE_LAMBDA { row[i] = (const char*)base + offsets[+i]; });
+        each<rows>([&](auto i) ORVANE_LAMBDA { row[i] = (const char*)base + offsets[+i]; });
     }
     template <class T> ORVANE_INLINE lanes<T, W> entry(int number) const {
         return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return detail::load<T>(at<T>(i, number)); });
@@ -532,10 +533,7 @@ template <int W> struct row_addresses {
     }
 
 private:
-    // A register has one more lane than a 3-wide vector, whose content does not matter.
-    template <class T> ORVANE_INLINE const char* at(int i, int number) const {
-        return row[i < W ? i : 0] + sizeof(T) * number;
-    }
+    template <class T> ORVANE_INLINE const char* at(int i, int number) const { return row[i] + sizeof(T) * number; }
 };
 
 } // namespace orvane
