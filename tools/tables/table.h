@@ -58,6 +58,8 @@ ORVANE_REAL_FUNCTION(sin, mpfr_sin)
 ORVANE_REAL_FUNCTION(cos, mpfr_cos)
 ORVANE_REAL_FUNCTION(atan, mpfr_atan)
 ORVANE_REAL_FUNCTION(asin, mpfr_asin)
+ORVANE_REAL_FUNCTION(sinh, mpfr_sinh)
+ORVANE_REAL_FUNCTION(tanh, mpfr_tanh)
 ORVANE_REAL_FUNCTION(erf, mpfr_erf)
 ORVANE_REAL_FUNCTION(erfc, mpfr_erfc)
 #undef ORVANE_REAL_FUNCTION
@@ -101,6 +103,7 @@ std::vector<table> log_tables();
 std::vector<table> divroot_tables();
 std::vector<table> gamma_tables();
 std::vector<table> pow_tables();
+std::vector<table> hyperbolic_tables();
 
 std::vector<table> all_tables();
 
