@@ -387,6 +387,118 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* asin: Arc sine, in radians, -pi/2 to pi/2. NaN outside [-1, 1]; a zero keeps its sign. */
+orvane_double2 __orvane_l9_asin1(orvane_double2 x);
+orvane_double2 __orvane_l9_asin2(orvane_double2 x);
+orvane_double4 __orvane_l9_asin3(orvane_double4 x);
+orvane_double4 __orvane_l9_asin4(orvane_double4 x);
+void __orvane_l9_asin8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asin16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_asin1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_asin2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_asin3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_asin4_native(orvane_double4 x);
+void __orvane_l9_asin8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asin16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* asinf: Arc sine, in radians, -pi/2 to pi/2. NaN outside [-1, 1]; a zero keeps its sign. */
+orvane_float4 __orvane_l9_asinf1(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf2(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf3(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf4(orvane_float4 x);
+orvane_float8 __orvane_l9_asinf8(orvane_float8 x);
+void __orvane_l9_asinf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_asinf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_asinf8_native(orvane_float8 x);
+void __orvane_l9_asinf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* acos: Arc cosine, in radians, 0 to pi. NaN outside [-1, 1]. */
+orvane_double2 __orvane_l9_acos1(orvane_double2 x);
+orvane_double2 __orvane_l9_acos2(orvane_double2 x);
+orvane_double4 __orvane_l9_acos3(orvane_double4 x);
+orvane_double4 __orvane_l9_acos4(orvane_double4 x);
+void __orvane_l9_acos8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acos16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_acos1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_acos2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_acos3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_acos4_native(orvane_double4 x);
+void __orvane_l9_acos8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acos16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* acosf: Arc cosine, in radians, 0 to pi. NaN outside [-1, 1]. */
+orvane_float4 __orvane_l9_acosf1(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf2(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf3(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf4(orvane_float4 x);
+orvane_float8 __orvane_l9_acosf8(orvane_float8 x);
+void __orvane_l9_acosf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_acosf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_acosf8_native(orvane_float8 x);
+void __orvane_l9_acosf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* asinpi: Arc sine in half turns: asin(x) / pi, -1/2 to 1/2. NaN outside [-1, 1]. */
+orvane_double2 __orvane_l9_asinpi1(orvane_double2 x);
+orvane_double2 __orvane_l9_asinpi2(orvane_double2 x);
+orvane_double4 __orvane_l9_asinpi3(orvane_double4 x);
+orvane_double4 __orvane_l9_asinpi4(orvane_double4 x);
+void __orvane_l9_asinpi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asinpi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_asinpi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_asinpi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_asinpi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_asinpi4_native(orvane_double4 x);
+void __orvane_l9_asinpi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asinpi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* asinpif: Arc sine in half turns: asin(x) / pi, -1/2 to 1/2. NaN outside [-1, 1]. */
+orvane_float4 __orvane_l9_asinpif1(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif2(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif3(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif4(orvane_float4 x);
+orvane_float8 __orvane_l9_asinpif8(orvane_float8 x);
+void __orvane_l9_asinpif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_asinpif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_asinpif8_native(orvane_float8 x);
+void __orvane_l9_asinpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* acospi: Arc cosine in half turns: acos(x) / pi, 0 to 1. NaN outside [-1, 1]. */
+orvane_double2 __orvane_l9_acospi1(orvane_double2 x);
+orvane_double2 __orvane_l9_acospi2(orvane_double2 x);
+orvane_double4 __orvane_l9_acospi3(orvane_double4 x);
+orvane_double4 __orvane_l9_acospi4(orvane_double4 x);
+void __orvane_l9_acospi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acospi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_acospi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_acospi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_acospi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_acospi4_native(orvane_double4 x);
+void __orvane_l9_acospi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acospi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* acospif: Arc cosine in half turns: acos(x) / pi, 0 to 1. NaN outside [-1, 1]. */
+orvane_float4 __orvane_l9_acospif1(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif2(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif3(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif4(orvane_float4 x);
+orvane_float8 __orvane_l9_acospif8(orvane_float8 x);
+void __orvane_l9_acospif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_acospif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_acospif8_native(orvane_float8 x);
+void __orvane_l9_acospif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
