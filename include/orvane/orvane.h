@@ -499,6 +499,122 @@ orvane_float4 __orvane_l9_acospif4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_acospif8_native(orvane_float8 x);
 void __orvane_l9_acospif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* atan: Arc tangent, in radians, -pi/2 to pi/2; these two at the infinities. */
+orvane_double2 __orvane_l9_atan1(orvane_double2 x);
+orvane_double2 __orvane_l9_atan2(orvane_double2 x);
+orvane_double4 __orvane_l9_atan3(orvane_double4 x);
+orvane_double4 __orvane_l9_atan4(orvane_double4 x);
+void __orvane_l9_atan8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atan16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_atan1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_atan2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_atan3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_atan4_native(orvane_double4 x);
+void __orvane_l9_atan8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atan16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* atanf: Arc tangent, in radians, -pi/2 to pi/2; these two at the infinities. */
+orvane_float4 __orvane_l9_atanf1(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf2(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf3(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf4(orvane_float4 x);
+orvane_float8 __orvane_l9_atanf8(orvane_float8 x);
+void __orvane_l9_atanf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atanf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_atanf8_native(orvane_float8 x);
+void __orvane_l9_atanf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* atanpi: Arc tangent in half turns: atan(x) / pi, -1/2 to 1/2. */
+orvane_double2 __orvane_l9_atanpi1(orvane_double2 x);
+orvane_double2 __orvane_l9_atanpi2(orvane_double2 x);
+orvane_double4 __orvane_l9_atanpi3(orvane_double4 x);
+orvane_double4 __orvane_l9_atanpi4(orvane_double4 x);
+void __orvane_l9_atanpi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atanpi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_atanpi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_atanpi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_atanpi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_atanpi4_native(orvane_double4 x);
+void __orvane_l9_atanpi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atanpi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* atanpif: Arc tangent in half turns: atan(x) / pi, -1/2 to 1/2. */
+orvane_float4 __orvane_l9_atanpif1(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif2(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif3(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif4(orvane_float4 x);
+orvane_float8 __orvane_l9_atanpif8(orvane_float8 x);
+void __orvane_l9_atanpif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atanpif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_atanpif8_native(orvane_float8 x);
+void __orvane_l9_atanpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* atan2: Angle of the point (y, x), first argument y, in radians, -pi to pi, with all signs of zeros and infinities told apart. */
+orvane_double2 __orvane_l9_atan21(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_atan22(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_atan23(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_atan24(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_atan28(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_atan216 { double x[16]; double y[16]; };
+void* __orvane_l9_atan216(void* result, struct orvane_args_atan216 arguments);
+orvane_double2 __orvane_l9_atan21_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_atan22_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_atan23_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_atan24_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_atan28_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_atan216_native { double x[16]; double y[16]; };
+void* __orvane_l9_atan216_native(void* result, struct orvane_args_atan216_native arguments);
+
+/* atan2f: Angle of the point (y, x), first argument y, in radians, -pi to pi, with all signs of zeros and infinities told apart. */
+orvane_float4 __orvane_l9_atan2f1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_atan2f8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_atan2f16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atan2f1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_atan2f8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_atan2f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* atan2pi: Angle of the point (y, x) in half turns: atan2(y, x) / pi, -1 to 1. */
+orvane_double2 __orvane_l9_atan2pi1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_atan2pi2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_atan2pi3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_atan2pi4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_atan2pi8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_atan2pi16 { double x[16]; double y[16]; };
+void* __orvane_l9_atan2pi16(void* result, struct orvane_args_atan2pi16 arguments);
+orvane_double2 __orvane_l9_atan2pi1_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_atan2pi2_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_atan2pi3_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_atan2pi4_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_atan2pi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_atan2pi16_native { double x[16]; double y[16]; };
+void* __orvane_l9_atan2pi16_native(void* result, struct orvane_args_atan2pi16_native arguments);
+
+/* atan2pif: Angle of the point (y, x) in half turns: atan2(y, x) / pi, -1 to 1. */
+orvane_float4 __orvane_l9_atan2pif1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_atan2pif8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_atan2pif16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atan2pif1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_atan2pif8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_atan2pif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
