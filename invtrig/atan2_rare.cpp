@@ -107,8 +107,8 @@ template <class T> double atan2_magnitude(double y, double x) {
     return magnitude(lo + S);
 }
 
-// y / (pi x) for a quotient below 2^-53, rounded once, also as a subnormal: y, and the quotient once more, are carried
-// up by 2^82 where low parts would underflow.
+// y / (pi x) for a quotient below 2^-53: y, and the quotient once more, are carried up by 2^82 where low parts would
+// underflow.
 double small_quotient_over_pi(double y, double x) {
     const auto& table = *__datan2pi_g_CoutTab;
     hi_lo<double> ip = {table.ip_hi, table.ip_lo};

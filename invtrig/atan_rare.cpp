@@ -6,15 +6,11 @@ namespace orvane {
 
 namespace {
 
-constexpr double up = 0x1p82, down = 0x1p-82; // so that the low parts of a product do not underflow
-
-// x / pi for |x| < 2^-53, rounded once, also as a subnormal.
+// x / pi for |x| < 2^-53: carried up by 2^82, so that the low parts of the product do not underflow. A subnormal result
+// is rounded there a second time.
 double atanpi_small(double ax) {
-    const auto [b, M] = multiply(split((ax * (1.0 + ax)) * up), inv_pi_parts);
-    const double v = b + M;
-    if (v >= 0x1p-1020) return v * down;
-    const auto [bh, bl] = split(b);
-    return bh * down + (M + bl) * down;
+    const auto [h, l] = multiply(split((ax * (1.0 + ax)) * 0x1p82), inv_pi_parts);
+    return (h + l) * 0x1p-82;
 }
 
 } // namespace
