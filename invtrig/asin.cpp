@@ -206,10 +206,9 @@ template <bool Native, bool Cosine, class V> ORVANE_INLINE V two_roots(const aut
 }
 
 template <class V> ORVANE_INLINE V polynomial(const coefficients<double, 12>& c, V t) {
-    V A = fma(V(c[0]), t, c[1]), B = fma(V(c[2]), t, c[3]), t2 = t * t;
-    V C = fma(V(c[4]), t, c[5]), D = fma(V(c[6]), t, c[7]);
-    B = fma(t2, A, B);
-    D = fma(t2, C, D);
+    V t2 = t * t;
+    V B = fma(t2, fma(V(c[0]), t, c[1]), fma(V(c[2]), t, c[3]));
+    V D = fma(t2, fma(V(c[4]), t, c[5]), fma(V(c[6]), t, c[7]));
     V E = fma(t2 * t2, B, D);
     V G = fma(t2, E, fma(V(c[8]), t, c[9]));
     return fma(t2, G, fma(V(c[10]), t, c[11]));
@@ -246,20 +245,23 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
     static constexpr auto& slow_path = Rare;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
-        V ax = x & c.sign_or_abs, sx = andnot(V(c.sign_or_abs), x);
+        V ax = x & c.sign_or_abs;
+        const lane_bits<W> special = is_special(c, ax);
         auto big = not_less(ax, V(c.half));
         V w = fma(-ax, V(c.half), V(c.half));
         V t = min(ax * ax, w);
         V R = select(big, two_roots<Native, false>(c, w), ax);
-        if constexpr (requires { c.pi_half; }) {
-            V y = keep(big, V(c.pi_half)) + fma_in_order(R, Q_of<Native>(c, t), R);
-            return answer{y ^ sx, V(c.domain) < ax};
-        } else {
-            V offset = keep(big, V(c.half)), y;
-            if constexpr (Native) y = fma_in_order(R, J_of<Native>(c, t), offset);
-            else y = fma_in_order(Q_of<Native>(c, t), R, fma(R, V(c.inv_pi), offset));
-            return answer{y ^ sx, V(c.domain) <= ax};
-        }
+        V y;
+        if constexpr (requires { c.pi_half; })
+            y = keep(big, V(c.pi_half)) + fma_in_order(R, Q_of<Native>(c, t), R);
+        else if constexpr (Native) y = fma_in_order(R, J_of<Native>(c, t), keep(big, V(c.half)));
+        else y = fma_in_order(Q_of<Native>(c, t), R, fma(R, V(c.inv_pi), keep(big, V(c.half))));
+        return answer{y ^ andnot(V(c.sign_or_abs), x), special};
+    }
+    // The pi forms leave +-1 to the slow path as well.
+    template <class V> static ORVANE_INLINE auto is_special(const auto& c, V ax) {
+        if constexpr (requires { c.pi_half; }) return V(c.domain) < ax;
+        else return V(c.domain) <= ax;
     }
 };
 
@@ -269,21 +271,24 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_cosine
     static constexpr auto& slow_path = Rare;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
-        V nx = x | c.sign_or_abs, sx = x & c.sign_or_abs; // -|x|
+        V nx = x | c.sign_or_abs; // -|x|
+        const lane_bits<W> special = is_special(c, nx);
         V w = fma(nx, V(c.half), V(c.half));
         V t = min(nx * nx, w);
-        auto big = not_less(t, w);            // w <= x^2 just where |x| >= 1/2
-        auto below = big & (x < t);           // t <= 1/4, so x is negative
-        V R = select(big, two_roots<Native, true>(c, w), nx) ^ sx;
+        auto big = not_less(t, w);  // w <= x^2 just where |x| >= 1/2
+        auto below = big & (x < t); // t <= 1/4, so x is negative
+        V R = select(big, two_roots<Native, true>(c, w), nx) ^ (x & c.sign_or_abs);
         if constexpr (requires { c.pi_half; }) {
             V offset = andnot(V(as<T>(big)), V(c.pi_half)) + keep(below, V(c.pi_full));
-            V y = offset + fma_in_order(R, Q_of<Native>(c, t), R);
-            return answer{y, not_less_equal(V(c.domain), nx)};
+            return answer{offset + fma_in_order(R, Q_of<Native>(c, t), R), special};
         } else {
             V offset = andnot(V(as<T>(big)), V(c.half)) + keep(below, V(c.unit));
-            V y = fma_in_order(R, J_of<Native>(c, t), offset);
-            return answer{y, nx <= V(c.domain)};
+            return answer{fma_in_order(R, J_of<Native>(c, t), offset), special};
         }
+    }
+    template <class V> static ORVANE_INLINE auto is_special(const auto& c, V nx) {
+        if constexpr (requires { c.pi_half; }) return not_less_equal(V(c.domain), nx);
+        else return nx <= V(c.domain);
     }
 };
 
