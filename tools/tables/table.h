@@ -104,6 +104,7 @@ std::vector<table> divroot_tables();
 std::vector<table> gamma_tables();
 std::vector<table> pow_tables();
 std::vector<table> hyperbolic_tables();
+std::vector<table> invtrig_tables();
 
 std::vector<table> all_tables();
 
