@@ -387,6 +387,90 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* sinpi: Sine of x half turns: sin(pi x). NaN of infinities. */
+orvane_double2 __orvane_l9_sinpi1(orvane_double2 x);
+orvane_double2 __orvane_l9_sinpi2(orvane_double2 x);
+orvane_double4 __orvane_l9_sinpi3(orvane_double4 x);
+orvane_double4 __orvane_l9_sinpi4(orvane_double4 x);
+void __orvane_l9_sinpi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sinpi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sinpi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_sinpi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_sinpi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_sinpi4_native(orvane_double4 x);
+void __orvane_l9_sinpi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sinpi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* sinpif: Sine of x half turns: sin(pi x). NaN of infinities. */
+orvane_float4 __orvane_l9_sinpif1(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif2(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif3(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif4(orvane_float4 x);
+orvane_float8 __orvane_l9_sinpif8(orvane_float8 x);
+void __orvane_l9_sinpif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinpif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_sinpif8_native(orvane_float8 x);
+void __orvane_l9_sinpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cospi: Cosine of x half turns: cos(pi x). NaN of infinities. */
+orvane_double2 __orvane_l9_cospi1(orvane_double2 x);
+orvane_double2 __orvane_l9_cospi2(orvane_double2 x);
+orvane_double4 __orvane_l9_cospi3(orvane_double4 x);
+orvane_double4 __orvane_l9_cospi4(orvane_double4 x);
+void __orvane_l9_cospi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cospi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cospi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_cospi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_cospi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_cospi4_native(orvane_double4 x);
+void __orvane_l9_cospi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cospi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cospif: Cosine of x half turns: cos(pi x). NaN of infinities. */
+orvane_float4 __orvane_l9_cospif1(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif2(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif3(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif4(orvane_float4 x);
+orvane_float8 __orvane_l9_cospif8(orvane_float8 x);
+void __orvane_l9_cospif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cospif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_cospif8_native(orvane_float8 x);
+void __orvane_l9_cospif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* tanpi: Tangent of x half turns: tan(pi x). */
+orvane_double2 __orvane_l9_tanpi1(orvane_double2 x);
+orvane_double2 __orvane_l9_tanpi2(orvane_double2 x);
+orvane_double4 __orvane_l9_tanpi3(orvane_double4 x);
+orvane_double4 __orvane_l9_tanpi4(orvane_double4 x);
+void __orvane_l9_tanpi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tanpi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tanpi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_tanpi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_tanpi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_tanpi4_native(orvane_double4 x);
+void __orvane_l9_tanpi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tanpi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tanpif: Tangent of x half turns: tan(pi x). */
+orvane_float4 __orvane_l9_tanpif1(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif2(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif3(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif4(orvane_float4 x);
+orvane_float8 __orvane_l9_tanpif8(orvane_float8 x);
+void __orvane_l9_tanpif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanpif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_tanpif8_native(orvane_float8 x);
+void __orvane_l9_tanpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
