@@ -56,6 +56,7 @@ ORVANE_REAL_FUNCTION(sqrt, mpfr_sqrt)
 ORVANE_REAL_FUNCTION(cbrt, mpfr_cbrt)
 ORVANE_REAL_FUNCTION(sin, mpfr_sin)
 ORVANE_REAL_FUNCTION(cos, mpfr_cos)
+ORVANE_REAL_FUNCTION(tan, mpfr_tan)
 ORVANE_REAL_FUNCTION(atan, mpfr_atan)
 ORVANE_REAL_FUNCTION(asin, mpfr_asin)
 ORVANE_REAL_FUNCTION(erf, mpfr_erf)
@@ -95,6 +96,7 @@ struct table {
 // The tables of each folder.
 std::vector<table> exp_tables();
 std::vector<table> log_tables();
+std::vector<table> tan_tables();
 
 std::vector<table> all_tables();
 
