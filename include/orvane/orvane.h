@@ -387,6 +387,58 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* tan: Tangent of x radians, for every finite x. NaN of infinities. */
+orvane_double2 __orvane_l9_tan1(orvane_double2 x);
+orvane_double2 __orvane_l9_tan2(orvane_double2 x);
+orvane_double4 __orvane_l9_tan3(orvane_double4 x);
+orvane_double4 __orvane_l9_tan4(orvane_double4 x);
+void __orvane_l9_tan8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tan16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tan1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_tan2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_tan3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_tan4_rm(orvane_double4 x);
+void __orvane_l9_tan8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tan16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tan1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_tan2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_tan3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_tan4_native(orvane_double4 x);
+void __orvane_l9_tan8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tan16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tan1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_tan2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_tan3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_tan4_half(orvane_double4 x);
+void __orvane_l9_tan8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tan16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tanf: Tangent of x radians, for every finite x. NaN of infinities. */
+orvane_float4 __orvane_l9_tanf1(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf2(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf3(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf4(orvane_float4 x);
+orvane_float8 __orvane_l9_tanf8(orvane_float8 x);
+void __orvane_l9_tanf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_tanf8_rm(orvane_float8 x);
+void __orvane_l9_tanf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_tanf8_native(orvane_float8 x);
+void __orvane_l9_tanf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_tanf8_half(orvane_float8 x);
+void __orvane_l9_tanf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
 /* sinpi: Sine of x half turns: sin(pi x). NaN of infinities. */
 orvane_double2 __orvane_l9_sinpi1(orvane_double2 x);
 orvane_double2 __orvane_l9_sinpi2(orvane_double2 x);

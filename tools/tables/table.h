@@ -96,6 +96,7 @@ struct table {
 // The tables of each folder.
 std::vector<table> exp_tables();
 std::vector<table> log_tables();
+std::vector<table> reduction_tables();
 std::vector<table> tan_tables();
 
 std::vector<table> all_tables();
