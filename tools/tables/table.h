@@ -56,6 +56,7 @@ ORVANE_REAL_FUNCTION(sqrt, mpfr_sqrt)
 ORVANE_REAL_FUNCTION(cbrt, mpfr_cbrt)
 ORVANE_REAL_FUNCTION(sin, mpfr_sin)
 ORVANE_REAL_FUNCTION(cos, mpfr_cos)
+ORVANE_REAL_FUNCTION(tan, mpfr_tan)
 ORVANE_REAL_FUNCTION(atan, mpfr_atan)
 ORVANE_REAL_FUNCTION(asin, mpfr_asin)
 ORVANE_REAL_FUNCTION(sinh, mpfr_sinh)
@@ -105,6 +106,9 @@ std::vector<table> gamma_tables();
 std::vector<table> pow_tables();
 std::vector<table> hyperbolic_tables();
 std::vector<table> invtrig_tables();
+std::vector<table> reduction_tables();
+std::vector<table> angle_tables();
+std::vector<table> tan_tables();
 
 std::vector<table> all_tables();
 
