@@ -332,6 +332,11 @@ template <class V> ORVANE_INLINE V finished(V a) {
     return a;
 }
 
+// What is done with `later` from here on comes after all that gives `done`.
+template <class A, class B> ORVANE_INLINE void in_turn(A& done, B& later) {
+    asm("" : "+x"(done.v), "+x"(later.v));
+}
+
 // The same bits under another type of the same size.
 template <class U, class T, int W> ORVANE_INLINE lanes<U, W> as(lanes<T, W> a) {
     static_assert(sizeof(U) == sizeof(T));

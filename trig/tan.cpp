@@ -150,7 +150,8 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> ordinary_tan(const auto& c, 
 
     auto [N, D] = quotient_of(c, r);
     auto odd = signed_bits(t) << (8 * sizeof(T) - 1);
-    auto v = divided(c, select(odd, D, N), select(odd, N, D));
+    auto n_or_d = select(odd, D, N);
+    auto v = divided(c, n_or_d, n_or_d ^ (N ^ D));
     return v ^ andnot(lanes<T, W>(c.abs_mask), as<T>(odd) ^ x);
 }
 

@@ -101,14 +101,16 @@ template <class T, const auto& Block, auto& Rare> struct tanpi_kernel : kernel<o
         // The last place of t is 1/2: its low bits count the halves taken out, the lowest the quarter turns.
         auto t = a + c.shifter;
         auto f = a - (t - c.shifter);
-        auto odd = signed_bits(t) << (8 * sizeof(T) - 1);
+        auto odd = [&]() ORVANE_LAMBDA { return signed_bits(t) << (8 * sizeof(T) - 1); };
         auto [N, D] = tangent_quotient(c, f);
-        auto v = select(odd, D, N) / select(odd, N, D);
+        auto n_or_d = select(odd(), D, N);
+        auto v = n_or_d / (n_or_d ^ (N ^ D));
 
         // An odd half turns the quotient over and negates it. Where the quotient is 0 or infinite, and its sign +, it
         // takes that of (-1)^floor(a).
+        in_turn(v, t);
         auto next = signed_bits(t) << (8 * sizeof(T) - 2);
-        auto s = andnot(lanes<T, W>(c.abs_mask), as<T>(select(f != lanes<T, W>(T(0)), odd, next)) ^ x);
+        auto s = andnot(lanes<T, W>(c.abs_mask), as<T>(select(f != lanes<T, W>(T(0)), odd(), next)) ^ x);
         return v ^ s;
     }
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
