@@ -286,6 +286,12 @@ template <class T, int W> struct lanes {
         else return from(_mm_mul_epu32((__m128i)a.v, (__m128i)b.v));
     }
 
+    // The product of 32-bit lanes below 2^15: one operation, where the whole product takes two.
+    friend ORVANE_INLINE lanes multiply_short(lanes a, lanes b) requires(sizeof(T) == 4 && !is_floating<T>) {
+        if constexpr (is_wide) return from(_mm256_madd_epi16((__m256i)a.v, (__m256i)b.v));
+        else return from(_mm_madd_epi16((__m128i)a.v, (__m128i)b.v));
+    }
+
     // Bit i is the sign of lane i, of all lanes of the register: above W are the copies or the spare lane.
     ORVANE_INLINE unsigned signs() const {
         if constexpr (sizeof(T) == 4 && is_wide) return (unsigned)_mm256_movemask_ps((__m256)v);
@@ -428,6 +434,17 @@ template <int W, class M, class L>
 ORVANE_INLINE lanes<int64_t, W> high_word_exceeds(lanes<double, W> x, const M& mask, const L& limit) {
     const auto words = (words_in_place<int32_t>(x) & mask) > limit;
     return (typename lanes<int64_t, W>::raw)words.v;
+}
+
+// What tests on the fields of floating lanes look at, 32-bit words in their places: a double is its high word, and what
+// its low word gives does not count, since the sign of a lane is what marks it.
+template <class T, int W> ORVANE_INLINE auto words(lanes<T, W> x) {
+    if constexpr (sizeof(T) == 8) return words_in_place<int32_t>(x);
+    else return signed_bits(x);
+}
+// A comparison of such words as lanes of T.
+template <class T, int W, class M> ORVANE_INLINE lanes<int_of<T>, W> marked(M m) {
+    return (typename lanes<int_of<T>, W>::raw)m.v;
 }
 
 // ((highest * x + next) * x + ...) + lowest, every step fused.
