@@ -515,6 +515,137 @@ orvane_float4 __orvane_l9_modff4(float* out, orvane_float4 x);
 orvane_float8 __orvane_l9_modff8(float* out, orvane_float8 x);
 void __orvane_l9_modff16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
 
+/* frexp: Significand of x in [1/2, 1); the exponent goes to the out-lane. Zeros, infinities and NaN come back. */
+orvane_double2 __orvane_l9_frexp1(int32_t* out, orvane_double2 x);
+orvane_double2 __orvane_l9_frexp2(int32_t* out, orvane_double2 x);
+orvane_double4 __orvane_l9_frexp3(int32_t* out, orvane_double4 x);
+orvane_double4 __orvane_l9_frexp4(int32_t* out, orvane_double4 x);
+void __orvane_l9_frexp8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_frexp16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* frexpf: Significand of x in [1/2, 1); the exponent goes to the out-lane. Zeros, infinities and NaN come back. */
+orvane_float4 __orvane_l9_frexpf1(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_frexpf2(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_frexpf3(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_frexpf4(int32_t* out, orvane_float4 x);
+orvane_float8 __orvane_l9_frexpf8(int32_t* out, orvane_float8 x);
+void __orvane_l9_frexpf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
+/* ldexp: x times 2 to the power n, rounded once. Infinities, zeros and NaN come back. */
+orvane_double2 __orvane_l9_ldexp1(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_ldexp2(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_ldexp3(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_ldexp4(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_ldexp8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_ldexp16 { double x[16]; int32_t y[16]; };
+void* __orvane_l9_ldexp16(void* result, struct orvane_args_ldexp16 arguments);
+
+/* ldexpf: x times 2 to the power n, rounded once. Infinities, zeros and NaN come back. */
+orvane_float4 __orvane_l9_ldexpf1(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_ldexpf2(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_ldexpf3(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_ldexpf4(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_ldexpf8(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_ldexpf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* ilogb: Exponent of x as an integer. */
+int32_t __orvane_l9_ilogb1(orvane_double2 x);
+orvane_int4 __orvane_l9_ilogb2(orvane_double2 x);
+orvane_int4 __orvane_l9_ilogb3(orvane_double4 x);
+orvane_int4 __orvane_l9_ilogb4(orvane_double4 x);
+orvane_int8 __orvane_l9_ilogb8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_ilogb16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* ilogbf: Exponent of x as an integer. */
+int32_t __orvane_l9_ilogbf1(orvane_float4 x);
+orvane_int4 __orvane_l9_ilogbf2(orvane_float4 x);
+orvane_int4 __orvane_l9_ilogbf3(orvane_float4 x);
+orvane_int4 __orvane_l9_ilogbf4(orvane_float4 x);
+orvane_int8 __orvane_l9_ilogbf8(orvane_float8 x);
+void __orvane_l9_ilogbf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* logb: Exponent of x as a floating value. -Inf of zeros, +Inf of infinities. */
+orvane_double2 __orvane_l9_logb1(orvane_double2 x);
+orvane_double2 __orvane_l9_logb2(orvane_double2 x);
+orvane_double4 __orvane_l9_logb3(orvane_double4 x);
+orvane_double4 __orvane_l9_logb4(orvane_double4 x);
+void __orvane_l9_logb8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_logb16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* logbf: Exponent of x as a floating value. -Inf of zeros, +Inf of infinities. */
+orvane_float4 __orvane_l9_logbf1(orvane_float4 x);
+orvane_float4 __orvane_l9_logbf2(orvane_float4 x);
+orvane_float4 __orvane_l9_logbf3(orvane_float4 x);
+orvane_float4 __orvane_l9_logbf4(orvane_float4 x);
+orvane_float8 __orvane_l9_logbf8(orvane_float8 x);
+void __orvane_l9_logbf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* nextafter: The next number after x in the direction of y. */
+orvane_double2 __orvane_l9_nextafter1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_nextafter2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_nextafter3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_nextafter4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_nextafter8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_nextafter16 { double x[16]; double y[16]; };
+void* __orvane_l9_nextafter16(void* result, struct orvane_args_nextafter16 arguments);
+
+/* nextafterf: The next number after x in the direction of y. */
+orvane_float4 __orvane_l9_nextafterf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_nextafterf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_nextafterf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_nextafterf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_nextafterf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_nextafterf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* nan: A quiet NaN with the given bits as payload. */
+orvane_double2 __orvane_l9_nan1(uint64_t x);
+orvane_double2 __orvane_l9_nan2(orvane_ulong2 x);
+orvane_double4 __orvane_l9_nan3(orvane_ulong4 x);
+orvane_double4 __orvane_l9_nan4(orvane_ulong4 x);
+void __orvane_l9_nan8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_nan16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* nanf: A quiet NaN with the given bits as payload. */
+orvane_float4 __orvane_l9_nanf1(uint32_t x);
+orvane_float4 __orvane_l9_nanf2(orvane_uint4 x);
+orvane_float4 __orvane_l9_nanf3(orvane_uint4 x);
+orvane_float4 __orvane_l9_nanf4(orvane_uint4 x);
+orvane_float8 __orvane_l9_nanf8(orvane_uint8 x);
+void __orvane_l9_nanf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* copysign: The magnitude of x with the sign of y, NaN included. */
+orvane_double2 __orvane_l9_copysign1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_copysign2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_copysign3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_copysign4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_copysign8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_copysign16 { double x[16]; double y[16]; };
+void* __orvane_l9_copysign16(void* result, struct orvane_args_copysign16 arguments);
+
+/* copysignf: The magnitude of x with the sign of y, NaN included. */
+orvane_float4 __orvane_l9_copysignf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_copysignf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_copysignf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_copysignf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_copysignf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_copysignf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* fabs: Magnitude of x: the sign bit cleared, of a NaN too. */
+orvane_double2 __orvane_l9_fabs1(orvane_double2 x);
+orvane_double2 __orvane_l9_fabs2(orvane_double2 x);
+orvane_double4 __orvane_l9_fabs3(orvane_double4 x);
+orvane_double4 __orvane_l9_fabs4(orvane_double4 x);
+void __orvane_l9_fabs8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_fabs16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* fabsf: Magnitude of x: the sign bit cleared, of a NaN too. */
+orvane_float4 __orvane_l9_fabsf1(orvane_float4 x);
+orvane_float4 __orvane_l9_fabsf2(orvane_float4 x);
+orvane_float4 __orvane_l9_fabsf3(orvane_float4 x);
+orvane_float4 __orvane_l9_fabsf4(orvane_float4 x);
+orvane_float8 __orvane_l9_fabsf8(orvane_float8 x);
+void __orvane_l9_fabsf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
 /* fmin: The smaller of x and y; y on a tie. Of a NaN and a number the number. */
 orvane_double2 __orvane_l9_fmin1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_fmin2(orvane_double2 x, orvane_double2 y);
@@ -633,6 +764,57 @@ orvane_float4 __orvane_l9_fmaf4_rm(orvane_float4 x, orvane_float4 y, orvane_floa
 orvane_float8 __orvane_l9_fmaf8_rm(orvane_float8 x, orvane_float8 y, orvane_float8 z);
 struct orvane_args_fmaf16_rm { float x[16]; float y[16]; float z[16]; };
 void* __orvane_l9_fmaf16_rm(void* result, struct orvane_args_fmaf16_rm arguments);
+
+/* fmod: Remainder of x / y truncated, exact, with the sign of x. NaN for infinite x or y = 0. */
+orvane_double2 __orvane_l9_fmod1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_fmod2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_fmod3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_fmod4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_fmod8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_fmod16 { double x[16]; double y[16]; };
+void* __orvane_l9_fmod16(void* result, struct orvane_args_fmod16 arguments);
+
+/* fmodf: Remainder of x / y truncated, exact, with the sign of x. NaN for infinite x or y = 0. */
+orvane_float4 __orvane_l9_fmodf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmodf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmodf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmodf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_fmodf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_fmodf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* remainder: Remainder of x / y with the quotient rounded to nearest, exact. NaN for infinite x or y = 0. */
+orvane_double2 __orvane_l9_remainder1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_remainder2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_remainder3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_remainder4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_remainder8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_remainder16 { double x[16]; double y[16]; };
+void* __orvane_l9_remainder16(void* result, struct orvane_args_remainder16 arguments);
+
+/* remainderf: Remainder of x / y with the quotient rounded to nearest, exact. NaN for infinite x or y = 0. */
+orvane_float4 __orvane_l9_remainderf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remainderf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remainderf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remainderf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_remainderf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_remainderf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* remquo: remainder, with sign and low bits of the quotient in the out-lane. */
+orvane_double2 __orvane_l9_remquo1(int32_t* out, orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_remquo2(int32_t* out, orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_remquo3(int32_t* out, orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_remquo4(int32_t* out, orvane_double4 x, orvane_double4 y);
+void __orvane_l9_remquo8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, at rdi */
+struct orvane_args_remquo16 { double x[16]; double y[16]; };
+void* __orvane_l9_remquo16(void* result, int32_t* out, struct orvane_args_remquo16 arguments);
+
+/* remquof: remainder, with sign and low bits of the quotient in the out-lane. */
+orvane_float4 __orvane_l9_remquof1(int32_t* out, orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remquof2(int32_t* out, orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remquof3(int32_t* out, orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remquof4(int32_t* out, orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_remquof8(int32_t* out, orvane_float8 x, orvane_float8 y);
+void __orvane_l9_remquof16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, at rdi */
 
 /* idiv: Quotient truncated toward zero. 0x80000000 for b = 0 and for -2^31 / -1. */
 int32_t __orvane_l9_idiv1(int32_t x, int32_t y);
