@@ -387,6 +387,62 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* erf: Error function, -1 to 1; these two at the infinities. */
+orvane_double2 __orvane_l9_erf1(orvane_double2 x);
+orvane_double2 __orvane_l9_erf2(orvane_double2 x);
+orvane_double4 __orvane_l9_erf3(orvane_double4 x);
+orvane_double4 __orvane_l9_erf4(orvane_double4 x);
+void __orvane_l9_erf8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_erf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_erf1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_erf2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_erf3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_erf4_native(orvane_double4 x);
+void __orvane_l9_erf8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_erf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* erff: Error function, -1 to 1; these two at the infinities. */
+orvane_float4 __orvane_l9_erff1(orvane_float4 x);
+orvane_float4 __orvane_l9_erff2(orvane_float4 x);
+orvane_float4 __orvane_l9_erff3(orvane_float4 x);
+orvane_float4 __orvane_l9_erff4(orvane_float4 x);
+orvane_float8 __orvane_l9_erff8(orvane_float8 x);
+void __orvane_l9_erff16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_erff1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erff2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erff3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erff4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_erff8_native(orvane_float8 x);
+void __orvane_l9_erff16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* erfc: Complementary error function 1 - erf(x), 0 to 2. */
+orvane_double2 __orvane_l9_erfc1(orvane_double2 x);
+orvane_double2 __orvane_l9_erfc2(orvane_double2 x);
+orvane_double4 __orvane_l9_erfc3(orvane_double4 x);
+orvane_double4 __orvane_l9_erfc4(orvane_double4 x);
+void __orvane_l9_erfc8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_erfc16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_erfc1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_erfc2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_erfc3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_erfc4_native(orvane_double4 x);
+void __orvane_l9_erfc8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_erfc16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* erfcf: Complementary error function 1 - erf(x), 0 to 2. */
+orvane_float4 __orvane_l9_erfcf1(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf2(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf3(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf4(orvane_float4 x);
+orvane_float8 __orvane_l9_erfcf8(orvane_float8 x);
+void __orvane_l9_erfcf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_erfcf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_erfcf8_native(orvane_float8 x);
+void __orvane_l9_erfcf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);

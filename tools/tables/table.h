@@ -95,6 +95,7 @@ struct table {
 // The tables of each folder.
 std::vector<table> exp_tables();
 std::vector<table> log_tables();
+std::vector<table> erf_tables();
 
 std::vector<table> all_tables();
 
