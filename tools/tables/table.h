@@ -109,6 +109,7 @@ std::vector<table> invtrig_tables();
 std::vector<table> reduction_tables();
 std::vector<table> angle_tables();
 std::vector<table> tan_tables();
+std::vector<table> erf_tables();
 
 std::vector<table> all_tables();
 
