@@ -565,7 +565,7 @@ template <int W> struct row_addresses {
         each<rows>([&](auto i) ORVANE_LAMBDA { row[i] = (const char*)base + offsets[+i]; });
     }
     template <class T> ORVANE_INLINE lanes<T, W> entry(int number) const {
-        return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return detail::load<T>(at<T>(i, number)); });
+        return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return at<T>(i, number); });
     }
     template <class T> ORVANE_INLINE lane_pair<T, W> pair(int number) const {
         return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return at<T>(i, number); });
