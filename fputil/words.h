@@ -1,20 +1,10 @@
-// Tests on the fields of floating lanes that the utilities share, on 32-bit words in their places: a double is its
-// high word, and what its low word gives is never looked at, since the sign of a lane is what marks it.
+// What the kernels of the utilities share.
 #pragma once
 
 #include "frame/lanes.h"
 #include "frame/slots.h"
 
 namespace orvane {
-
-template <class T, int W> ORVANE_INLINE auto words(lanes<T, W> x) {
-    if constexpr (sizeof(T) == 8) return words_in_place<int32_t>(x);
-    else return signed_bits(x);
-}
-// A comparison of words as special lanes of T.
-template <class T, int W, class M> ORVANE_INLINE lanes<int_of<T>, W> marked(M m) {
-    return (typename lanes<int_of<T>, W>::raw)m.v;
-}
 
 // Constants that stand in no block of their own.
 template <class T> struct fputil_pool;

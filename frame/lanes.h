@@ -286,6 +286,12 @@ template <class T, int W> struct lanes {
         else return from(_mm_mul_epu32((__m128i)a.v, (__m128i)b.v));
     }
 
+    // The product of 32-bit lanes below 2^15: one operation, where the whole product takes two.
+    friend ORVANE_INLINE lanes multiply_short(lanes a, lanes b) requires(sizeof(T) == 4 && !is_floating<T>) {
+        if constexpr (is_wide) return from(_mm256_madd_epi16((__m256i)a.v, (__m256i)b.v));
+        else return from(_mm_madd_epi16((__m128i)a.v, (__m128i)b.v));
+    }
+
     // Bit i is the sign of lane i, of all lanes of the register: above W are the copies or the spare lane.
     ORVANE_INLINE unsigned signs() const {
         if constexpr (sizeof(T) == 4 && is_wide) return (unsigned)_mm256_movemask_ps((__m256)v);
@@ -430,6 +436,17 @@ ORVANE_INLINE lanes<int64_t, W> high_word_exceeds(lanes<double, W> x, const M& m
     return (typename lanes<int64_t, W>::raw)words.v;
 }
 
+// What tests on the fields of floating lanes look at, 32-bit words in their places: a double is its high word, and what
+// its low word gives does not count, since the sign of a lane is what marks it.
+template <class T, int W> ORVANE_INLINE auto words(lanes<T, W> x) {
+    if constexpr (sizeof(T) == 8) return words_in_place<int32_t>(x);
+    else return signed_bits(x);
+}
+// A comparison of such words as lanes of T.
+template <class T, int W, class M> ORVANE_INLINE lanes<int_of<T>, W> marked(M m) {
+    return (typename lanes<int_of<T>, W>::raw)m.v;
+}
+
 // ((highest * x + next) * x + ...) + lowest, every step fused.
 template <class T, int W, class A, class... B>
 ORVANE_INLINE lanes<T, W> horner(lanes<T, W> x, const A& highest, const B&... lower) {
@@ -449,44 +466,48 @@ template <class F, class A, int W, class... B> ORVANE_INLINE auto by_halves(F f,
 
 // Table lookups from memory, a scalar load a live lane, assembled in a register; the index counts entries.
 namespace detail {
-template <class T, int W, class Entry> ORVANE_INLINE lanes<T, W> assemble(Entry entry) {
-    using V = lanes<T, W>;
-    if constexpr (W == 1) return V(entry(0));
-    else if constexpr (W == 2 && V::capacity == 4) {
-        T e0 = entry(0), e1 = entry(1);
-        return typename V::raw{e0, e1, e0, e1};
-    } else return [&]<int... I>(std::integer_sequence<int, I...>) ORVANE_LAMBDA {
-            return V(typename V::raw{entry(I)...});
-        }
-    (std::make_integer_sequence<int, V::capacity>{});
-}
-// Two doubles a register half, the second loaded into place.
-template <int W> ORVANE_INLINE lanes<double, W> assemble_doubles(auto at) {
-    auto two = [&](int i) ORVANE_LAMBDA { return _mm_loadh_pd(_mm_load_sd(at(i)), at(i + 1)); };
-    if constexpr (W == 2) return (typename lanes<double, W>::raw)two(0);
-    else return (typename lanes<double, W>::raw)_mm256_set_m128d(two(2), two(0));
-}
 template <class T> ORVANE_INLINE T load(const void* at) {
     T x;
     __builtin_memcpy(&x, at, sizeof x);
     return x;
 }
+// Each entry goes from memory to its lane: left to itself the compiler takes some through further registers.
+template <class T, int W, class At> ORVANE_INLINE lanes<T, W> assemble(At at) {
+    using V = lanes<T, W>;
+    using raw = typename V::raw;
+    if constexpr (W == 1) return V(load<T>(at(0)));
+    else if constexpr (sizeof(T) == 8) {
+        auto two = [&](int i) ORVANE_LAMBDA {
+            return _mm_loadh_pd(_mm_load_sd((const double*)at(i)), (const double*)at(i + 1));
+        };
+        const __m128d low = two(0);
+        if constexpr (V::is_wide) return V((raw)_mm256_set_m128d(two(2), low));
+        else return V((raw)low);
+    } else {
+        auto word = [&](int i) ORVANE_LAMBDA { return load<int32_t>(at(i)); };
+        auto two = [&](int i) ORVANE_LAMBDA { return _mm_insert_epi32(_mm_cvtsi32_si128(word(i)), word(i + 1), 1); };
+        auto four = [&](int i) ORVANE_LAMBDA {
+            return _mm_insert_epi32(_mm_insert_epi32(two(i), word(i + 2), 2), word(i + 3), 3);
+        };
+        if constexpr (W == 2) {
+            const __m128i both = two(0);
+            return V((raw)_mm_unpacklo_epi64(both, both));
+        } else {
+            const __m128i low = four(0);
+            if constexpr (V::is_wide) return V((raw)_mm256_set_m128i(four(4), low));
+            else return V((raw)low);
+        }
+    }
+}
 } // namespace detail
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup(const T* table, lanes<I, W> index) {
     const auto at = detail::in_register(index.v); // elements taken out of a variable would keep it in memory
-    if constexpr (std::is_same_v<T, double> && W > 1)
-        return detail::assemble_doubles<W>([&](int i) ORVANE_LAMBDA { return table + at[i]; });
-    else return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return table[at[i]]; });
+    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return table + at[i]; });
 }
 // The same at byte offsets from a base, for indices that come scaled out of the bits of a sum.
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup_bytes(const void* base, lanes<I, W> offset) {
     const auto at = detail::in_register(offset.v);
-    if constexpr (std::is_same_v<T, double> && W > 1)
-        return detail::assemble_doubles<W>([&](int i)
-                                               ORVANE_LAMBDA { return (const double*)((const char*)base + at[i]); });
-    else
-        return detail::assemble<T, W>([&](int i)
-                                          ORVANE_LAMBDA { return detail::load<T>((const char*)base + at[i]); });
+    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return (const char*)base + at[i]; });
 }
 // Pairs (first, second) that stand side by side: one load of both a lane.
 template <class T, int W> struct lane_pair { lanes<T, W> first, second; };

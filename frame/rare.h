@@ -29,6 +29,22 @@ constexpr double f64(uint64_t pattern) { return std::bit_cast<double>(pattern); 
 constexpr double power_of_two(uint64_t biased) { return f64((biased & 0x7FF) << 52); }
 constexpr float power_of_two_f32(uint32_t biased) { return f32((biased & 0xFF) << 23); }
 
+// Fields of a value, and the NaN that is no result.
+template <class T> constexpr int fraction_bits = sizeof(T) == 8 ? 52 : 23;
+template <class T> constexpr int exponent_bias = sizeof(T) == 8 ? 1023 : 127;
+template <class T> constexpr int top_exponent = sizeof(T) == 8 ? 0x7FF : 0xFF; // of infinities and NaN
+template <class T> constexpr auto pattern_of_one = bits(T(1));
+template <class T> constexpr T invalid = sizeof(T) == 8 ? T(f64(0x7FF8000000000000)) : T(f32(0x7FC00000)); // positive
+
+template <class T> int biased_exponent(T x) {
+    return int(bits(x) >> fraction_bits<T>) & top_exponent<T>;
+}
+// The significand with exponent 0: in [1, 2).
+template <class T> T significand(T x) {
+    const auto fraction = bits(x) & ((decltype(bits(x))(1) << fraction_bits<T>)-1);
+    return std::bit_cast<T>(fraction | pattern_of_one<T>);
+}
+
 // Two values whose exact sum stands for one number.
 template <class T> struct hi_lo { T hi, lo; };
 

@@ -5,23 +5,9 @@
 
 namespace orvane {
 
-template <class T> constexpr int fraction_bits = sizeof(T) == 8 ? 52 : 23;
-template <class T> constexpr int exponent_bias = sizeof(T) == 8 ? 1023 : 127;
-template <class T> constexpr auto pattern_of_one = bits(T(1));
-template <class T> constexpr T invalid = sizeof(T) == 8 ? T(f64(0x7FF8000000000000)) : T(f32(0x7FC00000)); // positive
-
-template <class T> int biased_exponent(T x) {
-    return int(bits(x) >> fraction_bits<T>) & (sizeof(T) == 8 ? 0x7FF : 0xFF);
-}
-// The significand with exponent 0: in [1, 2).
-template <class T> T significand(T x) {
-    const auto fraction = bits(x) & ((decltype(bits(x))(1) << fraction_bits<T>)-1);
-    return std::bit_cast<T>(fraction | pattern_of_one<T>);
-}
-
 // What is no number to take a logarithm of: true, with result and status, for NaN, infinities, zeros and negatives.
 template <class T> bool no_logarithm(T x, T* result, int* status) {
-    if (biased_exponent(x) == (sizeof(T) == 8 ? 0x7FF : 0xFF)) {
+    if (biased_exponent(x) == top_exponent<T>) {
         const bool negative = x == -T(__builtin_inf());
         *result = negative ? invalid<T> : x * x; // +Inf, or the NaN quieted
         *status = negative ? domain_error : ordinary;

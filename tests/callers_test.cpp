@@ -44,6 +44,22 @@ __attribute__((noinline, target("avx2"))) bool live_values(const void* f, const 
 #undef COMPARE
 }
 
+// As many values on the x87 stack as it holds, across calls whose slow paths compute there.
+__attribute__((noinline)) bool live_x87_values(const void* gamma, const void* log_gamma, const double* from) {
+#define EIGHT(X) X(0) X(1) X(2) X(3) X(4) X(5) X(6) X(7)
+#define LOAD(i) const long double v##i = 1.0L / from[i];
+    EIGHT(LOAD)
+    const double y = call<double>(gamma, vec<double, 2>{{5, -0.5}})[0];
+    const double z = call<double>(log_gamma, vec<double, 2>{{2, 20.5}})[0];
+    bool same = y == 24 && z == 0;
+#define COMPARE(i) same &= v##i == 1.0L / from[i];
+    EIGHT(COMPARE)
+    return same;
+#undef EIGHT
+#undef LOAD
+#undef COMPARE
+}
+
 // A result in the integer register, where nothing else asks for registers.
 __attribute__((noinline)) int quotient(const void* f, int a, int b) {
     return call<int32_t>(f, vec<int32_t, 1>{{a}}, vec<int32_t, 1>{{b}})[0];
@@ -65,6 +81,9 @@ TEST(Caller, KeepsWhatTheCompilerKeeps) {
     EXPECT_EQ(exponential(eight, vec<float, 8>{{NAN}})[7], 1);
     EXPECT_EQ(below_the_stack_pointer(one, 1000), 29);
     EXPECT_TRUE(live_values(eight, squares, n));
+    const double odd[] = {3, 5, 7, 9, 11, 13, 15, 17};
+    EXPECT_TRUE(live_x87_values(library_under_test().address("__orvane_l9_tgamma2"),
+                                library_under_test().address("__orvane_l9_lgamma2"), odd));
 }
 
 // The address of an export under the type that orvane.h declares it with.

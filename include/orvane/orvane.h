@@ -533,6 +533,328 @@ orvane_float4 __orvane_l9_rootnf4_native(orvane_float4 x, orvane_int4 y);
 orvane_float8 __orvane_l9_rootnf8_native(orvane_float8 x, orvane_int8 y);
 void __orvane_l9_rootnf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
+/* div: Quotient x / y, with the infinities, zeros and NaN of IEEE division. */
+orvane_double2 __orvane_l9_div1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_div2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_div3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_div4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_div8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_div16 { double x[16]; double y[16]; };
+void* __orvane_l9_div16(void* result, struct orvane_args_div16 arguments);
+orvane_double2 __orvane_l9_div1_rm(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_div2_rm(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_div3_rm(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_div4_rm(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_div8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_div16_rm { double x[16]; double y[16]; };
+void* __orvane_l9_div16_rm(void* result, struct orvane_args_div16_rm arguments);
+orvane_double2 __orvane_l9_div1_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_div2_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_div3_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_div4_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_div8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_div16_native { double x[16]; double y[16]; };
+void* __orvane_l9_div16_native(void* result, struct orvane_args_div16_native arguments);
+orvane_double2 __orvane_l9_div1_half(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_div2_half(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_div3_half(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_div4_half(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_div8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_div16_half { double x[16]; double y[16]; };
+void* __orvane_l9_div16_half(void* result, struct orvane_args_div16_half arguments);
+
+/* divf: Quotient x / y, with the infinities, zeros and NaN of IEEE division. */
+orvane_float4 __orvane_l9_divf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_divf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_divf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_divf1_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf2_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf3_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf4_rm(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_divf8_rm(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_divf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_divf1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_divf8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_divf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_divf1_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf2_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf3_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_divf4_half(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_divf8_half(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_divf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* inv: Reciprocal 1 / x. Infinities of zeros with their sign, and the other way round. */
+orvane_double2 __orvane_l9_inv1(orvane_double2 x);
+orvane_double2 __orvane_l9_inv2(orvane_double2 x);
+orvane_double4 __orvane_l9_inv3(orvane_double4 x);
+orvane_double4 __orvane_l9_inv4(orvane_double4 x);
+void __orvane_l9_inv8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_inv16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_inv1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_inv2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_inv3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_inv4_rm(orvane_double4 x);
+void __orvane_l9_inv8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_inv16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_inv1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_inv2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_inv3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_inv4_native(orvane_double4 x);
+void __orvane_l9_inv8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_inv16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_inv1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_inv2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_inv3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_inv4_half(orvane_double4 x);
+void __orvane_l9_inv8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_inv16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* invf: Reciprocal 1 / x. Infinities of zeros with their sign, and the other way round. */
+orvane_float4 __orvane_l9_invf1(orvane_float4 x);
+orvane_float4 __orvane_l9_invf2(orvane_float4 x);
+orvane_float4 __orvane_l9_invf3(orvane_float4 x);
+orvane_float4 __orvane_l9_invf4(orvane_float4 x);
+orvane_float8 __orvane_l9_invf8(orvane_float8 x);
+void __orvane_l9_invf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_invf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_invf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_invf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_invf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_invf8_rm(orvane_float8 x);
+void __orvane_l9_invf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_invf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_invf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_invf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_invf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_invf8_native(orvane_float8 x);
+void __orvane_l9_invf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_invf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_invf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_invf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_invf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_invf8_half(orvane_float8 x);
+void __orvane_l9_invf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* sqrt: Square root. NaN of negative numbers; zeros come back as they are. */
+orvane_double2 __orvane_l9_sqrt1(orvane_double2 x);
+orvane_double2 __orvane_l9_sqrt2(orvane_double2 x);
+orvane_double4 __orvane_l9_sqrt3(orvane_double4 x);
+orvane_double4 __orvane_l9_sqrt4(orvane_double4 x);
+void __orvane_l9_sqrt8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sqrt16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sqrt1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_sqrt2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_sqrt3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_sqrt4_native(orvane_double4 x);
+void __orvane_l9_sqrt8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sqrt16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sqrt1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_sqrt2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_sqrt3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_sqrt4_half(orvane_double4 x);
+void __orvane_l9_sqrt8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sqrt16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* sqrtf: Square root. NaN of negative numbers; zeros come back as they are. */
+orvane_float4 __orvane_l9_sqrtf1(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf2(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf3(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf4(orvane_float4 x);
+orvane_float8 __orvane_l9_sqrtf8(orvane_float8 x);
+void __orvane_l9_sqrtf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sqrtf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_sqrtf8_native(orvane_float8 x);
+void __orvane_l9_sqrtf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sqrtf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sqrtf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_sqrtf8_half(orvane_float8 x);
+void __orvane_l9_sqrtf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* rsqrt: Reciprocal square root 1 / sqrt(x). NaN of negative numbers, infinities of zeros. */
+orvane_double2 __orvane_l9_rsqrt1(orvane_double2 x);
+orvane_double2 __orvane_l9_rsqrt2(orvane_double2 x);
+orvane_double4 __orvane_l9_rsqrt3(orvane_double4 x);
+orvane_double4 __orvane_l9_rsqrt4(orvane_double4 x);
+void __orvane_l9_rsqrt8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_rsqrt16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_rsqrt1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_rsqrt2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_rsqrt3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_rsqrt4_native(orvane_double4 x);
+void __orvane_l9_rsqrt8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_rsqrt16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_rsqrt1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_rsqrt2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_rsqrt3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_rsqrt4_half(orvane_double4 x);
+void __orvane_l9_rsqrt8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_rsqrt16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* rsqrtf: Reciprocal square root 1 / sqrt(x). NaN of negative numbers, infinities of zeros. */
+orvane_float4 __orvane_l9_rsqrtf1(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf2(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf3(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf4(orvane_float4 x);
+orvane_float8 __orvane_l9_rsqrtf8(orvane_float8 x);
+void __orvane_l9_rsqrtf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_rsqrtf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_rsqrtf8_native(orvane_float8 x);
+void __orvane_l9_rsqrtf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_rsqrtf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_rsqrtf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_rsqrtf8_half(orvane_float8 x);
+void __orvane_l9_rsqrtf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cbrt: Cube root, of negative numbers too. Zeros and infinities come back as they are. */
+orvane_double2 __orvane_l9_cbrt1(orvane_double2 x);
+orvane_double2 __orvane_l9_cbrt2(orvane_double2 x);
+orvane_double4 __orvane_l9_cbrt3(orvane_double4 x);
+orvane_double4 __orvane_l9_cbrt4(orvane_double4 x);
+void __orvane_l9_cbrt8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cbrt16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cbrt1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_cbrt2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_cbrt3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_cbrt4_native(orvane_double4 x);
+void __orvane_l9_cbrt8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cbrt16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cbrtf: Cube root, of negative numbers too. Zeros and infinities come back as they are. */
+orvane_float4 __orvane_l9_cbrtf1(orvane_float4 x);
+orvane_float4 __orvane_l9_cbrtf2(orvane_float4 x);
+orvane_float4 __orvane_l9_cbrtf3(orvane_float4 x);
+orvane_float4 __orvane_l9_cbrtf4(orvane_float4 x);
+orvane_float8 __orvane_l9_cbrtf8(orvane_float8 x);
+void __orvane_l9_cbrtf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cbrtf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cbrtf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cbrtf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cbrtf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_cbrtf8_native(orvane_float8 x);
+void __orvane_l9_cbrtf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* rcbrt: Reciprocal cube root 1 / cbrt(x). */
+orvane_double2 __orvane_l9_rcbrt1(orvane_double2 x);
+orvane_double2 __orvane_l9_rcbrt2(orvane_double2 x);
+orvane_double4 __orvane_l9_rcbrt3(orvane_double4 x);
+orvane_double4 __orvane_l9_rcbrt4(orvane_double4 x);
+void __orvane_l9_rcbrt8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_rcbrt16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_rcbrt1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_rcbrt2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_rcbrt3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_rcbrt4_native(orvane_double4 x);
+void __orvane_l9_rcbrt8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_rcbrt16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* rcbrtf: Reciprocal cube root 1 / cbrt(x). */
+orvane_float4 __orvane_l9_rcbrtf1(orvane_float4 x);
+orvane_float4 __orvane_l9_rcbrtf2(orvane_float4 x);
+orvane_float4 __orvane_l9_rcbrtf3(orvane_float4 x);
+orvane_float4 __orvane_l9_rcbrtf4(orvane_float4 x);
+orvane_float8 __orvane_l9_rcbrtf8(orvane_float8 x);
+void __orvane_l9_rcbrtf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_rcbrtf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_rcbrtf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_rcbrtf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_rcbrtf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_rcbrtf8_native(orvane_float8 x);
+void __orvane_l9_rcbrtf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* hypot: sqrt(x^2 + y^2) without overflow in between. +Inf if an argument is infinite. */
+orvane_double2 __orvane_l9_hypot1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_hypot2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_hypot3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_hypot4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_hypot8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_hypot16 { double x[16]; double y[16]; };
+void* __orvane_l9_hypot16(void* result, struct orvane_args_hypot16 arguments);
+orvane_double2 __orvane_l9_hypot1_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_hypot2_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_hypot3_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_hypot4_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_hypot8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_hypot16_native { double x[16]; double y[16]; };
+void* __orvane_l9_hypot16_native(void* result, struct orvane_args_hypot16_native arguments);
+
+/* hypotf: sqrt(x^2 + y^2) without overflow in between. +Inf if an argument is infinite. */
+orvane_float4 __orvane_l9_hypotf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_hypotf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_hypotf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_hypotf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_hypotf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_hypotf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_hypotf1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_hypotf2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_hypotf3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_hypotf4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_hypotf8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_hypotf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* tgamma: Gamma function. NaN at negative integers, infinities of zeros. */
+orvane_double2 __orvane_l9_tgamma1(orvane_double2 x);
+orvane_double2 __orvane_l9_tgamma2(orvane_double2 x);
+orvane_double4 __orvane_l9_tgamma3(orvane_double4 x);
+orvane_double4 __orvane_l9_tgamma4(orvane_double4 x);
+void __orvane_l9_tgamma8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tgamma16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tgammaf: Gamma function. NaN at negative integers, infinities of zeros. */
+orvane_float4 __orvane_l9_tgammaf1(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf2(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf3(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf4(orvane_float4 x);
+orvane_float8 __orvane_l9_tgammaf8(orvane_float8 x);
+void __orvane_l9_tgammaf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* lgamma: Logarithm of the magnitude of the gamma function. +Inf at 0 and at negative integers. */
+orvane_double2 __orvane_l9_lgamma1(orvane_double2 x);
+orvane_double2 __orvane_l9_lgamma2(orvane_double2 x);
+orvane_double4 __orvane_l9_lgamma3(orvane_double4 x);
+orvane_double4 __orvane_l9_lgamma4(orvane_double4 x);
+void __orvane_l9_lgamma8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_lgamma16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* lgammaf: Logarithm of the magnitude of the gamma function. +Inf at 0 and at negative integers. */
+orvane_float4 __orvane_l9_lgammaf1(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf2(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf3(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf4(orvane_float4 x);
+orvane_float8 __orvane_l9_lgammaf8(orvane_float8 x);
+void __orvane_l9_lgammaf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* lgammar: lgamma, with the sign of the gamma function in the out-lane. */
+orvane_double2 __orvane_l9_lgammar1(int32_t* out, orvane_double2 x);
+orvane_double2 __orvane_l9_lgammar2(int32_t* out, orvane_double2 x);
+orvane_double4 __orvane_l9_lgammar3(int32_t* out, orvane_double4 x);
+orvane_double4 __orvane_l9_lgammar4(int32_t* out, orvane_double4 x);
+void __orvane_l9_lgammar8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_lgammar16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* lgammarf: lgamma, with the sign of the gamma function in the out-lane. */
+orvane_float4 __orvane_l9_lgammarf1(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf2(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf3(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf4(int32_t* out, orvane_float4 x);
+orvane_float8 __orvane_l9_lgammarf8(int32_t* out, orvane_float8 x);
+void __orvane_l9_lgammarf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);

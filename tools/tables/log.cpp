@@ -76,9 +76,9 @@ template <class F> void each_v(double first, double middle, double last, F f) {
         f(v);
 }
 
-real reciprocal_256(int i) { return to_multiple(real(1) / (real(1) + (real(i) + real(0.5)) / 256), -11); }
-
 } // namespace
+
+real reciprocal_256(int i) { return to_multiple(real(1) / (real(1) + (real(i) + real(0.5)) / 256), -11); }
 
 std::vector<table> log_tables() {
     return {

@@ -87,6 +87,9 @@ struct writer {
     void end_row(); // ends a line of the file
 };
 
+// 1 / (1 + (i + 1/2) / 256) to a multiple of 2^-11: what logarithms of slow paths multiply by.
+real reciprocal_256(int i);
+
 struct table {
     std::string path; // below the root of the repo
     std::function<void(writer&)> rule;
@@ -96,6 +99,8 @@ struct table {
 std::vector<table> exp_tables();
 std::vector<table> log_tables();
 std::vector<table> pow_tables();
+std::vector<table> divroot_tables();
+std::vector<table> gamma_tables();
 
 std::vector<table> all_tables();
 

@@ -1,0 +1,325 @@
+// The slow paths of lgamma and lgammar, which run on every lane, in extended precision.
+#include "special/lgamma_rare.h"
+#include "log/log_tables.h"
+
+#include <initializer_list>
+
+namespace orvane {
+
+namespace {
+
+// (hi, lo): -ln of the reciprocals 1 / (1 + (i + 1/2) / 256), hi with at most 40 significant bits.
+constexpr hi_lo<double> __libm_logl_table_256[256] = {
+#include "special/tables/logl_256.inc"
+};
+
+// An extended value by its fields.
+struct extended_fields {
+    uint64_t significand; // with its leading one
+    uint16_t exponent;
+};
+extended_fields fields(extended y) {
+    extended_fields f;
+    __builtin_memcpy(&f, &y, 10);
+    return f;
+}
+extended with_exponent_0(extended_fields f) {
+    extended y = 0;
+    f.exponent = 16383;
+    __builtin_memcpy(&y, &f, 10);
+    return y;
+}
+
+// ln y for a positive y.
+[[gnu::noinline]] extended own_logl(extended y) {
+    const extended_fields f = fields(y);
+    const uint32_t w = uint32_t(f.exponent) << 16 | uint32_t(f.significand >> 48);
+    if (w >= 0x3FFEFFFF && w <= 0x3FFF8000) { // 1 and what is within 2^-15 of it
+        constexpr extended ll_n0 = 0xCCCACCD25F7EF9AAp-66L, ll_n1 = 0xAAAAAAAAAAAC1552p-65L,
+                           ll_n2 = -0xFFFFFFFFC004AE8Ap-66L;
+        if (y == 1) return 0;
+        const extended d = y + -1;
+        const extended z = d * d;
+        const extended s = ((ll_n0 * z + ll_n1) * z) * d;
+        const extended t = (ll_n2 * z + -0.5L) * z;
+        return (s + t) + d;
+    }
+    if (w >= 0x3FFEF800 && w <= 0x3FFF8800) {
+        // d - d^2 / 2 + d^3 / 3 with d = a + b, a short enough for an exact square, the head of 1/3 short too
+        constexpr float ll_split = 0x1.8p52f, ll_third = 0x1.554p-2f;
+        constexpr extended ll_p[] = {0xDA3EB73F2509BDB7p-68L, 0x9D86222D7A648AC4p-67L, 0xBA2E9A1CE811D305p-67L,
+                                     0xE38E38DDBC1754F0p-67L, 0x9249249249A4A0C4p-66L, 0xCCCCCCCCCCCCC236p-66L,
+                                     0xAAAAAAAAAAAAADC6p-77L};
+        constexpr extended ll_q[] = {-0x9033450A5189D630p-67L, -0xAAAC2BCE12338B18p-67L, -0xCCCCCC8103D7E06Ep-67L,
+                                     -0xFFFFFFFFFF0A3715p-67L, -0xAAAAAAAAAAAB8F55p-66L, -0xFFFFFFFFFFFFFFEAp-66L,
+                                     -0x9F28EA2D2DF7E646p-138L};
+        const extended d = y + -1;
+        const extended a = (d + d * ll_split) - d * ll_split;
+        const extended b = d - a;
+        const extended mm = d * b + a * b;
+        const extended aa = a * a;
+        const extended z = aa + mm;
+        const extended P = horner_down(ll_p, z);
+        const extended Q = horner_down(ll_q, z);
+        const extended R0 = d * Q + z * P;
+        const extended va = aa * ll_third + a * -0.5L;
+        const extended R1 = (R0 + mm * ll_third) + b * -0.5L;
+        extended W = (va + R1) * b + R1 * a;
+        W = W + b;
+        const extended e = va * a;
+        const extended h = a + e;
+        const extended l = (a - h) + e;
+        W = W + l;
+        return h + W;
+    }
+    // y = 2^e m: ln m = ln(1 + r) - ln c, r = m c - 1 in two parts, the first exact.
+    constexpr float ll_round = 0x1.8p32f;
+    constexpr double ll_ln2_hi = f64(0x3FE62E42FF000000), ll_ln2_lo = f64(0xBDC718432A1B0E26);
+    constexpr extended ll_a0 = 0x92497ECBBF12A224p-66L, ll_a1 = 0xCCCCCCCCB4796149p-66L,
+                       ll_a2 = 0xAAAAAAAAAAAAABEAp-65L;
+    constexpr extended ll_b0 = -0xAAAAFBDE6BC3DEDDp-66L, ll_b1 = -0xFFFFFFFFEFE6E52Ep-66L,
+                       ll_b2 = -0x8000000000000041p-64L;
+    const extended e = f.exponent - 16383;
+    const extended m = with_exponent_0(f);
+    const int i = f.significand >> 55 & 0xFF;
+    const extended mh = (m + ll_round) - ll_round;
+    const extended ml = m - mh;
+    const extended c = __dlog2_g___libm_rcp_table_256[i];
+    const extended r0 = mh * c + -1;
+    const extended r1 = ml * c;
+    const extended r = r1 + r0;
+    const extended z = r * r;
+    const extended A1 = ((ll_a0 * z + ll_a1) * z + ll_a2) * z;
+    const extended B1 = (ll_b0 * z + ll_b1) * z + ll_b2;
+    extended T = r1 + (z * B1 + r * A1);
+    T = T + (e * ll_ln2_lo + __libm_logl_table_256[i].lo);
+    return ((e * ll_ln2_hi + __libm_logl_table_256[i].hi) + r0) + T;
+}
+
+// An extended value as the exact sum of two doubles, which loads in a quarter of the time that its 80 bits take: the
+// products below wait for their coefficients.
+struct stored_extended {
+    double hi, lo;
+    consteval stored_extended(extended v = 0) : hi(double(v)), lo(double(v - hi)) {}
+    operator extended() const { return extended(hi) + lo; }
+};
+
+// A product of monic quadratics in u without their scale C[22]: (constant, linear) coefficients, v = u^2.
+[[gnu::always_inline]] inline extended product_of_quadratics(const stored_extended* C, extended u, extended v) {
+    extended G = (C[1] * u + v) + C[0];
+#pragma GCC unroll 10
+    for (int i = 1; i <= 10; i++)
+        G = G * ((C[2 * i + 1] * u + v) + C[2 * i]);
+    return G;
+}
+
+// Each binade [2^(j+2), 2^(j+3)) in u from 0 to 1.
+constexpr double _A[] = {0x1p2, 0x1p3, 0x1p4, 0x1p5, 0x1p6, 0x1p7, 0x1p8};
+constexpr double _B[] = {0x1p-2, 0x1p-3, 0x1p-4, 0x1p-5, 0x1p-6, 0x1p-7, 0x1p-8};
+constexpr stored_extended _C5[7][24] = {
+#include "special/tables/lgamma_C5_row_0.inc"
+#include "special/tables/lgamma_C5_rows_1_6.inc"
+};
+extended binade(int j, extended x) {
+    const extended u = (x - _A[j]) * _B[j];
+    return product_of_quadratics(_C5[j], u, u * u) * _C5[j][22];
+}
+
+constexpr stored_extended ld_f24[] = {
+    0xD888B6CF34159B54p-61L, -0xF888E8D7892718A2p-61L, 0xBCB79C8329FD9F44p-64L,  0xF62F273BA12A4639p-65L,
+    0xCB8896FAD69C455Dp-62L, -0xA93AC50A37EC8D38p-66L, 0xE510A424639EBF5Ep-61L,  -0xB4CC43D2C161E057p-63L,
+    0xC65ED41B097486B3p-60L, -0xC6AC672F0C1392C7p-62L, 0x943AF77763601441p-59L,  -0xA292B9AE3276942Ep-61L,
+    0xC8A93F9ECB06E891p-59L, -0xE554E4CCCA6C7B7Bp-61L, 0xFC2E5A4AD33DE19Dp-59L,  -0x92F0F55FBC87F860p-60L,
+    0x9526B75B38670119p-58L, -0xAF60D0112843F6C1p-60L, 0xA7675879D68B587Ep-58L,  -0xC5956500FA3D92E7p-60L,
+    0xB31DFA672D7FB8C0p-58L, -0xD3B22CCBD8587750p-60L, -0x83A27775D86F9A81p-103L};
+extended from_2_25_to_4(extended x) { return (x + -2) * (product_of_quadratics(ld_f24, x, x * x) * ld_f24[22]); }
+
+// Odd and even powers of u = x + shift, the first six coefficients of each in double.
+struct series {
+    extended shift;
+    double p[6];
+    extended pe[3];
+    double q[6];
+    extended qe[2];
+    extended odd(extended u, extended v) const { return u * horner_from(horner_down(p, v), pe, v); }
+    extended even(extended v) const { return v * horner_from(horner_down(q, v), qe, v); }
+};
+constexpr extended ld_c146 = -0xF8CDCDE61C520E0Fp-67L;
+constexpr series ld_s200 = {-2,
+                            {f64(0xBEA01D7AFA5D8F52), f64(0xBEC112CD07CFC31A), f64(0xBEE3CBEDB4C918AA),
+                             f64(0xBF078DE5618D8C9F), f64(0xBF2D3FD4C7F68563), f64(0xBF538AC5C2BF540D)},
+                            {-0xF2027E10C7B051ECp-71L, -0x89F000D2ABB03401p-67L, 0xD8773039049E70B6p-65L},
+                            {f64(0x3EB1010986E60253), f64(0x3ED2528A428D30E1), f64(0x3EF580F6D9D0F72D),
+                             f64(0x3F1A127AD811A53D), f64(0x3F40B36AF884AE9A), f64(0x3F67ADD6EADB5718)},
+                            {0xA8991563EC243383p-69L, 0xA51A6625307D3230p-65L}};
+constexpr series ld_s146 = {-0xBB16C31AB5F1FC00p-63L,
+                            {f64(0xBF12680486396DE6), f64(0xBF2E098A8A2332A8), f64(0xBF422633DA3A1496),
+                             f64(0xBF56F9849D3BC6CC), f64(0xBF6E2F1A1F804B5D), f64(0xBF851F9F9516A98F)},
+                            {-0x864D46FA895985C1p-68L, -0x97213C6E35E12043p-66L, 0x8A8A42A401D979B7p-119L},
+                            {f64(0x3F23C51FC332CD9D), f64(0x3F370E61B73B205C), f64(0x3F4CC70680768857),
+                             f64(0x3F6283126F58D7F4), f64(0x3F78FCE02A032428), f64(0x3F9266E797A1433F)},
+                            {0x845A14A6A81B0638p-67L, 0xF7B95E4771C55C99p-65L}};
+constexpr series ld_s100 = {-1,
+                            {f64(0xBF9A04F7E40C8498), f64(0xBFB10C251723B123), f64(0xBFB3B63609CA0CBD),
+                             f64(0xBFB748A3CFCE4717), f64(0xBFBC806766F48C41), f64(0xBFC2703A1D85497E)},
+                            {-0xD45CE0BD54BE3D67p-66L, -0xCD26AADF559676D0p-65L, -0x93C467E37DB0C7A7p-64L},
+                            {f64(0x3FAB79D8D9380F03), f64(0x3FB2669DAD69A12D), f64(0x3FB5564EA1675539),
+                             f64(0x3FB9A01DEE29966A), f64(0x3FC010B36CDA773A), f64(0x3FC5B40CB0FD353C)},
+                            {0x8A8991563ECBBA5Dp-65L, 0xD28D3312983E9844p-64L}};
+extended at(const series& s, extended x) {
+    const extended u = x + s.shift, v = u * u;
+    return s.odd(u, v) + s.even(v);
+}
+extended around_the_minimum(extended x) {
+    const extended u = x + ld_s146.shift, v = u * u;
+    return (ld_s146.even(v) + ld_c146) + ld_s146.odd(u, v);
+}
+
+// log gamma(y) for y from 0.875 to 512.
+[[gnu::noinline]] extended own_lgamma_pos(extended y) {
+    const double rounded = y;
+    if (rounded >= 4) return binade(int(bits(rounded) >> 52) - 0x401, y);
+    if (rounded >= 2.25) return from_2_25_to_4(y);
+    if (rounded >= 1.75) return at(ld_s200, y);
+    if (rounded >= 1.25) return around_the_minimum(y);
+    return at(ld_s100, y);
+}
+
+// The zeros of log|gamma| in (-3 - k, -2 - k), the left and the right one of each interval.
+constexpr root_window _LRIB[13] = {
+#include "special/tables/lgamma_LRIB.inc"
+};
+constexpr root_window _RRIB[13] = {
+#include "special/tables/lgamma_RRIB.inc"
+};
+struct left_row {
+    extended E[5];
+    double D[11];
+    double unused[3] = {};
+};
+struct right_row {
+    extended E[4];
+    double D[12];
+};
+static_assert(sizeof(left_row) == 192 && sizeof(right_row) == 160);
+constexpr left_row _LRP[13] = {
+#include "special/tables/lgamma_LRP_row_0.inc"
+#include "special/tables/lgamma_LRP_rows_1_12.inc"
+};
+// Of the 16th powers.
+constexpr double _LRP16[13] = {
+#include "special/tables/lgamma_LRP16_row_0.inc"
+#include "special/tables/lgamma_LRP16_rows_1_12.inc"
+};
+constexpr right_row _RRP[13] = {
+#include "special/tables/lgamma_RRP_row_0.inc"
+#include "special/tables/lgamma_RRP_rows_1_12.inc"
+};
+
+// Horner's scheme carried on from r, the coefficients in an order of their own.
+template <class C> extended horner_in_order(extended r, const C& c, extended v, std::initializer_list<int> order) {
+    for (int i : order)
+        r = r * v + c[i];
+    return r;
+}
+extended left_root(int k, double x) {
+    const auto& [E, D, unused] = _LRP[k];
+    const extended u = extended(x) - _LRIB[k].centre, v = u * u;
+    const extended P = horner_in_order(horner_in_order(_LRP16[k], D, v, {9, 7, 5, 3, 1}), E, v, {4, 2, 0});
+    const extended Q = horner_in_order(horner_in_order(D[10], D, v, {8, 6, 4, 2, 0}), E, v, {3, 1});
+    return P + u * Q;
+}
+extended right_root(int k, double x) {
+    const auto& [E, D] = _RRP[k];
+    const extended u = extended(x) - _RRIB[k].centre, v = u * u;
+    const extended P = horner_in_order(horner_in_order(D[1], D, v, {7, 3, 9, 5, 11}), E, v, {2, 0});
+    const extended Q = horner_in_order(horner_in_order(D[0], D, v, {6, 2, 8, 4, 10}), E, v, {3, 1});
+    return P + u * Q;
+}
+
+// shifted_up with the product in two parts: each factor and the product's head are split so that the product of
+// their leading parts is exact.
+extended shifted_up_compensated(extended x) {
+    constexpr double S = 0x1p33 + 1;
+    extended y = x, hi = 1, lo = 0;
+    do {
+        const extended a = (y + y * S) - y * S, c = y - a;
+        const extended b = (hi + hi * S) - hi * S, e = lo + (hi - b);
+        const extended g = (c * e + e * a) + b * c, m = a * b;
+        const extended h = m + g;
+        lo = g - (h - m);
+        hi = h;
+        y = y + 1;
+    } while (y < 1);
+    return own_lgamma_pos(y) - own_logl(hi < 0 ? -hi : hi);
+}
+
+constexpr extended ld_stir1 = 0xAAAAAAAAAAAAAAABp-67L;
+constexpr double ld_stir2 = f64(0xBF66C16C16C16C17);
+// Stirling's series for log gamma(x), with L = ln|x|; for x < 0 with the other sign of ln(2 pi) / 2.
+extended stirling(extended x, extended L, extended half_log2pi) {
+    const extended V = ((x + -0.5L) * L + half_log2pi) - x;
+    const extended t = 1 / x;
+    return V + t * (t * t * ld_stir2 + ld_stir1);
+}
+
+extended log_gamma_of_positive(double x) {
+    if (x == 1) return 0;
+    if (x >= 512) return stirling(x, own_logl(x), lg_half_log2pi);
+    if (x >= 0.875) return own_lgamma_pos(x);
+    return own_lgamma_pos(1 + extended(x)) - own_logl(x);
+}
+
+extended log_gamma_of_negative(double x) {
+    if (x > -15) {
+        if (x < -2) {
+            const double above = -3 - x;
+            const int k = int(above) + (above > 0); // its ceiling
+            if (inside(_LRIB[k], x)) return left_root(k, x);
+            if (inside(_RRIB[k], x)) return right_root(k, x);
+        }
+        return shifted_up(x, own_lgamma_pos, own_logl);
+    }
+    if (x > -17) return shifted_up_compensated(x);
+
+    // gamma(x) gamma(A) = pi / (x sin(pi x)), A = -x; T = ln(sin(pi r) / (pi r)), r the distance to the nearest
+    // integer R.
+    constexpr double ld_sinp[] = {f64(0x3FD36D6D6CE263D7), f64(0xBF9957F5146FC7AF), f64(0xBFBBE1703F315086),
+                                  f64(0xBFC248DEC29CAC4A)};
+    constexpr extended ld_sinp_e[] = {-0xCD00EFF2F8F86899p-66L, -0xADA06587FACD668Bp-65L, -0xD28D3312983E98A0p-63L};
+    constexpr double ld_sinq[] = {f64(0xBFDC1BF0931AE591), f64(0xBFD23AB9E6CC88AC), f64(0xBFBD516F4FD9FB18),
+                                  f64(0xBFC007B324E23040)};
+    constexpr extended ld_sinq_e[] = {-0xAAB5A3CCEFCD3628p-66L, -0x80859B5C318E19A5p-65L, -0x8A8991563EC7EB33p-64L};
+    constexpr double shifter = 0x1.8p52;
+    const double A = -x;
+    const double R = double(extended(shifter) - x) + -shifter;
+    const extended r = extended(A) - R;
+    const extended z = r * r, w = z * z;
+    const extended P = horner_from(horner_down(ld_sinp, w), ld_sinp_e, w);
+    const extended Q = horner_from(horner_down(ld_sinq, w), ld_sinq_e, w);
+    const extended T = z * P + w * Q;
+    const extended L = own_logl(A);
+    const extended Lr = own_logl(r < 0 ? -r : r);
+    if (x > -512) return ((-L - own_lgamma_pos(A)) - T) - Lr;
+    return (stirling(x, L, -lg_half_log2pi) - T) - Lr;
+}
+
+[[gnu::noinline]] int lgamma_rare(const double* x, double* result) {
+    constexpr double largest = f64(0x7F5754D9278B51A8 - 1);
+    int status;
+    if (no_log_gamma(*x, largest, result, &status)) return status;
+    *result = *x > 0 ? log_gamma_of_positive(*x) : log_gamma_of_negative(*x);
+    return ordinary;
+}
+
+} // namespace
+
+ORVANE_SLOW_PATH(__orvane_dlgamma_cout_rare, const double* x, double* result) {
+    return with_64_bit_significands<lgamma_rare>(x, result);
+}
+ORVANE_SLOW_PATH(__orvane_dlgammar_cout_rare, const double* x, double* result, int* sign) {
+    *sign = sign_of_gamma(*x);
+    return __orvane_dlgamma_cout_rare(x, result);
+}
+
+} // namespace orvane

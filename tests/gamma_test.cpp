@@ -1,0 +1,282 @@
+// tgamma, lgamma and lgammar: exits and their status codes, signs, zeros of log|gamma|, joints between forms, the
+// caller's x87 state, and errors. No result hangs on the processor: bounds are what was measured.
+#include "accuracy.h"
+
+#include <cstdlib>
+
+using namespace orvane;
+
+namespace {
+
+const kernel_row& row_of(const char* name) { return *find_row(library_rows(), name, "default"); }
+
+struct lane {
+    const char* name;
+    double x, result;
+    int status;
+};
+constexpr double infinity = HUGE_VAL, tiny = 0x1p-1074, tinyf = 0x1p-149;
+
+TEST(Gamma, ExitsWithTheirStatus) {
+    for (const auto& [name, x, result, status] :
+         std::initializer_list<lane>{{"tgamma", infinity, infinity, 0},
+                                     {"tgamma", 0.0, infinity, 2},
+                                     {"tgamma", -0.0, -infinity, 2},
+                                     {"tgamma", tiny, infinity, 3},
+                                     {"tgamma", -0x1p-1024, -infinity, 3},
+                                     {"tgamma", -0x1.0000000000001p-1022, -0x1.ffffffffffffep+1021, 0},
+                                     {"tgamma", 0x1.00000000004p-1024, 0x1.ffffffffff8p+1023, 0}, // subnormal: 1 / x
+                                     {"tgamma", 171.62437695630270, 0x1.ffffffffffe51p+1023, 0},
+                                     {"tgamma", 171.62437695630274, infinity, 3},
+                                     {"tgamma", -180.5, -0.0, 0}, // through the scaled row
+                                     {"tgamma", -185.5, 0.0, 0},  // the early test
+                                     {"tgamma", -186.5, -0.0, 0},
+                                     {"tgamma", -0x1.fffffffffffffp51, 0.0, 0}, // F is odd
+                                     {"tgammaf", infinity, infinity, 0},
+                                     {"tgammaf", -0.0, -infinity, 2},
+                                     {"tgammaf", tinyf, infinity, 3},
+                                     {"tgammaf", -0x1p-128, -infinity, 3},
+                                     {"tgammaf", 0x1.0001p-128, 0x1.fffep127, 0},
+                                     {"tgammaf", 35.04010009765625, infinity, 3},
+                                     {"tgammaf", -41.5, 0.0, 0},
+                                     {"tgammaf", -43.5, 0.0, 4},
+                                     {"tgammaf", -44.5, -0.0, 4},
+                                     {"lgamma", -infinity, infinity, 0},
+                                     {"lgamma", -0.0, infinity, 2},
+                                     {"lgamma", -1.0, infinity, 2},
+                                     {"lgamma", -0x1p60, infinity, 2},
+                                     {"lgamma", 1.0, 0.0, 0},
+                                     {"lgamma", 2.0, 0.0, 0},
+                                     {"lgamma", 0x1.754d9278b51a8p+1014, infinity, 3},
+                                     {"lgammaf", -infinity, infinity, 0},
+                                     {"lgammaf", 0.0, infinity, 2},
+                                     {"lgammaf", -8388608.0, infinity, 2},
+                                     {"lgammaf", 1.0, 0.0, 0},
+                                     {"lgammaf", 2.0, 0.0, 0},
+                                     {"lgammaf", 0x1.895f1ap+121, 0x1.fffffcp127, 0}, // the bound itself
+                                     {"lgammaf", 0x1.895f1cp+121, infinity, 3},
+                                     {"lgammaf", tinyf, 103.27892990343184, 0}}) {
+        const auto& row = row_of(name);
+        const auto got = call_slow_path(library_under_test(), row, {word_of(row.in, x)});
+        EXPECT_EQ(got.result, word_of(row.out, result)) << name << " of " << x;
+        EXPECT_EQ(got.status, status) << name << " of " << x;
+    }
+}
+
+TEST(Gamma, DomainErrorsAndNan) {
+    for (auto name : {"tgamma", "tgammaf", "lgamma", "lgammaf"}) {
+        const auto& row = row_of(name);
+        const bool wide = row.in == lane_type::f64;
+        auto of = [&](uint64_t word) { return call_slow_path(library_under_test(), row, {word}); };
+        // A NaN keeps its sign and payload and becomes quiet.
+        const uint64_t quiet = wide ? 0x7FF8000000000000 : 0x7FC00000;
+        const uint64_t signaling = wide ? 0xFFF0000000000777 : 0xFF800777;
+        EXPECT_EQ(of(signaling).result, signaling | quiet) << name;
+        EXPECT_EQ(of(signaling).status, 0) << name;
+        if (row.base() != "tgamma") continue;
+        for (double x : {-infinity, -1.0, -2.0, -184.0, -1e6, -0x1p52, -1e30}) {
+            EXPECT_EQ(of(word_of(row.in, x)).result, quiet) << name << " of " << x; // positive
+            EXPECT_EQ(of(word_of(row.in, x)).status, 1) << name << " of " << x;
+        }
+    }
+}
+
+TEST(Gamma, FactorialsAreExact) {
+    double n_factorial = 1;
+    for (int n = 0; n <= 22; n++, n_factorial *= n) // exact in double
+        for (auto name : {"tgamma", "tgammaf"}) {
+            sweep f(name);
+            EXPECT_EQ(f({{word_of(f.row().in, n + 1)}})[0][0], word_of(f.row().out, n_factorial)) << n;
+        }
+}
+
+// Integers, half-integers, powers of two and the bounds of all forms with their neighbours, random patterns, and
+// arguments that are tiny.
+words directed_arguments(lane_type t) {
+    words x;
+    auto with_neighbours = [&](double v) {
+        for (int k = -3; k <= 3; k++)
+            x.push_back(word_of(t, v) + k);
+    };
+    for (int n = -1100; n <= 1100; n++)
+        with_neighbours(n / 2.0);
+    for (double edge : {1.25, 1.75, 2.25, 0.875, 1.4616321449683622, 8192.0, 8192.5, 171.62437695630274, 35.0401})
+        with_neighbours(edge), with_neighbours(-edge);
+    for (int e = t == lane_type::f64 ? -1073 : -148; e < (t == lane_type::f64 ? 1013 : 121); e++)
+        with_neighbours(std::ldexp(1.0, e)), with_neighbours(-std::ldexp(1.0, e));
+    rng r(91);
+    for (int i = 0; i < 10000; i++)
+        x.push_back(r() >> (t == lane_type::f64 ? 0 : 32));
+    return x;
+}
+// What each path reaches, in ulps.
+double bound_of(const std::string& name) {
+    return name == "tgammaf" ? 0.503 : name == "lgammaf" || name == "lgammarf" ? 0.508 : 0.512;
+}
+
+TEST(Gamma, FormsJoin) {
+    truth t;
+    for (std::string name : {"tgamma", "tgammaf", "lgamma", "lgammaf"}) {
+        sweep f(name);
+        const auto w = sampled_error(f, t, directed_arguments(f.row().in), name.starts_with("t") ? tgammal : lgammal);
+        EXPECT_LE(w.ulps, bound_of(name)) << name << std::hex << " at " << w.argument;
+        EXPECT_GT(w.ulps, 0.4);
+    }
+}
+
+TEST(Gamma, SignLanes) {
+    for (auto name : {"lgammar", "lgammarf"}) {
+        sweep f(name), without_sign(row_of(name).in == lane_type::f64 ? "lgamma" : "lgammaf");
+        const auto x = directed_arguments(f.row().in);
+        const auto y = f({x});
+        EXPECT_EQ(y[0], without_sign({x})[0]) << name;
+        for (size_t i = 0; i < x.size(); i++) {
+            const double v = value_of(f.row().in, x[i]);
+            int sign = 1;
+            lgammal_r(v, &sign);
+            const bool none = !std::isfinite(v) || (v < 0 && std::floor(v) == v); // no sign: +1
+            ASSERT_EQ((int32_t)y[1][i], none ? 1 : sign) << name << " of " << v;
+        }
+    }
+}
+
+// The zero of log|gamma| between a point where it is positive and one where it is negative.
+double zero_between(double positive, double negative) {
+    static const kernel_row& row = row_of("lgamma");
+    truth t;
+    auto value = [&](double x) {
+        const uint64_t w = word_of(lane_type::f64, x);
+        t(row, &w);
+        return mpfr_get_d(t.value(0), MPFR_RNDN);
+    };
+    for (;;) {
+        const double middle = (positive + negative) / 2;
+        if (middle == positive || middle == negative) break;
+        (value(middle) > 0 ? positive : negative) = middle;
+    }
+    return std::fabs(value(positive)) < std::fabs(value(negative)) ? positive : negative;
+}
+
+// Each of the 26 zeros in (-15, -2), its neighbours, and arguments at all distances, so that the window's bounds are
+// crossed on both sides.
+TEST(Gamma, ZerosOfLogGamma) {
+    truth t;
+    sweep f("lgamma"), g("lgammaf");
+    rng r(17);
+    std::uniform_real_distribution<double> exponent(-52, -3);
+    int zeros = 0;
+    worst w, wf;
+    for (int k = 0; k < 13; k++)
+        for (double pole : {-3.0 - k, -2.0 - k}) {
+            const double inward = std::nextafter(pole, -2.5 - k), zero = zero_between(inward, -2.5 - k);
+            ASSERT_TRUE(inward != zero && std::fabs(zero - pole) < 0.5);
+            zeros++;
+            words x, xf;
+            auto add = [&](double v) {
+                x.push_back(word_of(lane_type::f64, v)), xf.push_back(word_of(lane_type::f32, v));
+            };
+            for (int n = -20; n <= 20; n++) {
+                x.push_back(word_of(lane_type::f64, zero) + n);
+                xf.push_back(word_of(lane_type::f32, zero) + n);
+            }
+            for (int i = 0; i < 2000; i++) {
+                const double step = std::exp2(exponent(r)), span = std::fabs(zero - pole);
+                add(zero + step), add(zero - step); // and within the distance of the pole, where windows are narrow
+                add(zero + span * step), add(zero - span * step);
+                add(zero + span * 4 * (i / 1000.0 - 1));
+            }
+            for (const auto& [sweep, arguments, all] : {std::tuple{&f, &x, &w}, std::tuple{&g, &xf, &wf}}) {
+                const auto here = sampled_error(*sweep, t, *arguments, lgammal);
+                if (here.ulps > all->ulps) *all = here;
+            }
+        }
+    EXPECT_EQ(zeros, 26);
+    EXPECT_LE(w.ulps, bound_of("lgamma")) << std::hex << w.argument;
+    EXPECT_LE(wf.ulps, bound_of("lgammaf")) << std::hex << wf.argument;
+    printf("around the zeros: lgamma %.4f, lgammaf %.4f ulp\n", w.ulps, wf.ulps);
+}
+
+// Where the caller computes with short significands, the double paths do not; its control word comes back from every
+// exit, its rounding holds within, and the register stack is empty.
+TEST(Gamma, X87StateOfTheCaller) {
+    constexpr uint16_t long_significands = 0x37F, round_down = 0x400;
+    for (auto name : {"tgamma", "lgamma", "lgammar"}) {
+        const auto& row = row_of(name);
+        const subject s{&row, &library_under_test()};
+        lane_caller call = s.caller(4);
+        int rounded_down = 0;
+        for (double x : std::initializer_list<double>{
+                 NAN,  infinity, 0.0,  tiny, 0.3,   1.3,   1.6,    3.5,    40.2,   171.9,   600.5, 1e306, -tiny,
+                 -0.5, -1.5,     -2.7, -3.2, -14.5, -15.5, -30.25, -181.5, -200.5, -1000.5, -3.0,  -1e300}) {
+            const words lanes(4, word_of(lane_type::f64, x));
+            auto under = [&](uint16_t control) {
+                std::vector<words> results;
+                call.in.x87_control = control;
+                call({lanes}, results);
+                EXPECT_EQ(call.out.x87_control, control) << name << " of " << x;
+                EXPECT_EQ(call.out.x87_tag, 0xFFFF) << name << " of " << x;
+                return results;
+            };
+            for (uint16_t rounding : {uint16_t(0), round_down})
+                for (uint16_t short_significands : {0x07F, 0x27F})
+                    EXPECT_EQ(under(short_significands | rounding), under(long_significands | rounding))
+                        << name << " of " << x;
+            rounded_down += under(long_significands | round_down) != under(long_significands);
+        }
+        EXPECT_GT(rounded_down, 0) << name;
+    }
+}
+
+TEST(Gamma, LargestErrors) {
+    struct range {
+        const char* name;
+        double lo, hi;
+        bool by_exponent;
+        extended_function reference;
+    };
+    std::map<std::string, worst> largest;
+    truth t;
+    for (const auto& [name, lo, hi, by_exponent, reference] :
+         std::initializer_list<range>{{"tgamma", 0, 2, false, tgammal},
+                                      {"tgamma", 2, 171.6, false, tgammal},
+                                      {"tgamma", -186, 0, false, tgammal},
+                                      {"tgamma", 1e-308, 1, true, tgammal},
+                                      {"tgammaf", 0, 35, false, tgammal},
+                                      {"tgammaf", -42, 0, false, tgammal},
+                                      {"tgammaf", -6, 6, false, tgammal},
+                                      {"tgammaf", 1e-38, 1, true, tgammal},
+                                      {"lgamma", 0, 4, false, lgammal},
+                                      {"lgamma", 4, 1e305, true, lgammal},
+                                      {"lgamma", 1e-308, 1, true, lgammal},
+                                      {"lgamma", 4, 520, false, lgammal},
+                                      {"lgamma", -20, 0, false, lgammal},
+                                      {"lgamma", -1000, -20, false, lgammal},
+                                      {"lgammaf", 0, 4, false, lgammal},
+                                      {"lgammaf", 4, 1e36, true, lgammal},
+                                      {"lgammaf", -10, 0, false, lgammal},
+                                      {"lgammaf", -8400, -10, false, lgammal}}) {
+        sweep f(name);
+        const auto w = sampled_error(f, t, spread(f.row().in, lo, hi, 250'000, by_exponent, 21), reference);
+        if (w.ulps > largest[name].ulps) largest[name] = w;
+        printf("%-8s from %g to %g: largest error %.4f ulp\n", name, lo, hi, w.ulps);
+    }
+    for (const auto& [name, w] : largest) {
+        EXPECT_LE(w.ulps, bound_of(name)) << name << std::hex << " at " << w.argument;
+        EXPECT_GT(w.ulps, 0.499) << name << ": nothing was measured";
+    }
+}
+
+TEST(Gamma, LongEveryFloat) {
+    for (const auto& [name, reference] :
+         {std::pair{"tgammaf", (double (*)(double))std::tgamma}, {"lgammaf", (double (*)(double))std::lgamma}}) {
+        const auto w = error_over_all_floats(name, "default", reference);
+        EXPECT_LE(w.ulps, bound_of(name)) << name << std::hex << " at " << w.argument;
+        printf("%s over all floats: %.4f ulp at %08x\n", name, w.ulps, (unsigned)w.argument);
+    }
+}
+
+TEST(Gamma, LongFittedRowsAreWhatTheirProgramWrites) {
+    EXPECT_EQ(std::system(ORVANE_TOOL_FOLDER "/fit-gamma --check " ORVANE_SOURCES), 0);
+}
+
+} // namespace
