@@ -14,17 +14,25 @@ struct exp_base {
 inline constexpr exp_base base_e = {f64(0x40571547652B82FE), f64(0xBF862E42FEFA0000), f64(0xBD1CF79ABC9E3B3A)};
 inline constexpr exp_base base_10 = {212.60339807279118, -0.004703593682222618, -2.7088530630863833e-14};
 
+// x = n step + r; of n the low 32 bits.
+struct steps_and_rest {
+    double r;
+    uint32_t n;
+};
+inline steps_and_rest split_by_step(double x, const exp_base& b) {
+    const double w = x * b.scale + f64(0x4338000000000000); // 1.5 * 2^52
+    const double n = w + f64(0xC338000000000000);
+    return {(n * b.neg_step_hi + x) + n * b.neg_step_lo, (uint32_t)bits(w)};
+}
 // x taken apart: the entry of 2^(j/64), the exponent of 2^e (large for x < 0: its low bits count) and the remainder.
 struct reduced_exponent {
     double r, hi, lo;
     uint32_t e;
 };
 inline reduced_exponent reduce(double x, const exp_base& b) {
-    const double w = x * b.scale + f64(0x4338000000000000); // 1.5 * 2^52
-    const double n = w + f64(0xC338000000000000);
-    const uint32_t bits_of_n = (uint32_t)bits(w), j = bits_of_n & 63;
-    const double r = (n * b.neg_step_hi + x) + n * b.neg_step_lo;
-    return {r, _orvdExpHATab[j].hi, _orvdExpHATab[j].lo, bits_of_n >> 6};
+    const auto [r, n] = split_by_step(x, b);
+    const auto& entry = _orvdExpHATab[n & 63];
+    return {r, entry.hi, entry.lo, n >> 6};
 }
 
 // b^r - 1.

@@ -240,6 +240,15 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
             auto stage = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, formula); });
             // Where it runs, the large path's answers take over, with its own special lanes.
             if (stage.any_special()) {
+                // What lives on behind the branch gets new names: the large path needs all registers, and a value
+                // that it keeps in memory would be there on the ordinary path too.
+                each<N>([&](auto i) ORVANE_LAMBDA {
+                    if constexpr (!L::in_memory)
+                        std::apply([](auto&... b) ORVANE_LAMBDA { ((b = finished(b)), ...); }, x[i]);
+                    stage.chunk[i].first = finished(stage.chunk[i].first);
+                    if constexpr (requires { stage.chunk[i].second; })
+                        stage.chunk[i].second = finished(stage.chunk[i].second);
+                });
                 auto a =
                     on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(behind_branch, i, large, stage.again(i)); });
                 return finish(a);

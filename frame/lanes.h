@@ -332,6 +332,11 @@ template <class V> ORVANE_INLINE V finished(V a) {
     return a;
 }
 
+// What is done with `later` from here on comes after all that gives `done`.
+template <class A, class B> ORVANE_INLINE void in_turn(A& done, B& later) {
+    asm("" : "+x"(done.v), "+x"(later.v));
+}
+
 // The same bits under another type of the same size.
 template <class U, class T, int W> ORVANE_INLINE lanes<U, W> as(lanes<T, W> a) {
     static_assert(sizeof(U) == sizeof(T));
@@ -511,11 +516,10 @@ template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup_bytes(const 
 }
 // Pairs (first, second) that stand side by side: one load of both a lane.
 template <class T, int W> struct lane_pair { lanes<T, W> first, second; };
-template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(const void* base, lanes<I, W> offset) {
+namespace detail {
+template <class T, int W, class At> ORVANE_INLINE lane_pair<T, W> assemble_pair(At at) {
     using V = lanes<T, W>;
-    const auto offsets = detail::in_register(offset.v);
-    auto at = [&](int i) ORVANE_LAMBDA { return (const char*)base + offsets[i]; };
-    if constexpr (W == 1) return {V(detail::load<T>(at(0))), V(detail::load<T>(at(0) + sizeof(T)))};
+    if constexpr (W == 1) return {V(load<T>(at(0))), V(load<T>(at(0) + sizeof(T)))};
     else if constexpr (sizeof(T) == 8) {
         auto pair = [&](int i) ORVANE_LAMBDA { return _mm_loadu_pd((const double*)at(i)); };
         __m128d p0 = pair(0), p1 = pair(1);
@@ -544,5 +548,31 @@ template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(con
         }
     }
 }
+} // namespace detail
+template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(const void* base, lanes<I, W> offset) {
+    const auto offsets = detail::in_register(offset.v);
+    return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return (const char*)base + offsets[i]; });
+}
+
+// A row of a table for each lane, found by its byte offset: the addresses once, then entries or pairs of them, whose
+// numbers count entries of T.
+template <int W> struct row_addresses {
+    static constexpr int rows = W == 3 ? 4 : W; // the spare lane has one too
+    const char* row[rows];
+
+    template <class I> ORVANE_INLINE row_addresses(const void* base, lanes<I, W> offset) {
+        const auto offsets = detail::in_register(offset.v);
+        each<rows>([&](auto i) ORVANE_LAMBDA { row[i] = (const char*)base + offsets[+i]; });
+    }
+    template <class T> ORVANE_INLINE lanes<T, W> entry(int number) const {
+        return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return detail::load<T>(at<T>(i, number)); });
+    }
+    template <class T> ORVANE_INLINE lane_pair<T, W> pair(int number) const {
+        return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return at<T>(i, number); });
+    }
+
+private:
+    template <class T> ORVANE_INLINE const char* at(int i, int number) const { return row[i] + sizeof(T) * number; }
+};
 
 } // namespace orvane

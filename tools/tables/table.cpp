@@ -77,7 +77,8 @@ void writer::end_row() {
 
 std::vector<table> all_tables() {
     std::vector<table> all;
-    for (auto part : {exp_tables, log_tables, pow_tables, divroot_tables, gamma_tables}) {
+    for (auto part : {exp_tables, log_tables, divroot_tables, gamma_tables, pow_tables, hyperbolic_tables,
+                      invtrig_tables, reduction_tables, angle_tables, tan_tables, erf_tables}) {
         auto t = part();
         all.insert(all.end(), t.begin(), t.end());
     }

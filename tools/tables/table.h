@@ -56,8 +56,11 @@ ORVANE_REAL_FUNCTION(sqrt, mpfr_sqrt)
 ORVANE_REAL_FUNCTION(cbrt, mpfr_cbrt)
 ORVANE_REAL_FUNCTION(sin, mpfr_sin)
 ORVANE_REAL_FUNCTION(cos, mpfr_cos)
+ORVANE_REAL_FUNCTION(tan, mpfr_tan)
 ORVANE_REAL_FUNCTION(atan, mpfr_atan)
 ORVANE_REAL_FUNCTION(asin, mpfr_asin)
+ORVANE_REAL_FUNCTION(sinh, mpfr_sinh)
+ORVANE_REAL_FUNCTION(tanh, mpfr_tanh)
 ORVANE_REAL_FUNCTION(erf, mpfr_erf)
 ORVANE_REAL_FUNCTION(erfc, mpfr_erfc)
 #undef ORVANE_REAL_FUNCTION
@@ -98,9 +101,15 @@ struct table {
 // The tables of each folder.
 std::vector<table> exp_tables();
 std::vector<table> log_tables();
-std::vector<table> pow_tables();
 std::vector<table> divroot_tables();
 std::vector<table> gamma_tables();
+std::vector<table> pow_tables();
+std::vector<table> hyperbolic_tables();
+std::vector<table> invtrig_tables();
+std::vector<table> reduction_tables();
+std::vector<table> angle_tables();
+std::vector<table> tan_tables();
+std::vector<table> erf_tables();
 
 std::vector<table> all_tables();
 

@@ -1,0 +1,288 @@
+// sinh, cosh, tanh, asinh, acosh, atanh: exact figures, poles and domains, both sides of the limits, slow paths, and
+// errors. The inverse functions are fed by the processor's estimates: their bounds are a tenth above what was
+// measured.
+#include "accuracy.h"
+#include "hyperbolic/hyperbolic_tables.h"
+
+using namespace orvane;
+
+namespace {
+
+struct member {
+    const char* name;
+    const char* tier;
+    lane_type type;
+};
+uint64_t word_for(const member& m, uint64_t x) { return sweep(m.name, m.tier, 1)({{x}})[0][0]; }
+double of(const member& m, double x) { return value_of(m.type, word_for(m, word_of(m.type, x))); }
+int status_of(const member& m, double x) {
+    return call_slow_path(library_under_test(), *find_row(library_rows(), m.name, "default"), {word_of(m.type, x)})
+        .status;
+}
+double next(lane_type t, double x, double to) {
+    return t == lane_type::f64 ? std::nextafter(x, to) : std::nextafterf((float)x, (float)to);
+}
+template <class F> void each_member(std::initializer_list<const char*> families, F f) {
+    for (std::string family : families)
+        for (auto suffix : {"", "f"})
+            for (auto tier : {"default", "native"}) {
+                const auto name = family + suffix;
+                SCOPED_TRACE(name + " " + tier);
+                f(member{name.c_str(), tier, *suffix ? lane_type::f32 : lane_type::f64});
+            }
+}
+
+TEST(Hyperbolics, ZerosAndNan) {
+    each_member({"sinh", "tanh", "asinh", "atanh"}, [](const member& m) {
+        for (double x : {0.0, -0.0})
+            EXPECT_EQ(word_for(m, word_of(m.type, x)), word_of(m.type, x));
+    });
+    each_member({"cosh"}, [](const member& m) { EXPECT_EQ(of(m, 0), 1); });
+    each_member({"acosh"}, [](const member& m) { EXPECT_EQ(word_for(m, word_of(m.type, 1)), 0u); });
+    each_member({"sinh", "cosh", "tanh", "asinh", "acosh", "atanh"}, [](const member& m) {
+        const bool f64 = m.type == lane_type::f64;
+        const uint64_t signaling = f64 ? 0xFFF0000000000777 : 0xFF800777;
+        EXPECT_EQ(word_for(m, signaling), signaling | (f64 ? 0x7FF8000000000000 : 0x7FC00000));
+    });
+}
+
+TEST(Hyperbolics, SmallArguments) {
+    each_member({"sinh", "tanh", "asinh", "atanh"}, [](const member& m) {
+        const bool f64 = m.type == lane_type::f64;
+        const bool shortened = !f64 && std::string_view(m.tier) == "native"; // polynomials with a first term not 1
+        const double slope = !shortened                                     ? 1
+                             : std::string_view(m.name).starts_with("sinh") ? 0.99993569
+                             : std::string_view(m.name).starts_with("tanh") ? 0.99994805
+                                                                            : 1;
+        for (double x : {f64 ? 1e-305 : 1e-36, 1e-20, -1e-15})
+            EXPECT_NEAR(of(m, x) / value_of(m.type, word_of(m.type, x)), slope, slope == 1 ? 0 : 1e-7) << x;
+        const double least = f64 ? 0x1p-1074 : 0x1p-149;
+        if (slope == 1) EXPECT_EQ(of(m, -least), -least);
+    });
+}
+
+TEST(Hyperbolics, InfinitiesPolesAndDomains) {
+    each_member({"sinh", "asinh"}, [](const member& m) {
+        for (double x : {HUGE_VAL, -HUGE_VAL}) {
+            EXPECT_EQ(of(m, x), x);
+            EXPECT_EQ(status_of(m, x), 0);
+        }
+    });
+    each_member({"cosh"}, [](const member& m) {
+        EXPECT_EQ(of(m, -HUGE_VAL), HUGE_VAL);
+        EXPECT_EQ(status_of(m, HUGE_VAL), 0);
+    });
+    each_member({"tanh"}, [](const member& m) {
+        for (double x : {HUGE_VAL, 3e38, 30.0}) {
+            EXPECT_EQ(of(m, x), 1);
+            EXPECT_EQ(of(m, -x), -1);
+        }
+        if (m.type == lane_type::f64) {
+            EXPECT_EQ(of(m, -0x1.2p1023), -1);
+            EXPECT_EQ(status_of(m, -0x1.2p1023), 0);
+        }
+    });
+    auto domain = [](const member& m, double x) {
+        EXPECT_EQ(word_for(m, word_of(m.type, x)), m.type == lane_type::f64 ? 0x7FF8000000000000 : 0xFFC00000) << x;
+        EXPECT_EQ(status_of(m, x), 1) << x;
+    };
+    each_member({"acosh"}, [&](const member& m) {
+        EXPECT_EQ(of(m, HUGE_VAL), HUGE_VAL);
+        EXPECT_EQ(status_of(m, HUGE_VAL), 0);
+        EXPECT_EQ(status_of(m, 1), 0);
+        for (double x : {next(m.type, 1, 0), 0.0, -1.0, -HUGE_VAL})
+            domain(m, x);
+    });
+    each_member({"atanh"}, [&](const member& m) {
+        EXPECT_EQ(of(m, 1), HUGE_VAL);
+        EXPECT_EQ(of(m, -1), -HUGE_VAL);
+        EXPECT_EQ(status_of(m, 1), 2);
+        EXPECT_EQ(status_of(m, -1), 2);
+        for (double x : {next(m.type, 1, 2), -2.0, HUGE_VAL, -HUGE_VAL})
+            domain(m, x);
+    });
+}
+
+// Where sinh and cosh overflow, through a scale that is no double itself; of float first by rounding alone.
+TEST(Hyperbolics, EndsOfTheRange) {
+    const double last = 710.475860073944, lastf = 89.41599273681641;
+    for (auto name : {"sinh", "cosh"}) {
+        const member m{name, "default", lane_type::f64};
+        EXPECT_GT(of(m, std::nextafter(last, 0)), 1.79e308);
+        EXPECT_EQ(status_of(m, std::nextafter(last, 0)), 0);
+        for (double x : {last, 711.0, 1e300}) {
+            EXPECT_EQ(of(m, x), HUGE_VAL);
+            EXPECT_EQ(status_of(m, x), 3);
+        }
+    }
+    EXPECT_EQ(of({"sinh", "default", lane_type::f64}, -711), -HUGE_VAL);
+    for (auto name : {"sinhf", "coshf"}) {
+        const member m{name, "native", lane_type::f32};
+        EXPECT_GT(of(m, next(m.type, lastf, 0)), 3.4e38f);
+        EXPECT_EQ(status_of(m, next(m.type, lastf, 0)), 0);
+        EXPECT_EQ(of(m, lastf), HUGE_VAL);
+        EXPECT_EQ(status_of(m, lastf), 3);
+    }
+}
+
+// The limit itself is the last argument of sinhf's kernels and the first of coshf's slow path. Which of them ran
+// shows when rounding goes downward: there a kernel's n is one too small, and r far outside of its polynomials'
+// range.
+TEST(Hyperbolics, LimitsOfTheSlowPaths) {
+    constexpr uint32_t downward = 0x3F80;
+    constexpr uint64_t limit = 0x42AEAC4E;
+    auto is_slow = [](const char* name, uint64_t x) {
+        const kernel_row& row = *find_row(library_rows(), name, "native");
+        const auto y = by_single_lanes({&row, &library_under_test()}, {{x}}, downward)[0][0];
+        const double slow = value_of(row.out, call_slow_path(library_under_test(), row, {x}).result);
+        return std::fabs(value_of(row.out, y) / slow - 1) < 0x1p-22;
+    };
+    EXPECT_FALSE(is_slow("sinhf", limit));
+    EXPECT_TRUE(is_slow("sinhf", limit + 1));
+    EXPECT_FALSE(is_slow("coshf", limit - 1));
+    EXPECT_TRUE(is_slow("coshf", limit));
+}
+
+TEST(Hyperbolics, TanhSaturates) {
+    EXPECT_EQ(of({"tanh", "default", lane_type::f64}, 20), 1);
+    EXPECT_EQ(of({"tanh", "default", lane_type::f64}, -std::nextafter(20.0, 0)), -1);
+    EXPECT_EQ(of({"tanhf", "default", lane_type::f32}, 8.015625), 1);
+    const member native{"tanhf", "native", lane_type::f32};
+    EXPECT_EQ(of(native, 5), 1);
+    EXPECT_LT(of(native, std::nextafterf(5, 0)), 1);
+}
+
+// The fitted rows in the digits to which some of them are fixed.
+TEST(Hyperbolics, RowsOfTanh) {
+    struct digits {
+        int row;
+        const char *centre, *value, *c[4], *c10;
+    };
+    for (const auto& [j, centre, value, c, c10] :
+         {digits{0, "0", "0", {"1", "-2.26413e-14", "-0.333333", "-6.16579e-10"}, "-0.00532"},
+          {1, "0.132812", "0.132037", {"0.982566", "-0.129735", "-0.310392", "0.0842283"}, "-0.0107125"},
+          {20, "0.71875", "0.616134", {"0.620378", "-0.382236", "0.0287163", "0.109719"}, "0.00489066"},
+          {40, "3.875", "0.999139", {"0.00172149", "-0.00172", "0.00114469", "-0.000570374"}, "-1.38266e-07"},
+          {57, "17", "1", {"6.85564e-15", "-6.85564e-15", "4.57038e-15", "-2.28519e-15"}, "-1.06694e-18"}}) {
+        auto text = [](double v) {
+            char s[32];
+            snprintf(s, sizeof s, "%.6g", v);
+            return std::string(s);
+        };
+        const tanh_row& row = tanh_rows.entry[j];
+        EXPECT_EQ(text(0 - row.neg_centre), centre) << j;
+        EXPECT_EQ(text(row.value), value) << j;
+        for (int i = 0; i < 4; i++)
+            EXPECT_EQ(text(row.coefficient[i]), c[i]) << j;
+        EXPECT_EQ(text(row.coefficient[9]), c10) << j;
+    }
+}
+
+// Largest errors near places where a kernel changes its form: on both sides, so that a wrong side would show.
+TEST(Hyperbolics, ChangesOfForm) {
+    truth t;
+    struct places {
+        const char* name;
+        std::vector<double> at;
+        double bound;
+        extended_function reference;
+    };
+    std::vector<double> rows, halves;
+    for (int j = 1; j <= 58; j++)
+        rows.push_back(std::bit_cast<double>(uint64_t(0x3FBE0000 + (j << 17)) << 32));
+    for (int n = 1; n < 250; n++)
+        halves.push_back((n - 0.5) * M_LN2 / 2);
+    for (const auto& [name, at, bound, reference] :
+         {places{"tanh", rows, 1.26, tanhl}, places{"tanhf", {8.015625}, 3.66, tanhl},
+          places{"asinh", {0x1p-9, 0x1p30}, 2.44 * 1.1, asinhl},
+          places{"asinhf", {0.0625, 0x1p30}, 1.97 * 1.1, asinhl}, places{"acosh", {0x1p30}, 2.86 * 1.1, acoshl},
+          places{"acoshf", {0x1p30}, 2.81 * 1.1, acoshl}, places{"atanh", {0x1p-970, 0x1p-32}, 2.24 * 1.1, atanhl},
+          places{"atanhf", {0x1p-103, 0x1p-32}, 2.02 * 1.1, atanhl}, places{"sinhf", halves, 1.5, sinhl},
+          places{"coshf", halves, 1.97, coshl}}) {
+        sweep f(name);
+        words x;
+        for (double v : at)
+            for (uint64_t d = 0; d < 200; d++)
+                x.push_back(word_of(f.row().in, v) - 100 + d);
+        const auto w = sampled_error(f, t, x, reference);
+        EXPECT_LE(w.ulps, bound) << name << std::hex << " at " << w.argument;
+    }
+}
+
+TEST(Hyperbolics, SlowPaths) {
+    truth t;
+    struct margin {
+        const char* name;
+        double lo, hi, bound;
+        extended_function reference;
+    };
+    for (const auto& [name, lo, hi, bound, reference] : {margin{"sinh", 707.8, 710.47586, 0.513, sinhl},
+                                                         {"cosh", 707.8, 710.47586, 0.513, coshl},
+                                                         {"sinhf", 87.34, 89.41598, 0.5005, sinhl},
+                                                         {"coshf", 87.34, 89.41598, 0.5005, coshl}}) {
+        sweep f(name);
+        const auto w = sampled_error(f, t, spread(f.row().in, lo, hi, 300'000, false, 41), reference);
+        EXPECT_LE(w.ulps, bound) << name << std::hex << " at " << w.argument;
+        printf("%-8s slow path: largest error %.4f ulp\n", name, w.ulps);
+    }
+}
+
+TEST(Hyperbolics, LargestErrors) {
+    constexpr double more = 1.1;
+    for (const auto& a : {accuracy{"sinh", "default", 1.88, -707, 707, sinhl},
+                          {"sinh", "default", 1.88, 1e-5, 4, sinhl, true},
+                          {"cosh", "default", 1.5, -707, 707, coshl},
+                          {"cosh", "default", 1.5, -3, 3, coshl},
+                          {"sinhf", "default", 1.5, -87, 87, sinhl},
+                          {"sinhf", "default", 1.5, 1e-3, 4, sinhl, true},
+                          {"sinhf", "native", 1100, -87, 87, sinhl},
+                          {"coshf", "default", 1.97, -87, 87, coshl},
+                          {"coshf", "default", 1.97, -3, 3, coshl},
+                          {"coshf", "native", 400, -87, 87, coshl},
+                          {"tanh", "default", 1.26, -20, 20, tanhl},
+                          {"tanh", "default", 1.26, 1e-5, 20, tanhl, true},
+                          {"tanhf", "default", 3.66, -9, 9, tanhl},
+                          {"tanhf", "default", 3.66, 1e-3, 9, tanhl, true},
+                          {"tanhf", "native", 1600, -6, 6, tanhl},
+                          {"asinh", "default", 2.44 * more, -100, 100, asinhl},
+                          {"asinh", "default", 2.44 * more, 1e-8, 1e40, asinhl, true},
+                          {"asinh", "native", 2.7e5 * more, 1e-8, 1e40, asinhl, true},
+                          {"asinhf", "default", 1.97 * more, -100, 100, asinhl},
+                          {"asinhf", "default", 1.97 * more, 1e-4, 1e35, asinhl, true},
+                          {"asinhf", "native", 1500 * more, 1e-4, 1e35, asinhl, true},
+                          {"acosh", "default", 2.86 * more, 1, 4, acoshl, true},
+                          {"acosh", "default", 2.86 * more, 1, 1e40, acoshl, true},
+                          {"acosh", "native", 1.35e6 * more, 1, 1e40, acoshl, true},
+                          {"acoshf", "default", 2.81 * more, 1, 4, acoshl, true},
+                          {"acoshf", "default", 2.81 * more, 1, 1e35, acoshl, true},
+                          {"acoshf", "native", 2150 * more, 1, 1e35, acoshl, true},
+                          {"atanh", "default", 2.24 * more, -0.999999, 0.999999, atanhl},
+                          {"atanh", "default", 2.24 * more, 1e-8, 1, atanhl, true},
+                          {"atanh", "native", 2.7e5 * more, -0.999999, 0.999999, atanhl},
+                          {"atanhf", "default", 2.02 * more, -0.999, 0.999, atanhl},
+                          {"atanhf", "default", 2.02 * more, 1e-4, 1, atanhl, true},
+                          {"atanhf", "native", 1500 * more, -0.999, 0.999, atanhl}})
+        check_accuracy(a);
+}
+
+TEST(Hyperbolics, LongEveryFloat) {
+    constexpr double more = 1.1;
+    struct all {
+        const char* name;
+        double bound, bound_native, (*reference)(double);
+    };
+    for (const auto& [name, bound, bound_native, reference] : {all{"sinhf", 1.5, 1100, std::sinh},
+                                                               {"coshf", 1.97, 400, std::cosh},
+                                                               {"tanhf", 3.66, 1600, std::tanh},
+                                                               {"asinhf", 1.97 * more, 1500 * more, std::asinh},
+                                                               {"acoshf", 2.81 * more, 2150 * more, std::acosh},
+                                                               {"atanhf", 2.02 * more, 1500 * more, std::atanh}})
+        for (auto tier : {"default", "native"}) {
+            const auto w = error_over_all_floats(name, tier, reference);
+            EXPECT_LE(w.ulps, *tier == 'd' ? bound : bound_native)
+                << name << " " << tier << std::hex << " at " << w.argument;
+            printf("%-8s %-8s over all floats: %.4f ulp at %08x\n", name, tier, w.ulps, (unsigned)w.argument);
+        }
+}
+
+} // namespace

@@ -1,0 +1,318 @@
+// asin, acos, atan, atan2 and their pi forms: exact values, domains, quadrants, slow paths, and errors. Kernels fed by
+// the processor's estimates have a tenth more than was measured, and no bits frozen.
+#include "accuracy.h"
+
+#include <numbers>
+
+using namespace orvane;
+
+namespace {
+
+constexpr double pi = std::numbers::pi, inf = HUGE_VAL, more = 1.1;
+
+// A tier of a family and how lanes go in and out of it.
+struct member {
+    const kernel_row* row;
+    bool is_float() const { return row->in == lane_type::f32; }
+    bool is_native() const { return row->tier == std::string_view("native"); }
+    uint64_t word(double x) const { return word_of(row->in, x); }
+    uint64_t of_words(std::vector<uint64_t> x) const {
+        sweep f(row->name, row->tier, 1);
+        std::vector<words> arguments;
+        for (auto w : x)
+            arguments.push_back({w});
+        return f(arguments)[0][0];
+    }
+    double operator()(double x) const { return value_of(row->in, of_words({word(x)})); }
+    double operator()(double y, double x) const { return value_of(row->in, of_words({word(y), word(x)})); }
+    double rounded(double x) const { return value_of(row->in, word(x)); } // to the type
+    int status(std::vector<double> x) const {
+        std::vector<uint64_t> lane;
+        for (double v : x)
+            lane.push_back(word(v));
+        return call_slow_path(library_under_test(), *row, lane).status;
+    }
+    uint64_t quiet() const { return is_float() ? 0x7FC00000 : 0x7FF8000000000000; }
+    uint64_t sign() const { return is_float() ? 0x80000000 : 0x8000000000000000; }
+};
+// f on every tier of a function for both types.
+template <class F> void each_member(const char* name, F f) {
+    for (auto type : {"", "f"})
+        for (auto tier : {"default", "native"}) {
+            SCOPED_TRACE(std::string(name) + type + " " + tier);
+            f(member{find_row(library_rows(), std::string(name) + type, tier)});
+        }
+}
+// +0 is not -0.
+void expect_same(double a, double b) {
+    EXPECT_EQ(std::bit_cast<uint64_t>(a), std::bit_cast<uint64_t>(b)) << a << " " << b;
+}
+
+TEST(InverseTrigonometry, OutsideTheDomain) {
+    for (auto name : {"asin", "acos", "asinpi", "acospi"})
+        each_member(name, [](const member& f) {
+            const double after_one = f.is_float() ? std::nextafterf(1, 2) : std::nextafter(1, 2);
+            for (double x : {after_one, 2.0, 1e30, inf})
+                for (double s : {x, -x}) {
+                    EXPECT_EQ(f.of_words({f.word(s)}), f.quiet()) << s;
+                    EXPECT_EQ(f.status({s}), 1) << s;
+                }
+        });
+}
+
+TEST(InverseTrigonometry, NanKeepsItsPayload) {
+    for (auto name : {"asin", "acos", "asinpi", "acospi", "atan", "atanpi"})
+        each_member(name, [](const member& f) {
+            const uint64_t signalling = f.is_float() ? 0x7F812345 : 0x7FF0000012345678;
+            for (uint64_t s : {uint64_t(0), f.sign()})
+                EXPECT_EQ(f.of_words({signalling | s}) & ~f.sign(), signalling | f.quiet());
+        });
+    for (auto name : {"atan2", "atan2pi"})
+        each_member(name, [](const member& f) {
+            const uint64_t signalling = (f.is_float() ? 0x7F812345 : 0x7FF0000012345678) | f.sign();
+            for (double other : {0.0, -0.0, 1.0, inf, -inf}) {
+                EXPECT_EQ(f.of_words({signalling, f.word(other)}), signalling | f.quiet()) << other;
+                EXPECT_EQ(f.of_words({f.word(other), signalling}), signalling | f.quiet()) << other;
+            }
+        });
+}
+
+TEST(InverseTrigonometry, ExactValues) {
+    each_member("asin", [](const member& f) {
+        for (double s : {1.0, -1.0}) {
+            expect_same(f(s * 0.0), s * 0.0);
+            expect_same(f(s), f.rounded(s * pi / 2));
+            const double subnormal = f.is_float() ? 0x7FFFFFp-149 : 0xFFFFFFFFFFFFFp-1074;
+            if (!f.is_native() || !f.is_float()) expect_same(f(s * subnormal), s * subnormal);
+        }
+    });
+    each_member("acos", [](const member& f) {
+        for (double s : {1.0, -1.0})
+            expect_same(f(s * 0.0), f.rounded(pi / 2));
+        expect_same(f(1.0), 0.0);
+        expect_same(f(-1.0), f.rounded(pi));
+    });
+    each_member("asinpi", [](const member& f) {
+        for (double s : {1.0, -1.0}) {
+            expect_same(f(s * 0.0), s * 0.0);
+            expect_same(f(s), s * 0.5);
+            EXPECT_EQ(f.status({s}), 0);
+        }
+    });
+    each_member("acospi", [](const member& f) {
+        expect_same(f(0.0), 0.5);
+        expect_same(f(-0.0), 0.5);
+        expect_same(f(1.0), 0.0);
+        expect_same(f(-1.0), 1.0);
+        EXPECT_EQ(f.status({-1.0}), 0);
+    });
+    each_member("atan", [](const member& f) {
+        for (double s : {1.0, -1.0}) {
+            expect_same(f(s * 0.0), s * 0.0);
+            expect_same(f(s * inf), f.rounded(s * pi / 2));
+            expect_same(f(s * (f.is_float() ? 0x1p127 : 0x1p1023)), f.rounded(s * pi / 2));
+            if (!f.is_native()) expect_same(f(s * 0x1p-149), s * 0x1p-149);
+        }
+    });
+    each_member("atanpi", [](const member& f) {
+        const double limit = f.is_float() ? 0x1p123 : 0x1p993;
+        for (double s : {1.0, -1.0}) {
+            expect_same(f(s * 0.0), s * 0.0);
+            for (double x : {limit, f.is_float() ? std::nextafterf(limit, 0) : std::nextafter(limit, 0), inf})
+                expect_same(f(s * x), s * 0.5);
+        }
+    });
+    expect_same(member{find_row(library_rows(), "atanpi", "default")}(1.0), 0.25);
+}
+
+// Zeros, finite numbers and infinities of both signs: all angles are multiples of an eighth of a turn.
+TEST(InverseTrigonometry, Quadrants) {
+    for (bool over_pi : {false, true})
+        each_member(over_pi ? "atan2pi" : "atan2", [&](const member& f) {
+            for (double y : {0.0, 2.5, inf})
+                for (double x : {0.0, 3.5, inf})
+                    for (double t : {y, -y})
+                        for (double s : {x, -x}) {
+                            if (y == 2.5 && x == 3.5) continue;
+                            const double eighths = std::rint(std::atan2(t, s) / (pi / 4)); // keeps -0
+                            SCOPED_TRACE(testing::Message() << t << " " << s);
+                            expect_same(f(t, s), over_pi ? eighths / 4 : f.rounded(std::atan2(t, s)));
+                            EXPECT_EQ(f.status({t, s}), over_pi && t == 0 && s == 0);
+                        }
+            // The diagonal of very large and of very small numbers, and exponents that far apart that only the
+            // quadrant is left.
+            const double large = f.is_float() ? 0x1p126 : 0x1p1000, small = f.is_float() ? 0x1p-126 : 0x1p-1022;
+            for (double m : {large, small})
+                for (double t : {m, -m}) {
+                    expect_same(f(t, m), f.rounded(over_pi ? std::copysign(0.25, t) : std::copysign(pi / 4, t)));
+                    expect_same(f(t, -m), f.rounded(over_pi ? std::copysign(0.75, t) : std::atan2(t, -m)));
+                }
+            expect_same(f(large, small), f.rounded(over_pi ? 0.5 : pi / 2));
+            expect_same(f(-small, -large), f.rounded(over_pi ? -1.0 : -pi));
+        });
+}
+
+// ---- Errors.
+
+long double asinpi_of(long double x) { return asinl(x) / std::numbers::pi_v<long double>; }
+long double acospi_of(long double x) { return acosl(x) / std::numbers::pi_v<long double>; }
+long double atanpi_of(long double x) { return atanl(x) / std::numbers::pi_v<long double>; }
+long double atan2pi_of(long double y, long double x) { return atan2l(y, x) / std::numbers::pi_v<long double>; }
+
+TEST(InverseTrigonometry, LargestErrors) {
+    for (const auto& a : {accuracy{"asin", "default", 2.09, -1, 1, asinl},
+                          {"asin", "native", 4.70e6 * more, -1, 1, asinl},
+                          {"asinf", "default", 2.25, -1, 1, asinl},
+                          {"asinf", "native", 536 * more, -1, 1, asinl},
+                          {"acos", "default", 1.24, -1, 1, acosl},
+                          {"acos", "native", 4.81e6 * more, -1, 1, acosl},
+                          {"acosf", "default", 1.23, -1, 1, acosl},
+                          {"acosf", "native", 531 * more, -1, 1, acosl},
+                          {"asinpi", "default", 2.39, -1, 1, asinpi_of},
+                          {"asinpi", "native", 5.99e6 * more, -1, 1, asinpi_of},
+                          {"asinpif", "default", 2.59, -1, 1, asinpi_of},
+                          {"asinpif", "native", 681, -1, 1, asinpi_of},
+                          {"acospi", "default", 2.29, -1, 1, acospi_of},
+                          {"acospi", "native", 4.54e6 * more, -1, 1, acospi_of},
+                          {"acospif", "default", 2.42, -1, 1, acospi_of},
+                          {"acospif", "native", 529, -1, 1, acospi_of},
+                          {"atan", "default", 2.04, -10, 10, atanl},
+                          {"atan", "default", 2.04, 1e-300, 1e300, atanl, true},
+                          {"atan", "native", 2.17e7 * more, -10, 10, atanl},
+                          {"atanf", "default", 2.17, -10, 10, atanl},
+                          {"atanf", "native", 3772 * more, -10, 10, atanl},
+                          {"atanpi", "default", 2.82 * more, -10, 10, atanpi_of},
+                          {"atanpi", "default", 2.82 * more, 1e-300, 1e290, atanpi_of, true},
+                          {"atanpi", "native", 2.18e7 * more, -10, 10, atanpi_of},
+                          {"atanpif", "default", 3.20 * more, -10, 10, atanpi_of},
+                          {"atanpif", "native", 3773 * more, -10, 10, atanpi_of}})
+        check_accuracy(a);
+}
+
+// Arguments (y, x) of all quadrants: y by its exponent, and x a ratio away from it.
+struct ranges {
+    long double y_lo, y_hi, ratio_lo, ratio_hi;
+};
+worst error_of_pairs(const char* name, const char* tier, extended_function2 reference, const ranges& a, int n) {
+    sweep f(name, tier, 8);
+    truth t;
+    rng r(41);
+    auto within = [&](long double lo, long double hi) {
+        const auto v = std::exp(std::uniform_real_distribution<long double>(std::log(lo), std::log(hi))(r));
+        return r() % 2 ? v : -v;
+    };
+    words y, x;
+    for (int i = 0; i < n; i++) {
+        const long double v = within(a.y_lo, a.y_hi);
+        y.push_back(word_of(f.row().in, v));
+        x.push_back(word_of(f.row().in, v * within(a.ratio_lo, a.ratio_hi)));
+    }
+    return sampled_error(f, t, y, x, reference);
+}
+struct pair_accuracy {
+    const char *name, *tier;
+    double bound;
+    extended_function2 reference;
+};
+void check_pairs(const pair_accuracy& a, std::initializer_list<ranges> all, int n) {
+    worst w;
+    for (const auto& range : all)
+        if (const auto e = error_of_pairs(a.name, a.tier, a.reference, range, n); e.ulps > w.ulps) w = e;
+    EXPECT_LE(w.ulps, a.bound) << a.name << " " << a.tier << std::hex << " at " << w.argument << " " << w.second;
+    EXPECT_GT(w.ulps, 0.4) << a.name << ": nothing was measured";
+    printf("%-8s %-8s largest error %.4g ulp\n", a.name, a.tier, w.ulps);
+}
+
+TEST(InverseTrigonometry, LargestErrorsOfTwoArguments) {
+    for (const auto& a : {pair_accuracy{"atan2", "default", 2.57, atan2l},
+                          {"atan2", "native", 2.18e7 * more, atan2l},
+                          {"atan2f", "default", 3.11, atan2l},
+                          {"atan2f", "native", 3773 * more, atan2l},
+                          {"atan2pi", "default", 3.07 * more, atan2pi_of},
+                          {"atan2pi", "native", 2.18e7 * more, atan2pi_of},
+                          {"atan2pif", "default", 2.81, atan2pi_of},
+                          {"atan2pif", "native", 3772 * more, atan2pi_of}})
+        check_pairs(a, {{1e-6, 1e6, 0.1, 10}, {1e-12, 1e12, 1e-9, 1e9}}, 500'000);
+}
+
+// Beyond the kernels' range: |y| below 2^-1020 or above 2^993 (float: 2^-125 and 2^123), and quotients of every kind.
+TEST(InverseTrigonometry, SlowPathsOfTwoArguments) {
+    const std::initializer_list<ranges> doubles = {{1e299, 1e307, 1e-5, 5},
+                                                   {1e299, 1e307, 1e-24, 1e-16},
+                                                   {1e-320, 8e-308, 1e-5, 1e5},
+                                                   {1e-320, 8e-308, 1e-24, 1e-16}};
+    const std::initializer_list<ranges> floats = {{1.1e37, 1e38, 1e-5, 3},
+                                                  {1.1e37, 1e38, 1e-24, 1e-16},
+                                                  {1e-44, 2.3e-38, 1e-5, 1e5}},
+                                        tiny_float_quotients = {{1e-44, 2.3e-38, 1e16, 1e36}, {1e-44, 2.3e-38, 1e37, 1e45}};
+    const std::initializer_list<ranges> tiny_quotients = {{1e-320L, 8e-308, 1e16, 1e300}, {1e-320L, 8e-308, 1e307, 1e323L}};
+    check_pairs({"atan2", "default", 0.513, atan2l}, doubles, 100'000);
+    check_pairs({"atan2pi", "default", 0.64, atan2pi_of}, doubles, 100'000); // by the constants near half a turn
+    check_pairs({"atan2f", "default", 0.513, atan2l}, floats, 100'000);
+    check_pairs({"atan2pif", "default", 0.513, atan2pi_of}, floats, 100'000);
+    // Results that are subnormal are rounded twice.
+    check_pairs({"atan2", "default", 0.75, atan2l}, tiny_quotients, 100'000);
+    check_pairs({"atan2pi", "default", 0.75, atan2pi_of}, tiny_quotients, 100'000);
+    check_pairs({"atan2f", "default", 0.75, atan2l}, tiny_float_quotients, 100'000);
+    check_pairs({"atan2pif", "default", 0.75, atan2pi_of}, tiny_float_quotients, 100'000);
+}
+
+TEST(InverseTrigonometry, SlowPathsOfAtanpi) {
+    for (const auto& [name, lo, hi] : {std::tuple{"atanpi", 0x1p-1074, 0x1p-1021}, {"atanpif", 0x1p-149, 0x1p-126}}) {
+        sweep f(name);
+        truth t;
+        const auto w = sampled_error(f, t, spread(f.row().in, lo, hi, 300'000, true, 51), atanpi_of);
+        EXPECT_LE(w.ulps, 0.75) << name << std::hex << " at " << w.argument; // some results are rounded twice
+        EXPECT_GT(w.ulps, 0.4) << name;
+        printf("%-8s slow path: largest error %.4f ulp\n", name, w.ulps);
+    }
+}
+
+// Both sides of every change of form.
+TEST(InverseTrigonometry, ErrorsAtTheSeams) {
+    struct seam {
+        const char* name;
+        extended_function reference;
+        double at, bound, bound_of_float;
+    };
+    for (const auto& s : {seam{"asin", asinl, 0.5, 2.09, 2.25},
+                          {"acos", acosl, 0.5, 1.24, 1.23},
+                          {"asinpi", asinpi_of, 0.5, 2.39, 2.59},
+                          {"acospi", acospi_of, 0.5, 2.29, 2.42},
+                          {"asin", asinl, 1 - 1e-5, 2.09, 2.25},
+                          {"acos", acosl, 1 - 1e-5, 1.24, 1.23},
+                          {"atan", atanl, 7.875, 2.04, 2.17},
+                          {"atan", atanl, 0.125, 2.50, 2.17},
+                          {"atan", atanl, 1.0, 2.04, 2.17},
+                          {"atan", atanl, 0x1p63, 2.04, 2.17},
+                          {"atanpi", atanpi_of, 1.0, 2.82 * more, 3.20 * more}})
+        for (auto type : {"", "f"}) {
+            sweep f(std::string(s.name) + type);
+            truth t;
+            words x;
+            for (double at : {s.at, -s.at})
+                for (int i = -2000; i <= 2000; i++)
+                    x.push_back(word_of(f.row().in, at) + i);
+            const auto w = sampled_error(f, t, x, s.reference);
+            EXPECT_LE(w.ulps, *type ? s.bound_of_float : s.bound) << s.name << type << std::hex << " at " << w.argument;
+        }
+}
+
+TEST(InverseTrigonometry, LongEveryFloat) {
+    struct all {
+        const char* name;
+        double bound;
+        double (*reference)(double);
+    };
+    for (const auto& [name, bound, reference] :
+         {all{"asinf", 2.25, std::asin}, {"acosf", 1.23, std::acos}, {"atanf", 2.17, std::atan},
+          {"asinpif", 2.59, [](double x) { return std::asin(x) / pi; }},
+          {"acospif", 2.42, [](double x) { return std::acos(x) / pi; }},
+          {"atanpif", 3.20 * more, [](double x) { return std::atan(x) / pi; }}}) {
+        const auto w = error_over_all_floats(name, "default", reference);
+        EXPECT_LE(w.ulps, bound) << name << std::hex << " at " << w.argument;
+        printf("%-8s over all floats: %.4f ulp at %08x\n", name, w.ulps, (unsigned)w.argument);
+    }
+}
+
+} // namespace
