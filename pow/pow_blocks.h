@@ -73,8 +73,7 @@ struct spow_block {
     GAP(2, 133)
     ORVANE_REDUCED_CORE(200, exp_chords)
     SLOT(int32_t, 480, word_abs2, 0x7FFFFFFF)
-    SLOT(int32_t, 481, p_word_limit2,
-         0x4059FE36) // bound on the high word of abs(y * ln x), about 103.97 (150 * ln 2)
+    SLOT(int32_t, 481, p_word_limit2, 0x4059FE36) // of the high word of abs(y * ln x), about 103.97 (150 * ln 2)
 };
 struct spow_rm_block {
     SLOT(float, 0, ln_k2, 0xBF000000) // -0.5

@@ -97,7 +97,7 @@ template <class Front, const auto& Block, auto& Rare> struct pownf_in_pairs : ke
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x, lanes<int32_t, W> n) {
         auto ax = x & c.f_abs;
-        auto near = lanes<float, W>((typename lanes<float, W>::raw)((signed_bits(ax) + c.near_add) > c.near_limit).v);
+        auto near = as<float>((signed_bits(ax) + c.near_add) > c.near_limit);
         auto m = (ax & c.m_mask) | c.f_one;
         auto kf = convert<float>((signed_bits(ax) >> 23) - c.exp127);
         auto i = ((signed_bits(ax) & c.i_mask) + c.i_round) >> 17;
