@@ -1,5 +1,5 @@
-// tan and tanf: tables, symmetry, and errors on both paths. What the reciprocal estimate feeds (the fast tanf kernel and
-// the large path) is held against bounds above what was measured.
+// tan and tanf: tables, symmetry, and errors on both paths. What the reciprocal estimate feeds (the fast tanf kernel
+// and the large path) is held against bounds above what was measured.
 #include "accuracy.h"
 
 using namespace orvane;
