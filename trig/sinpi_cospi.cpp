@@ -77,7 +77,7 @@ template <class T, int W> struct turned {
 template <int W> ORVANE_INLINE turned<float, W> without_integer(const auto&, lanes<float, W> x) {
     auto n = round_to<to_nearest>(x);
     auto f = x - n;
-    return {f, as<float>(convert<int32_t>(n) << 31)}; // beyond the integers, where all floats are even, an even number
+    return {f, as<float>(convert<int32_t>(n) << 31)}; // beyond their range, where floats are even, an even integer
 }
 // In doubles a shift of the value brings the integer into the low bits; above 2^53 all doubles are even.
 template <int W> ORVANE_INLINE turned<double, W> without_integer(const auto& c, lanes<double, W> x) {

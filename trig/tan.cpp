@@ -7,8 +7,8 @@ namespace orvane {
 ORVANE_SLOW_PATH(__orvane_stan_cout_rare, const float* x, float* result);
 ORVANE_SLOW_PATH(__orvane_dtan_cout_rare, const double* x, double* result);
 
-// Row j of tan around a = pi j/N: with b = pi/2 - a the polynomial in R of tan(a + R) - pole / (b - R), where pole is 1
-// in the half of the rows around pi/2, else 0. The first two coefficients are in two parts, c1_head a power of two.
+// Row j of tan around a = pi j/N: with b = pi/2 - a the polynomial in R of tan(a + R) - pole / (b - R), where pole is
+// 1 in the half of the rows around pi/2, else 0. The first two coefficients are in two parts, c1_head a power of two.
 template <class T> struct tan_row;
 template <> struct tan_row<float> { float pb_hi, pb_lo, pole, c0_hi, c0_lo, c1_head, c1_tail, c2, c3, c4; };
 template <> struct tan_row<double> {

@@ -13,8 +13,8 @@ namespace {
 //
 //     c0_lo + c1_tail R + c2 R^2 + ... ~ g(R) - c0_hi - c1_head R,   g(R) = tan(a + R) - pole / (b - R)
 //
-// by least squares relative to g (in the row of the pole itself, where g is small, absolute) at the Chebyshev nodes of
-// the interval. They are rounded in turn, c1 first, to two bits more than T has, then the higher powers and at last
+// by least squares relative to g (in the row of the pole itself, where g is small, absolute) at the Chebyshev nodes
+// of the interval. They are rounded in turn, c1 first, to two bits more than T has, then the higher powers and, last,
 // c0_lo, what is left being fitted anew each time, so that it makes up for the rounding of those before.
 //
 // The largest error of a row relative to tan(a + R): 2^-30.8 in float (row 0), 2^-60.9 in double (rows 3 and 253).
@@ -59,7 +59,7 @@ template <class T> struct tan_rows {
         auto g = [&](const real& R) { return pole ? tan(a + R) - 1 / (b - R) : tan(a + R); };
         const real g0 = odd ? zero : g(zero), g1 = at_pole ? real(1) / 3 : 1 + t * t - (pole ? 1 / (b * b) : zero);
         const T pb_hi = rounded(b), c0_hi = rounded(g0);
-        const T c1_head = (T)std::exp2(std::floor(std::log2(rounded_f64(g1 / 1.5))) + 1); // g1 / c1_head in [0.75, 1.5)
+        const T c1_head = (T)std::exp2(std::floor(std::log2(rounded_f64(g1 / 1.5))) + 1); // ratio in [0.75, 1.5)
 
         sums s;
         moments right;
