@@ -188,10 +188,14 @@ ORVANE_BLOCK_TWIN(__orvane_sacospi_native_data, __orvane_sacospi_data)
 // 1 / sqrt(w) with one correction: s = 2 w e, d = s e - 2 (twice what e^2 w is off 1), s - s d (1/4 - ...).
 template <bool Native, bool Cosine, class V> ORVANE_INLINE V two_roots(const auto& c, V w) {
     if constexpr (Native && requires { c.sq_c0; }) {
+        // No infinity where w is 0: s is 0 then and d -2, whatever finite e may be.
+        constexpr bool takes_zero = requires { c.w_floor; };
         V e;
-        if constexpr (sizeof(typename V::element) == 8) e = convert<double>(rsqrt_estimate(convert<float>(w)));
+        if constexpr (sizeof(typename V::element) == 8) {
+            e = convert<double>(rsqrt_estimate(convert<float>(w)));
+            if constexpr (takes_zero) e = keep(V(c.w_floor) <= w, e);
+        } else if constexpr (takes_zero) e = rsqrt_estimate(max(w, V(c.w_floor)));
         else e = rsqrt_estimate(w);
-        if constexpr (requires { c.w_floor; }) e = keep(V(c.w_floor) <= w, e); // no infinity where w is 0
         V s = (w + w) * e;
         V d = fma(s, e, -V(c.two));
         V k = c.sq_c0;
@@ -256,7 +260,7 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
             y = keep(big, V(c.pi_half)) + fma_in_order(R, Q_of<Native>(c, t), R);
         else if constexpr (Native) y = fma_in_order(R, J_of<Native>(c, t), keep(big, V(c.half)));
         else y = fma_in_order(Q_of<Native>(c, t), R, fma(R, V(c.inv_pi), keep(big, V(c.half))));
-        return answer{y ^ andnot(V(c.sign_or_abs), x), special};
+        return answer{y ^ (x & c.neg_zero), special};
     }
     // The pi forms leave +-1 to the slow path as well.
     template <class V> static ORVANE_INLINE auto is_special(const auto& c, V ax) {
