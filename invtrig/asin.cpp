@@ -18,20 +18,19 @@ ORVANE_SLOW_PATH(__orvane_sasinpi_cout_rare, const float* x, float* result);
 ORVANE_SLOW_PATH(__orvane_dacospi_cout_rare, const double* x, double* result);
 ORVANE_SLOW_PATH(__orvane_sacospi_cout_rare, const float* x, float* result);
 
-inline constexpr coefficients<double, 12> asin_long = {
-    {0x3FA07520C70EB909, 0xBF90FB17F7DBB0ED, 0x3F943F44BFBC3BAE, 0x3F7A583395D45ED5, 0x3F88F8DC2AFCCAD6,
-     0x3F8C6DBBCB88BD57, 0x3F91C6DCF538AD2E, 0x3F96E89CEBDEFADD, 0x3F9F1C72E13AD8BE, 0x3FA6DB6DB3B445F8,
-     0x3FB333333337E0DE, 0x3FC555555555529C}};
+inline constexpr coefficients<double, 12> asin_long = {{0x3FA07520C70EB909, 0xBF90FB17F7DBB0ED, 0x3F943F44BFBC3BAE,
+                                                        0x3F7A583395D45ED5, 0x3F88F8DC2AFCCAD6, 0x3F8C6DBBCB88BD57,
+                                                        0x3F91C6DCF538AD2E, 0x3F96E89CEBDEFADD, 0x3F9F1C72E13AD8BE,
+                                                        0x3FA6DB6DB3B445F8, 0x3FB333333337E0DE, 0x3FC555555555529C}};
 inline constexpr coefficients<double, 12> asinpi_long = {
     {0x3F84F4523BC020D8, 0xBF759EE439EEE799, 0x3F79C78AE09A5457, 0x3F60C57DF579794A, 0x3F6FCBA466EA069B,
      0x3F7219262ADC70A8, 0x3F76A256C108AAED, 0x3F7D2B0EA1978F74, 0x3F83CE53573AD4F4, 0x3F8D1A452B1C8F4E,
      0x3F98723A1D5E7F21, 0x3FAB2995E7B7B28B}};
-inline constexpr coefficients<double, 6> asin_short = {
-    {0x3FA36C5AF645A11E, 0x3F8CE147EA9E9282, 0x3FA056B4151FA155, 0x3FA6C8ED2A4CCE54, 0x3FB33399EBF85B6A,
-     0x3FC5555480C83A45}};
-inline constexpr coefficients<double, 6> asinpi_short = {
-    {0x3F88BAFFDA4549F0, 0x3F7262B57524FB3B, 0x3F84CD955BDDED9F, 0x3F8D02B66C2AD236, 0x3F9872BCE76EFA44,
-     0x3FAB2994D916CB05}};
+inline constexpr coefficients<double, 6> asin_short = {{0x3FA36C5AF645A11E, 0x3F8CE147EA9E9282, 0x3FA056B4151FA155,
+                                                        0x3FA6C8ED2A4CCE54, 0x3FB33399EBF85B6A, 0x3FC5555480C83A45}};
+inline constexpr coefficients<double, 6> asinpi_short = {{0x3F88BAFFDA4549F0, 0x3F7262B57524FB3B, 0x3F84CD955BDDED9F,
+                                                          0x3F8D02B66C2AD236, 0x3F9872BCE76EFA44,
+                                                          0x3FAB2994D916CB05}};
 inline constexpr coefficients<float, 5> asinf_long = {{0x3D2EDC07, 0x3CC32A6B, 0x3D3A9AB4, 0x3D997C12, 0x3E2AAAFF}};
 inline constexpr coefficients<float, 5> asinpif_long = {{0x3C5EA355, 0x3BF87E20, 0x3C6D978C, 0x3CC36C37, 0x3D594D1B}};
 inline constexpr coefficients<float, 3> asinf_short = {{0x3DC4C6AE, 0x3E2876B2, 0x380561A3}};
@@ -184,14 +183,18 @@ struct sacospi_block {
 ORVANE_BLOCK(sacospi_block, __orvane_sacospi_data)
 ORVANE_BLOCK_TWIN(__orvane_sacospi_native_data, __orvane_sacospi_data)
 
-// -2 sqrt(w) or, for the arc cosine, +2 sqrt(w): by the square-root instruction, or from the processor's estimate e of
-// 1 / sqrt(w) with one correction: s = 2 w e, d = s e - 2 (twice what e^2 w is off 1), s - s d (1/4 - ...).
+// -2 sqrt(w) or, for the arc cosine, +2 sqrt(w): by the square-root instruction, or from the processor's estimate e
+// of 1 / sqrt(w) with one correction: s = 2 w e, d = s e - 2 (twice what e^2 w is off 1), s - s d (1/4 - ...).
 template <bool Native, bool Cosine, class V> ORVANE_INLINE V two_roots(const auto& c, V w) {
     if constexpr (Native && requires { c.sq_c0; }) {
+        // No infinity where w is 0: s is 0 then and d -2, whatever finite e may be.
+        constexpr bool takes_zero = requires { c.w_floor; };
         V e;
-        if constexpr (sizeof(typename V::element) == 8) e = convert<double>(rsqrt_estimate(convert<float>(w)));
+        if constexpr (sizeof(typename V::element) == 8) {
+            e = convert<double>(rsqrt_estimate(convert<float>(w)));
+            if constexpr (takes_zero) e = keep(V(c.w_floor) <= w, e);
+        } else if constexpr (takes_zero) e = rsqrt_estimate(max(w, V(c.w_floor)));
         else e = rsqrt_estimate(w);
-        if constexpr (requires { c.w_floor; }) e = keep(V(c.w_floor) <= w, e); // no infinity where w is 0
         V s = (w + w) * e;
         V d = fma(s, e, -V(c.two));
         V k = c.sq_c0;
@@ -252,11 +255,10 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
         V t = min(ax * ax, w);
         V R = select(big, two_roots<Native, false>(c, w), ax);
         V y;
-        if constexpr (requires { c.pi_half; })
-            y = keep(big, V(c.pi_half)) + fma_in_order(R, Q_of<Native>(c, t), R);
+        if constexpr (requires { c.pi_half; }) y = keep(big, V(c.pi_half)) + fma_in_order(R, Q_of<Native>(c, t), R);
         else if constexpr (Native) y = fma_in_order(R, J_of<Native>(c, t), keep(big, V(c.half)));
         else y = fma_in_order(Q_of<Native>(c, t), R, fma(R, V(c.inv_pi), keep(big, V(c.half))));
-        return answer{y ^ andnot(V(c.sign_or_abs), x), special};
+        return answer{y ^ (x & c.neg_zero), special};
     }
     // The pi forms leave +-1 to the slow path as well.
     template <class V> static ORVANE_INLINE auto is_special(const auto& c, V ax) {
@@ -292,16 +294,11 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_cosine
     }
 };
 
-#define ORVANE_ARC(family, Kernel, d)                                                                                \
-    using d##family##_default = Kernel<d##_element, __orvane_##d##family##_data, __orvane_##d##family##_cout_rare,   \
-                                       false>;                                                                       \
-    using d##family##_fast = Kernel<d##_element, __orvane_##d##family##_native_data,                                 \
-                                    __orvane_##d##family##_cout_rare, true>;
-using d_element = double;
-using s_element = float;
 #define ORVANE_ARCS(family, Kernel)                                                                                  \
-    ORVANE_ARC(family, Kernel, d)                                                                                    \
-    ORVANE_ARC(family, Kernel, s)                                                                                    \
+    using d##family##_default = Kernel<double, __orvane_d##family##_data, __orvane_d##family##_cout_rare, false>;    \
+    using d##family##_fast = Kernel<double, __orvane_d##family##_native_data, __orvane_d##family##_cout_rare, true>; \
+    using s##family##_default = Kernel<float, __orvane_s##family##_data, __orvane_s##family##_cout_rare, false>;     \
+    using s##family##_fast = Kernel<float, __orvane_s##family##_native_data, __orvane_s##family##_cout_rare, true>;  \
     ORVANE_EXPORT(family, , d##family##_default)                                                                     \
     ORVANE_EXPORT(family, _native, d##family##_fast)                                                                 \
     ORVANE_EXPORT(family##f, , s##family##_default)                                                                  \

@@ -1,14 +1,12 @@
-// The slow paths of asin, acos, asinpi and acospi: what lies outside [-1, 1], and exact values at +-1 of the pi forms,
-// whose kernels stop short of them.
+// The slow paths of asin, acos, asinpi and acospi: what lies outside [-1, 1], and exact values at +-1 of the pi
+// forms, whose kernels stop short of them.
 #include "frame/rare.h"
 
 namespace orvane {
 
 namespace {
 
-template <class T> struct at_one {
-    T plus, minus;
-};
+template <class T> struct at_one { T plus, minus; };
 
 // A NaN itself, quiet; outside the domain the positive NaN.
 template <class T> int outside(T x, T* result, const at_one<T>* exact = nullptr) {

@@ -14,9 +14,9 @@ ORVANE_SLOW_PATH(__orvane_satanpi_cout_rare, const float* x, float* result);
 inline constexpr table<double, 32> atan_quarters = {{
 #include "invtrig/tables/atan_quarters.inc"
 }};
-inline constexpr coefficients<double, 6> atan_near_quarter = {
-    {0x3FB2E9B9F5C4FE97, 0xBFB74257C46790CC, 0x3FBC71BFEFF916A0, 0xBFC249248EEF04DA, 0x3FC999999998741E,
-     0xBFD555555555554D}};
+inline constexpr coefficients<double, 6> atan_near_quarter = {{0x3FB2E9B9F5C4FE97, 0xBFB74257C46790CC,
+                                                               0x3FBC71BFEFF916A0, 0xBFC249248EEF04DA,
+                                                               0x3FC999999998741E, 0xBFD555555555554D}};
 
 struct datan_block {
     SLOT(double, 0, abs_mask, 0x7FFFFFFFFFFFFFFF)
@@ -111,8 +111,8 @@ struct satanpi_native_block {
 };
 ORVANE_BLOCK(satanpi_native_block, __orvane_satanpi_native_data)
 
-// atan x = atan c + atan((x - c) / (1 + c x)), c the multiple of 1/4 nearest to |x|; from 7.875 up pi/2 - atan(1 / x).
-// Every lane comes out right: at 2^128 and above, where 1 / x no longer counts, x is capped.
+// atan x = atan c + atan((x - c) / (1 + c x)), c the multiple of 1/4 nearest to |x|; from 7.875 up pi/2 - atan(1 /
+// x). Every lane comes out right: at 2^128 and above, where 1 / x no longer counts, x is capped.
 struct atan_table_kernel : kernel<one_argument<double>> {
     static constexpr auto& block = __orvane_datan_data_avx512;
     template <int W> static ORVANE_INLINE auto vector_path(const datan_block& c, lanes<double, W> x) {
@@ -181,8 +181,8 @@ ORVANE_EXPORT(atan, _native, atan_native)
 ORVANE_EXPORT_SETTLED(atanf, , atanf_default)
 ORVANE_EXPORT(atanf, _native, atanf_native)
 
-template <class T, const auto& Block, auto& Rare, class Quotient, bool Native>
-struct atanpi_kernel : kernel<one_argument<T>> {
+template <class T, const auto& Block, auto& Rare, class Quotient, bool Native> struct atanpi_kernel
+    : kernel<one_argument<T>> {
     static constexpr auto& block = Block;
     static constexpr auto& slow_path = Rare;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {

@@ -1,5 +1,5 @@
-// atan2 and atan2pi: the quotient of the smaller by the larger magnitude, one polynomial for the first octant, and the
-// quadrant by signs and one addition.
+// atan2 and atan2pi: the quotient of the smaller by the larger magnitude, one polynomial for the first octant, and
+// the quadrant by signs and one addition.
 #include "frame/rare.h"
 #include "invtrig/atan_kernels.h"
 
@@ -116,9 +116,7 @@ struct two_chains_summed {
     }
 };
 struct horner_summed {
-    template <class V> static ORVANE_INLINE V octant(const auto& p, V q, V add) {
-        return add + q * horner(p, q * q);
-    }
+    template <class V> static ORVANE_INLINE V octant(const auto& p, V q, V add) { return add + q * horner(p, q * q); }
 };
 // Four chains in s^4: atan q = q + q U, U a multiple of s = q^2.
 struct four_chains {
@@ -133,8 +131,8 @@ struct four_chains {
 };
 
 // Octant and quadrant; Ties says whether |y| = |x| is turned round. All lanes out of range are special.
-template <class T, const auto& Block, auto& Rare, class Quotient, class Polynomial, bool Ties>
-struct atan2_in_range : kernel<two_arguments<T>> {
+template <class T, const auto& Block, auto& Rare, class Quotient, class Polynomial, bool Ties> struct atan2_in_range
+    : kernel<two_arguments<T>> {
     static constexpr auto& block = Block;
     static constexpr auto& slow_path = Rare;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> y, lanes<T, W> x) {
@@ -156,13 +154,16 @@ template <class InRange> struct atan2_with_zeros : InRange {
         V ax = x & c.abs_mask, ay = y & c.abs_mask, zero = c.zero;
         auto fix = ordered(x, y) & ((ax == zero) | (ay == zero));
         V add = keep(zero < ay, V(c.quarter_turn)); // x is 0 then
-        V turn = keep(signed_bits(x) < decltype(fix)(0), V(c.turn)); // by the bit, so that -0 counts
+        // By the sign bit, so that -0 counts.
+        V turn = keep(signed_bits(x) < decltype(fix)(0), V(c.turn));
         V r = ((add | (x & c.sign_mask)) + turn) | (y & c.sign_mask);
         return answer{select(fix, r, a.first), andnot(fix, a.special)};
     }
 };
 
-#define ORVANE_ATAN2(d, family, tier, element, Quotient, Polynomial, ties)                                               atan2_in_range<element, __orvane_##d##family##tier##_data, __orvane_##d##family##_cout_rare, Quotient,                              Polynomial, ties>
+#define ORVANE_ATAN2(d, family, tier, element, Quotient, Polynomial, ties)                                           \
+    atan2_in_range<element, __orvane_##d##family##tier##_data, __orvane_##d##family##_cout_rare, Quotient,           \
+                   Polynomial, ties>
 using atan2_default = atan2_with_zeros<ORVANE_ATAN2(d, atan2, , double, division, four_chains, true)>;
 using atan2_native =
     atan2_with_zeros<ORVANE_ATAN2(d, atan2, _native, double, word_estimate_fused, two_chains_fused, true)>;

@@ -1,5 +1,5 @@
-// Polynomials of the inverse trigonometric functions: coefficients in slots, highest power first, and the schemes that
-// more than one family evaluates them by.
+// Polynomials of the inverse trigonometric functions: coefficients in slots, highest power first, and the schemes
+// that more than one family evaluates them by.
 #pragma once
 
 #include "frame/slots.h"
@@ -21,8 +21,8 @@ template <int First, int Step, int Last, class V, class P> ORVANE_INLINE V chain
 
 template <class V, class P> ORVANE_INLINE V horner(const P& p, V x) { return chain<0, 1, P::count>(p, x); }
 
-// The first N coefficients as two chains in x^2 that run side by side; the one that ends on the last coefficient takes
-// the other times x.
+// The first N coefficients as two chains in x^2 that run side by side; the one that ends on the last coefficient
+// takes the other times x.
 template <int N, class V, class P> ORVANE_INLINE V two_chains(const P& p, V x) {
     V x2 = x * x;
     V other = chain<N % 2, 2, N>(p, x2), last = chain<1 - N % 2, 2, N>(p, x2);
