@@ -67,7 +67,7 @@ struct tanh_by_rows : kernel<one_argument<double>> {
             auto [even, odd] = row.template pair<double>(8 - 2 * i);
             p = fma(fma(p, y, odd), y, even);
         });
-        auto value = row.template entry<double>(1);
+        auto [rest, value] = row.template pair<double>(0);
         p = fma(p, y, value);
         return answer{p | (x & c.sign_mask), hw > c.hw_limit};
     }
