@@ -36,13 +36,15 @@ template <class F, class From, class To, int N> pass called() {
 }
 template <class F, class From, class To> family_peers plain() {
     constexpr int wide = 32 / std::max(sizeof(From), sizeof(To));
-    const peer c = {"C", called<F, From, To, wide>(), called<F, From, To, wide / 2>(), "C"};
-    return {c, {}, [](buffer& b) {
-                const From* x = b.argument[0].as<From>();
-                To* y = b.result[0].as<To>();
-                for (int i = 0; i < lanes_of_buffer; i++)
-                    y[i] = F::template of<To>(x[i]);
-            }, {}};
+    family_peers p;
+    p.accurate.emplace(peer{"C", called<F, From, To, wide>(), called<F, From, To, wide / 2>(), "C"});
+    p.scalar = [](buffer& b) {
+        const From* x = b.argument[0].as<From>();
+        To* y = b.result[0].as<To>();
+        for (int i = 0; i < lanes_of_buffer; i++)
+            y[i] = F::template of<To>(x[i]);
+    };
+    return p;
 }
 
 struct absolute {
@@ -99,7 +101,8 @@ family_peers plain_peers_of(const kernel_row& row) {
     auto has = [&](std::string_view part) { return row.name.find(part) != row.name.npos; };
     return with_type(row.in, [&]<class From>(type<From>) {
         return with_type(row.out, [&]<class To>(type<To>) -> family_peers {
-            if constexpr (std::is_floating_point_v<From> || std::is_floating_point_v<To>) {
+            constexpr bool from = std::is_floating_point_v<From>, to = std::is_floating_point_v<To>;
+            if constexpr (from != to || (from && sizeof(From) > sizeof(To))) {
                 const bool saturating = !has("nosat");
                 return has("rte")   ? conversion<From, To, rte>(saturating)
                        : has("rtn") ? conversion<From, To, rtn>(saturating)
