@@ -11,7 +11,9 @@ struct peer {
     const char* name;              // "u10": within 1.0 ulp; empty where SLEEF states no error
     pass wide;                     // 256 bits a call
     pass narrow;                   // 128 bits a call, for vectors that fit them
-    const char* library = "SLEEF"; // or "C", what the compiler makes of scalar code
+    const char* library;           // "SLEEF" or "C", what the compiler makes of scalar code
+    peer(const char* name, pass wide, pass narrow, const char* library = "SLEEF")
+        : name(name), wide(std::move(wide)), narrow(std::move(narrow)), library(library) {}
     const pass& at(int width, lane_type t) const { return width * size_of(t) <= 16 ? narrow : wide; }
 };
 
