@@ -171,7 +171,7 @@ private:
             for (int width : widths) {
                 const bool is_narrow = sleef && &sleef->at(width, row.in) == &sleef->narrow;
                 const std::string sleef_name =
-                    sleef ? family + "/SLEEF" + sleef->name + (is_narrow ? "x128" : "x256") : "";
+                    sleef ? family + '/' + sleef->library + (sleef->library[0] == 'C' ? "" : sleef->name) + (is_narrow ? "x128" : "x256") : "";
                 if (sleef) add(sleef_name, row, 16, has_special, sleef->at(width, row.in));
                 rows.push_back({family, names, width, error, sleef ? sleef->name : "", has_special,
                                 ours + std::to_string(width), sleef_name, scalar});
@@ -264,9 +264,10 @@ int main(int argc, char** argv) {
     gathering_reporter reporter(plan.benchmarks);
     RUN_PICKED(&reporter);
     benchmark::Shutdown();
-    printf("On %s: nanoseconds a lane, medians; a ratio is the peer's time over ours. SLEEF runs 128 bits a "
-           "call\n"
-           "beside vectors that fit them and else 256 (u10: within 1.0 ulp), libm one lane; ulp is our largest error over 65536 ordinary lanes.\n\n",
+    printf("On %s: nanoseconds a lane, medians; a ratio is the peer's time over ours. The vector peer is SLEEF's function\n"
+           "(u10: within 1.0 ulp) or, marked C, what the compiler makes of scalar code; it runs 128 bits a call beside "
+           "vectors that\nfit them and else 256. libm (for conversions an inlined loop) runs one lane; ulp is our largest "
+           "error over 65536 lanes.\n\n",
            processor().c_str());
     print_table(plan.rows, reporter);
 }

@@ -253,7 +253,6 @@ const std::map<std::string, peers_of_both_types>& floating_table() {
         {"ldexp", against(WITH_INTEGER(std::ldexp(x, n)), {{}, peer{"", vector_pass<4>(Sleef_ldexpd4_avx2), vector_pass<2>(ldexp_d2)}})},
         {"ilogb", against(ONE(std::ilogb(x)), {{}, peer{"", vector_pass<4>(Sleef_ilogbd4_avx2), vector_pass<2>(ilogb_d2)}})},
         {"logb", against(ONE(std::logb(x)))},
-        {"fabs", against(ONE(std::fabs(x)), SLEEF_PLAIN(fabs))},
         {"copysign", against(TWO(std::copysign(x, y)), SLEEF_PLAIN(copysign))},
         {"nextafter", against(TWO(std::nextafter(x, y)), SLEEF_PLAIN(nextafter))},
         {"fmax", against(TWO(std::fmax(x, y)), SLEEF_PLAIN(fmax))},
@@ -282,25 +281,6 @@ template <class T> pass division(std::string_view name) {
     return name.ends_with("div") ? scalar_pass<T>(TWO(x / y)) : scalar_pass<T>(TWO(x % y));
 }
 
-// Conversions: a rounding function and a cast; to a floating type a cast, which rounds to nearest.
-template <class From, class To> pass conversion(std::string_view name) {
-    auto cast_after = [](auto round) -> pass {
-        return [round](buffer& b) {
-            const From* x = b.argument[0].as<From>();
-            for (int i = 0; i < lanes_of_buffer; i++)
-                b.result[0].as<To>()[i] = To(round(x[i]));
-        };
-    };
-    auto has = [&](std::string_view mode) { return name.find(mode) != name.npos; };
-    if constexpr (std::is_integral_v<To> && std::is_floating_point_v<From>) {
-        if (has("rtn")) return cast_after([](From x) { return std::floor(x); });
-        if (has("rtp")) return cast_after([](From x) { return std::ceil(x); });
-        if (has("rte")) return cast_after([](From x) { return std::nearbyint(x); });
-        return cast_after([](From x) { return x; });
-    } else if (has("rte")) return cast_after([](From x) { return x; });
-    return {};
-}
-
 } // namespace
 
 family_peers peers_of(const kernel_row& row) {
@@ -309,15 +289,12 @@ family_peers peers_of(const kernel_row& row) {
     case signature_class::integer_pair:
         return {{}, {}, row.in == lane_type::i32 ? division<int32_t>(row.name) : division<uint32_t>(row.name), {}};
     case signature_class::conversion:
-        return with_type(row.in, [&]<class From>(type<From>) {
-            return with_type(row.out, [&]<class To>(type<To>) -> family_peers {
-                return {{}, {}, conversion<From, To>(row.name), {}};
-            });
-        });
+    case signature_class::bits_to_nan:
+        return plain_peers_of(row);
     default: {
         const auto& table = floating_table();
         const auto at = table.find(row.base());
-        if (at == table.end()) return {};
+        if (at == table.end()) return plain_peers_of(row);
         return row.in == lane_type::f32 ? at->second.f32 : at->second.f64;
     }
     }

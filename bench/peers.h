@@ -8,14 +8,17 @@
 namespace orvane::bench {
 
 struct peer {
-    const char* name; // "u10": within 1.0 ulp; "-" where SLEEF states no error
-    pass wide;        // 256 bits a call
-    pass narrow;      // 128 bits a call, for vectors that fit them
+    const char* name;              // "u10": within 1.0 ulp; empty where SLEEF states no error
+    pass wide;                     // 256 bits a call
+    pass narrow;                   // 128 bits a call, for vectors that fit them
+    const char* library;           // "SLEEF" or "C", what the compiler makes of scalar code
+    peer(const char* name, pass wide, pass narrow, const char* library = "SLEEF")
+        : name(name), wide(std::move(wide)), narrow(std::move(narrow)), library(library) {}
     const pass& at(int width, lane_type t) const { return width * size_of(t) <= 16 ? narrow : wide; }
 };
 
 struct family_peers {
-    std::optional<peer> accurate; // SLEEF, the most accurate one
+    std::optional<peer> accurate; // SLEEF, the most accurate one; or plain C
     std::optional<peer> fast;     // SLEEF, the one of lower accuracy where it has two
     pass scalar;                  // empty: nothing to compare with
     // The first result of the argument lanes in long double, to measure errors by; empty where the lanes are
@@ -25,5 +28,7 @@ struct family_peers {
 
 // The peers of the family of `row`; all empty if it has none.
 family_peers peers_of(const kernel_row& row);
+// Those of conversions and of families of one instruction, in plain C; all empty for others.
+family_peers plain_peers_of(const kernel_row& row);
 
 } // namespace orvane::bench

@@ -28,8 +28,8 @@ void print_table(const std::vector<table_row>& rows, const gathering_reporter& m
         return s + suffix;
     };
 
-    std::vector<std::vector<std::string>> cells = {{"family", "tier", "width", "ulp", "ns/lane", "SLEEF", "ratio",
-                                                    "libm", "ratio", "1 special in 64", "SLEEF", "ratio", "libm",
+    std::vector<std::vector<std::string>> cells = {{"family", "tier", "width", "ulp", "ns/lane", "vector peer", "ratio",
+                                                    "libm", "ratio", "1 special in 64", "vector peer", "ratio", "libm",
                                                     "ratio"},
                                                    {}};
     for (const table_row& r : rows) {

@@ -182,12 +182,14 @@ using snextafter_kernel = nextafter_kernel<float, __orvane_snextafter_data, __or
 ORVANE_EXPORT(nextafter, , dnextafter_kernel)
 ORVANE_EXPORT(nextafterf, , snextafter_kernel)
 
-// The bits are the payload and may reach the sign.
+// The bits are the payload and may reach the sign. Lane 3 of a 3-wide vector of floats comes back as 0.
 template <class T> struct nan_kernel : kernel<bits_to_nan<T>> {
     static constexpr double spare = 0;
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<uint_of<T>, W> payload) {
         constexpr auto quiet = sizeof(T) == 8 ? uint_of<T>(0x7FF8000000000000) : uint_of<T>(0x7FC00000);
-        return as<T>(payload | lanes<uint_of<T>, W>(quiet));
+        auto nan = as<T>(payload | lanes<uint_of<T>, W>(quiet));
+        if constexpr (W == 3 && sizeof(T) == 4) return admit(nan, T(0));
+        else return nan;
     }
 };
 using dnan_kernel = nan_kernel<double>;

@@ -1,5 +1,5 @@
 // The slow paths of frexp, ldexp, ilogb, logb and nextafter: what is not normal going in or coming out.
-#include "frame/rare.h"
+#include "fputil/fields.h"
 
 namespace orvane {
 
@@ -19,26 +19,18 @@ namespace {
 // What differs between the types: 2^up lifts every subnormal into the normal range.
 template <class T> struct of_type;
 template <> struct of_type<double> {
-    using pattern = uint64_t;
     static constexpr int up = 55;
     static constexpr double scale = 0x1p55, scale_back = 0x1p-55;
     static constexpr const double (&small)[2] = _own_small_value_64, (&large)[2] = _large_value_64,
                                  (&least)[2] = _min_subnormal_64;
 };
 template <> struct of_type<float> {
-    using pattern = uint32_t;
     static constexpr int up = 25;
     static constexpr float scale = 0x1p25f, scale_back = 0x1p-25f;
     static constexpr const float (&small)[2] = _small_value_32, (&large)[2] = _large_value_32,
                                 (&least)[2] = _min_subnormal_32;
 };
-template <class T> using pattern = typename of_type<T>::pattern;
-
-template <class T> constexpr pattern<T> sign_bit = pattern<T>(1) << (8 * sizeof(T) - 1);
-template <class T> bool is_negative(T v) { return bits(v) >> (8 * sizeof(T) - 1); }
-template <class T> pattern<T> magnitude(T v) { return bits(v) & ~sign_bit<T>; }
-template <class T> bool is_nan(T v) { return v != v; }
-template <class T> bool is_zero(T v) { return magnitude(v) == 0; }
+template <class T> bool is_zero(T v) { return v == T(0); }
 
 // Sign and significand of v under another exponent field.
 template <class T> T with_exponent(T v, int field) {
@@ -101,12 +93,12 @@ template <class T> int ilogb_rare(const T* x, int32_t* result) {
 template <class T> int logb_rare(const T* x, T* result) {
     const T w = *x * T(1.0);
     if (is_zero(w)) return *result = T(-1.0) / T(0.0), domain_error;
-    *result = biased_exponent(w) == top_exponent<T> ? std::bit_cast<T>(magnitude(w)) : T(subnormal_exponent(w));
+    *result = biased_exponent(w) == top_exponent<T> ? magnitude(w) : T(subnormal_exponent(w));
     return ordinary;
 }
 
 template <class T> int nextafter_rare(const T* x, const T* y, T* result) {
-    if (is_nan(*x) || is_nan(*y)) return *result = *x + *y, ordinary;
+    if (is_nan(*x) || is_nan(*y)) return *result = nan_of(*x, *y), ordinary;
     if (*x == *y) return *result = *y, ordinary; // of two zeros the second
     if (is_zero(*x)) return *result = of_type<T>::least[is_negative(*y)], underflow;
     const bool down = is_negative(*x) != is_negative(*y) || magnitude(*x) > magnitude(*y);

@@ -1,18 +1,13 @@
 // The slow paths of fmod, remainder and remquo: long division of the significands as integers, a quotient bit a step,
 // and what has no remainder. Every result is exact.
-#include "frame/rare.h"
+#include "fputil/fields.h"
 
 namespace orvane {
 
 namespace {
 
-template <class T> using pattern = decltype(bits(T()));
-template <class T> constexpr pattern<T> sign_bit = pattern<T>(1) << (8 * sizeof(T) - 1);
 template <class T> constexpr pattern<T> leading_bit = pattern<T>(1) << fraction_bits<T>;
-template <class T> T magnitude(T v) { return std::bit_cast<T>(bits(v) & ~sign_bit<T>); }
-template <class T> bool is_nan(T v) { return v != v; }
 template <class T> bool is_infinite(T v) { return magnitude(v) == T(__builtin_inf()); }
-template <class T> bool same_sign(T a, T b) { return !((bits(a) ^ bits(b)) & sign_bit<T>); }
 template <class T> T with_sign_of(T x, T magnitude) {
     return std::bit_cast<T>(bits(magnitude) | (bits(x) & sign_bit<T>));
 }
@@ -71,7 +66,7 @@ template <class T> quotient_and_remainder<T> long_division(T A, T Y) {
 }
 
 template <class T> int fmod_rare(const T* x, const T* y, T* result) {
-    if (is_nan(*x) || is_nan(*y)) return *result = *x * *y, ordinary;
+    if (is_nan(*x) || is_nan(*y)) return *result = nan_of(*x, *y), ordinary;
     const T A = magnitude(*x), Y = magnitude(*y);
     if (Y == 0 || is_infinite(A)) return *result = invalid<T>, pole;
     if (A < Y) return *result = *x, ordinary;
@@ -97,7 +92,7 @@ template <class T> int remquo_rare(const T* x, const T* y, T* result, int32_t* o
     if (Y == 0) return *result = no_remainder<T>(), domain_error;
     if (is_infinite(A)) return *result = no_remainder<T>(), ordinary;
     if (is_infinite(Y) || A == 0) return *result = *x, ordinary;
-    const int sq = same_sign(*x, *y) ? 1 : -1;
+    const int sq = is_negative(*x) == is_negative(*y) ? 1 : -1;
     if (A == Y) return *out = sq, *result = *x * T(0), ordinary;
     if (A < Y) {
         constexpr T half_of_range = sizeof(T) == 8 ? T(0x1p1023) : T(0x1p127f);

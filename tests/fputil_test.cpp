@@ -1,42 +1,12 @@
 // Rounding, fractions and selection: meaning, NaN rules and the caller's rounding mode.
-#include "support.h"
-
-#include <bit>
-#include <cmath>
-#include <limits>
+#include "typed_lanes.h"
 
 using namespace orvane;
 
 namespace {
 
-// One lane through width 1 with values instead of words; the member of T's type.
-template <class T> std::string member(const std::string& base) { return sizeof(T) == 4 ? base + "f" : base; }
-template <class T> uint64_t word(T x) {
-    if constexpr (sizeof(T) == 4) return std::bit_cast<uint32_t>(x);
-    else return std::bit_cast<uint64_t>(x);
-}
-template <class T> T number(uint64_t w) {
-    if constexpr (sizeof(T) == 4) return std::bit_cast<T>((uint32_t)w);
-    else return std::bit_cast<T>(w);
-}
-template <class T, class... A> std::vector<uint64_t> words_of(const std::string& base, uint32_t mxcsr, A... a) {
-    const kernel_row* row = find_row(library_rows(), member<T>(base), "default");
-    const auto r = by_single_lanes({row, &library_under_test()}, {{word(T(a))}...}, mxcsr);
-    std::vector<uint64_t> w;
-    for (const auto& lane : r)
-        w.push_back(lane[0]);
-    return w;
-}
-constexpr uint32_t to_even = 0x1F80, down = 0x3F80, up = 0x5F80, to_zero = 0x7F80;
-template <class T, class... A> T value(const std::string& base, A... a) {
-    return number<T>(words_of<T>(base, to_even, a...)[0]);
-}
-
 template <class T> class Fputil : public testing::Test {};
-using floating_types = testing::Types<double, float>;
 TYPED_TEST_SUITE(Fputil, floating_types);
-
-#define EXPECT_SAME(a, b) EXPECT_EQ(word<TypeParam>(a), word<TypeParam>(b))
 
 // Against the C library, which is right here: every operation is exact.
 TYPED_TEST(Fputil, RoundingsMeanWhatTheySay) {
@@ -180,8 +150,7 @@ TYPED_TEST(Fputil, SlowPaths) {
     const auto quiet = word(std::numeric_limits<T>::quiet_NaN()), nan = infinity | 5 | minus;
     const uint64_t mask = sizeof(T) == 4 ? 0xFFFFFFFF : ~uint64_t(0);
     auto slow = [&](const char* base, std::vector<uint64_t> lane) {
-        const auto r =
-            call_slow_path(library_under_test(), *find_row(library_rows(), member<T>(base), "default"), lane, before);
+        const auto r = slow_path_of<T>(base, lane, before);
         EXPECT_EQ(r.status, 0) << base;
         return std::pair{r.result & mask, r.out & mask};
     };
