@@ -387,6 +387,152 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* pow: x to the power y, with all special pairs of IEEE pow. */
+orvane_double2 __orvane_l9_pow1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_pow2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_pow3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_pow4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_pow8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_pow16 { double x[16]; double y[16]; };
+void* __orvane_l9_pow16(void* result, struct orvane_args_pow16 arguments);
+orvane_double2 __orvane_l9_pow1_rm(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_pow2_rm(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_pow3_rm(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_pow4_rm(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_pow8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_pow16_rm { double x[16]; double y[16]; };
+void* __orvane_l9_pow16_rm(void* result, struct orvane_args_pow16_rm arguments);
+orvane_double2 __orvane_l9_pow1_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_pow2_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_pow3_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_pow4_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_pow8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_pow16_native { double x[16]; double y[16]; };
+void* __orvane_l9_pow16_native(void* result, struct orvane_args_pow16_native arguments);
+
+/* powf: x to the power y, with all special pairs of IEEE pow. */
+orvane_float4 __orvane_l9_powf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_powf1_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf2_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf3_rm(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf4_rm(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powf8_rm(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_powf1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powf4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powf8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* powr: x to the power y for x >= 0: exp(y log x). NaN of negative x. */
+orvane_double2 __orvane_l9_powr1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_powr2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_powr3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_powr4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_powr8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_powr16 { double x[16]; double y[16]; };
+void* __orvane_l9_powr16(void* result, struct orvane_args_powr16 arguments);
+orvane_double2 __orvane_l9_powr1_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_powr2_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_powr3_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_powr4_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_powr8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_powr16_native { double x[16]; double y[16]; };
+void* __orvane_l9_powr16_native(void* result, struct orvane_args_powr16_native arguments);
+orvane_double2 __orvane_l9_powr1_half(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_powr2_half(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_powr3_half(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_powr4_half(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_powr8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_powr16_half { double x[16]; double y[16]; };
+void* __orvane_l9_powr16_half(void* result, struct orvane_args_powr16_half arguments);
+
+/* powrf: x to the power y for x >= 0: exp(y log x). NaN of negative x. */
+orvane_float4 __orvane_l9_powrf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powrf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powrf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_powrf1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powrf8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powrf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_powrf1_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf2_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf3_half(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_powrf4_half(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_powrf8_half(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_powrf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* pown: x to the integer power n. */
+orvane_double2 __orvane_l9_pown1(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_pown2(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_pown3(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_pown4(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_pown8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_pown16 { double x[16]; int32_t y[16]; };
+void* __orvane_l9_pown16(void* result, struct orvane_args_pown16 arguments);
+orvane_double2 __orvane_l9_pown1_native(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_pown2_native(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_pown3_native(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_pown4_native(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_pown8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_pown16_native { double x[16]; int32_t y[16]; };
+void* __orvane_l9_pown16_native(void* result, struct orvane_args_pown16_native arguments);
+
+/* pownf: x to the integer power n. */
+orvane_float4 __orvane_l9_pownf1(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_pownf2(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_pownf3(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_pownf4(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_pownf8(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_pownf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_pownf1_native(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_pownf2_native(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_pownf3_native(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_pownf4_native(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_pownf8_native(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_pownf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* rootn: The n-th root of x. */
+orvane_double2 __orvane_l9_rootn1(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_rootn2(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_rootn3(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_rootn4(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_rootn8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_rootn16 { double x[16]; int32_t y[16]; };
+void* __orvane_l9_rootn16(void* result, struct orvane_args_rootn16 arguments);
+orvane_double2 __orvane_l9_rootn1_native(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_rootn2_native(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_rootn3_native(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_rootn4_native(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_rootn8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_rootn16_native { double x[16]; int32_t y[16]; };
+void* __orvane_l9_rootn16_native(void* result, struct orvane_args_rootn16_native arguments);
+
+/* rootnf: The n-th root of x. */
+orvane_float4 __orvane_l9_rootnf1(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_rootnf2(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_rootnf3(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_rootnf4(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_rootnf8(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_rootnf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_rootnf1_native(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_rootnf2_native(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_rootnf3_native(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_rootnf4_native(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_rootnf8_native(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_rootnf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
 /* div: Quotient x / y, with the infinities, zeros and NaN of IEEE division. */
 orvane_double2 __orvane_l9_div1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_div2(orvane_double2 x, orvane_double2 y);
@@ -661,6 +807,816 @@ orvane_float4 __orvane_l9_hypotf4_native(orvane_float4 x, orvane_float4 y);
 orvane_float8 __orvane_l9_hypotf8_native(orvane_float8 x, orvane_float8 y);
 void __orvane_l9_hypotf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
+/* sin: Sine of x radians, for every finite x. NaN of infinities. */
+orvane_double2 __orvane_l9_sin1(orvane_double2 x);
+orvane_double2 __orvane_l9_sin2(orvane_double2 x);
+orvane_double4 __orvane_l9_sin3(orvane_double4 x);
+orvane_double4 __orvane_l9_sin4(orvane_double4 x);
+void __orvane_l9_sin8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sin16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sin1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_sin2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_sin3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_sin4_rm(orvane_double4 x);
+void __orvane_l9_sin8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sin16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sin1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_sin2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_sin3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_sin4_native(orvane_double4 x);
+void __orvane_l9_sin8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sin16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sin1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_sin2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_sin3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_sin4_half(orvane_double4 x);
+void __orvane_l9_sin8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sin16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* sinf: Sine of x radians, for every finite x. NaN of infinities. */
+orvane_float4 __orvane_l9_sinf1(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf2(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf3(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf4(orvane_float4 x);
+orvane_float8 __orvane_l9_sinf8(orvane_float8 x);
+void __orvane_l9_sinf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_sinf8_rm(orvane_float8 x);
+void __orvane_l9_sinf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_sinf8_native(orvane_float8 x);
+void __orvane_l9_sinf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_sinf8_half(orvane_float8 x);
+void __orvane_l9_sinf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cos: Cosine of x radians, for every finite x. NaN of infinities. */
+orvane_double2 __orvane_l9_cos1(orvane_double2 x);
+orvane_double2 __orvane_l9_cos2(orvane_double2 x);
+orvane_double4 __orvane_l9_cos3(orvane_double4 x);
+orvane_double4 __orvane_l9_cos4(orvane_double4 x);
+void __orvane_l9_cos8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cos16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cos1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_cos2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_cos3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_cos4_rm(orvane_double4 x);
+void __orvane_l9_cos8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cos16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cos1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_cos2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_cos3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_cos4_native(orvane_double4 x);
+void __orvane_l9_cos8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cos16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cos1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_cos2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_cos3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_cos4_half(orvane_double4 x);
+void __orvane_l9_cos8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cos16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cosf: Cosine of x radians, for every finite x. NaN of infinities. */
+orvane_float4 __orvane_l9_cosf1(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf2(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf3(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf4(orvane_float4 x);
+orvane_float8 __orvane_l9_cosf8(orvane_float8 x);
+void __orvane_l9_cosf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cosf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_cosf8_rm(orvane_float8 x);
+void __orvane_l9_cosf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cosf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_cosf8_native(orvane_float8 x);
+void __orvane_l9_cosf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cosf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_cosf8_half(orvane_float8 x);
+void __orvane_l9_cosf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* tan: Tangent of x radians, for every finite x. NaN of infinities. */
+orvane_double2 __orvane_l9_tan1(orvane_double2 x);
+orvane_double2 __orvane_l9_tan2(orvane_double2 x);
+orvane_double4 __orvane_l9_tan3(orvane_double4 x);
+orvane_double4 __orvane_l9_tan4(orvane_double4 x);
+void __orvane_l9_tan8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tan16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tan1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_tan2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_tan3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_tan4_rm(orvane_double4 x);
+void __orvane_l9_tan8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tan16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tan1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_tan2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_tan3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_tan4_native(orvane_double4 x);
+void __orvane_l9_tan8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tan16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tan1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_tan2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_tan3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_tan4_half(orvane_double4 x);
+void __orvane_l9_tan8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tan16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tanf: Tangent of x radians, for every finite x. NaN of infinities. */
+orvane_float4 __orvane_l9_tanf1(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf2(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf3(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf4(orvane_float4 x);
+orvane_float8 __orvane_l9_tanf8(orvane_float8 x);
+void __orvane_l9_tanf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_tanf8_rm(orvane_float8 x);
+void __orvane_l9_tanf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_tanf8_native(orvane_float8 x);
+void __orvane_l9_tanf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_tanf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_tanf8_half(orvane_float8 x);
+void __orvane_l9_tanf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* sincos: Sine of x radians; the cosine goes to the out-lane. */
+orvane_double2 __orvane_l9_sincos1(double* out, orvane_double2 x);
+orvane_double2 __orvane_l9_sincos2(double* out, orvane_double2 x);
+orvane_double4 __orvane_l9_sincos3(double* out, orvane_double4 x);
+orvane_double4 __orvane_l9_sincos4(double* out, orvane_double4 x);
+void __orvane_l9_sincos8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_sincos16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+orvane_double2 __orvane_l9_sincos1_rm(double* out, orvane_double2 x);
+orvane_double2 __orvane_l9_sincos2_rm(double* out, orvane_double2 x);
+orvane_double4 __orvane_l9_sincos3_rm(double* out, orvane_double4 x);
+orvane_double4 __orvane_l9_sincos4_rm(double* out, orvane_double4 x);
+void __orvane_l9_sincos8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_sincos16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+orvane_double2 __orvane_l9_sincos1_native(double* out, orvane_double2 x);
+orvane_double2 __orvane_l9_sincos2_native(double* out, orvane_double2 x);
+orvane_double4 __orvane_l9_sincos3_native(double* out, orvane_double4 x);
+orvane_double4 __orvane_l9_sincos4_native(double* out, orvane_double4 x);
+void __orvane_l9_sincos8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_sincos16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* sincosf: Sine of x radians; the cosine goes to the out-lane. */
+orvane_float4 __orvane_l9_sincosf1(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf2(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf3(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf4(float* out, orvane_float4 x);
+orvane_float8 __orvane_l9_sincosf8(float* out, orvane_float8 x);
+void __orvane_l9_sincosf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+orvane_float4 __orvane_l9_sincosf1_rm(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf2_rm(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf3_rm(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf4_rm(float* out, orvane_float4 x);
+orvane_float8 __orvane_l9_sincosf8_rm(float* out, orvane_float8 x);
+void __orvane_l9_sincosf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+orvane_float4 __orvane_l9_sincosf1_native(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf2_native(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf3_native(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf4_native(float* out, orvane_float4 x);
+orvane_float8 __orvane_l9_sincosf8_native(float* out, orvane_float8 x);
+void __orvane_l9_sincosf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
+/* sincosreg: Sine and cosine of x radians as two results. */
+void __orvane_l9_sincosreg1(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosreg2(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosreg3(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosreg4(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosreg8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, ymm2 ymm3 */
+struct orvane_args_sincosreg16 { double x[16]; };
+void* __orvane_l9_sincosreg16(void* result, struct orvane_args_sincosreg16 arguments);
+void __orvane_l9_sincosreg1_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosreg2_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosreg3_native(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosreg4_native(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosreg8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, ymm2 ymm3 */
+struct orvane_args_sincosreg16_native { double x[16]; };
+void* __orvane_l9_sincosreg16_native(void* result, struct orvane_args_sincosreg16_native arguments);
+
+/* sincosregf: Sine and cosine of x radians as two results. */
+void __orvane_l9_sincosregf1(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf2(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf3(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf4(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosregf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, ymm2 ymm3 */
+void __orvane_l9_sincosregf1_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf2_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf3_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf4_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf8_native(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosregf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, ymm2 ymm3 */
+
+/* sinpi: Sine of x half turns: sin(pi x). NaN of infinities. */
+orvane_double2 __orvane_l9_sinpi1(orvane_double2 x);
+orvane_double2 __orvane_l9_sinpi2(orvane_double2 x);
+orvane_double4 __orvane_l9_sinpi3(orvane_double4 x);
+orvane_double4 __orvane_l9_sinpi4(orvane_double4 x);
+void __orvane_l9_sinpi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sinpi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sinpi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_sinpi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_sinpi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_sinpi4_native(orvane_double4 x);
+void __orvane_l9_sinpi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sinpi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* sinpif: Sine of x half turns: sin(pi x). NaN of infinities. */
+orvane_float4 __orvane_l9_sinpif1(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif2(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif3(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif4(orvane_float4 x);
+orvane_float8 __orvane_l9_sinpif8(orvane_float8 x);
+void __orvane_l9_sinpif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinpif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinpif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_sinpif8_native(orvane_float8 x);
+void __orvane_l9_sinpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cospi: Cosine of x half turns: cos(pi x). NaN of infinities. */
+orvane_double2 __orvane_l9_cospi1(orvane_double2 x);
+orvane_double2 __orvane_l9_cospi2(orvane_double2 x);
+orvane_double4 __orvane_l9_cospi3(orvane_double4 x);
+orvane_double4 __orvane_l9_cospi4(orvane_double4 x);
+void __orvane_l9_cospi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cospi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cospi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_cospi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_cospi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_cospi4_native(orvane_double4 x);
+void __orvane_l9_cospi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cospi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cospif: Cosine of x half turns: cos(pi x). NaN of infinities. */
+orvane_float4 __orvane_l9_cospif1(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif2(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif3(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif4(orvane_float4 x);
+orvane_float8 __orvane_l9_cospif8(orvane_float8 x);
+void __orvane_l9_cospif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cospif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cospif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_cospif8_native(orvane_float8 x);
+void __orvane_l9_cospif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* tanpi: Tangent of x half turns: tan(pi x). */
+orvane_double2 __orvane_l9_tanpi1(orvane_double2 x);
+orvane_double2 __orvane_l9_tanpi2(orvane_double2 x);
+orvane_double4 __orvane_l9_tanpi3(orvane_double4 x);
+orvane_double4 __orvane_l9_tanpi4(orvane_double4 x);
+void __orvane_l9_tanpi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tanpi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tanpi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_tanpi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_tanpi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_tanpi4_native(orvane_double4 x);
+void __orvane_l9_tanpi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tanpi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tanpif: Tangent of x half turns: tan(pi x). */
+orvane_float4 __orvane_l9_tanpif1(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif2(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif3(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif4(orvane_float4 x);
+orvane_float8 __orvane_l9_tanpif8(orvane_float8 x);
+void __orvane_l9_tanpif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanpif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanpif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_tanpif8_native(orvane_float8 x);
+void __orvane_l9_tanpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* asin: Arc sine, in radians, -pi/2 to pi/2. NaN outside [-1, 1]; a zero keeps its sign. */
+orvane_double2 __orvane_l9_asin1(orvane_double2 x);
+orvane_double2 __orvane_l9_asin2(orvane_double2 x);
+orvane_double4 __orvane_l9_asin3(orvane_double4 x);
+orvane_double4 __orvane_l9_asin4(orvane_double4 x);
+void __orvane_l9_asin8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asin16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_asin1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_asin2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_asin3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_asin4_native(orvane_double4 x);
+void __orvane_l9_asin8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asin16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* asinf: Arc sine, in radians, -pi/2 to pi/2. NaN outside [-1, 1]; a zero keeps its sign. */
+orvane_float4 __orvane_l9_asinf1(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf2(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf3(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf4(orvane_float4 x);
+orvane_float8 __orvane_l9_asinf8(orvane_float8 x);
+void __orvane_l9_asinf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_asinf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_asinf8_native(orvane_float8 x);
+void __orvane_l9_asinf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* acos: Arc cosine, in radians, 0 to pi. NaN outside [-1, 1]. */
+orvane_double2 __orvane_l9_acos1(orvane_double2 x);
+orvane_double2 __orvane_l9_acos2(orvane_double2 x);
+orvane_double4 __orvane_l9_acos3(orvane_double4 x);
+orvane_double4 __orvane_l9_acos4(orvane_double4 x);
+void __orvane_l9_acos8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acos16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_acos1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_acos2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_acos3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_acos4_native(orvane_double4 x);
+void __orvane_l9_acos8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acos16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* acosf: Arc cosine, in radians, 0 to pi. NaN outside [-1, 1]. */
+orvane_float4 __orvane_l9_acosf1(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf2(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf3(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf4(orvane_float4 x);
+orvane_float8 __orvane_l9_acosf8(orvane_float8 x);
+void __orvane_l9_acosf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_acosf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acosf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_acosf8_native(orvane_float8 x);
+void __orvane_l9_acosf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* asinpi: Arc sine in half turns: asin(x) / pi, -1/2 to 1/2. NaN outside [-1, 1]. */
+orvane_double2 __orvane_l9_asinpi1(orvane_double2 x);
+orvane_double2 __orvane_l9_asinpi2(orvane_double2 x);
+orvane_double4 __orvane_l9_asinpi3(orvane_double4 x);
+orvane_double4 __orvane_l9_asinpi4(orvane_double4 x);
+void __orvane_l9_asinpi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asinpi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_asinpi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_asinpi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_asinpi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_asinpi4_native(orvane_double4 x);
+void __orvane_l9_asinpi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asinpi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* asinpif: Arc sine in half turns: asin(x) / pi, -1/2 to 1/2. NaN outside [-1, 1]. */
+orvane_float4 __orvane_l9_asinpif1(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif2(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif3(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif4(orvane_float4 x);
+orvane_float8 __orvane_l9_asinpif8(orvane_float8 x);
+void __orvane_l9_asinpif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_asinpif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinpif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_asinpif8_native(orvane_float8 x);
+void __orvane_l9_asinpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* acospi: Arc cosine in half turns: acos(x) / pi, 0 to 1. NaN outside [-1, 1]. */
+orvane_double2 __orvane_l9_acospi1(orvane_double2 x);
+orvane_double2 __orvane_l9_acospi2(orvane_double2 x);
+orvane_double4 __orvane_l9_acospi3(orvane_double4 x);
+orvane_double4 __orvane_l9_acospi4(orvane_double4 x);
+void __orvane_l9_acospi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acospi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_acospi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_acospi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_acospi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_acospi4_native(orvane_double4 x);
+void __orvane_l9_acospi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acospi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* acospif: Arc cosine in half turns: acos(x) / pi, 0 to 1. NaN outside [-1, 1]. */
+orvane_float4 __orvane_l9_acospif1(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif2(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif3(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif4(orvane_float4 x);
+orvane_float8 __orvane_l9_acospif8(orvane_float8 x);
+void __orvane_l9_acospif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_acospif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acospif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_acospif8_native(orvane_float8 x);
+void __orvane_l9_acospif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* atan: Arc tangent, in radians, -pi/2 to pi/2; these two at the infinities. */
+orvane_double2 __orvane_l9_atan1(orvane_double2 x);
+orvane_double2 __orvane_l9_atan2(orvane_double2 x);
+orvane_double4 __orvane_l9_atan3(orvane_double4 x);
+orvane_double4 __orvane_l9_atan4(orvane_double4 x);
+void __orvane_l9_atan8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atan16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_atan1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_atan2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_atan3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_atan4_native(orvane_double4 x);
+void __orvane_l9_atan8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atan16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* atanf: Arc tangent, in radians, -pi/2 to pi/2; these two at the infinities. */
+orvane_float4 __orvane_l9_atanf1(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf2(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf3(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf4(orvane_float4 x);
+orvane_float8 __orvane_l9_atanf8(orvane_float8 x);
+void __orvane_l9_atanf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atanf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_atanf8_native(orvane_float8 x);
+void __orvane_l9_atanf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* atanpi: Arc tangent in half turns: atan(x) / pi, -1/2 to 1/2. */
+orvane_double2 __orvane_l9_atanpi1(orvane_double2 x);
+orvane_double2 __orvane_l9_atanpi2(orvane_double2 x);
+orvane_double4 __orvane_l9_atanpi3(orvane_double4 x);
+orvane_double4 __orvane_l9_atanpi4(orvane_double4 x);
+void __orvane_l9_atanpi8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atanpi16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_atanpi1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_atanpi2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_atanpi3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_atanpi4_native(orvane_double4 x);
+void __orvane_l9_atanpi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atanpi16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* atanpif: Arc tangent in half turns: atan(x) / pi, -1/2 to 1/2. */
+orvane_float4 __orvane_l9_atanpif1(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif2(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif3(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif4(orvane_float4 x);
+orvane_float8 __orvane_l9_atanpif8(orvane_float8 x);
+void __orvane_l9_atanpif16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atanpif1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanpif4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_atanpif8_native(orvane_float8 x);
+void __orvane_l9_atanpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* atan2: Angle of the point (y, x), first argument y, in radians, -pi to pi, with all signs of zeros and infinities told apart. */
+orvane_double2 __orvane_l9_atan21(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_atan22(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_atan23(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_atan24(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_atan28(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_atan216 { double x[16]; double y[16]; };
+void* __orvane_l9_atan216(void* result, struct orvane_args_atan216 arguments);
+orvane_double2 __orvane_l9_atan21_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_atan22_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_atan23_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_atan24_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_atan28_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_atan216_native { double x[16]; double y[16]; };
+void* __orvane_l9_atan216_native(void* result, struct orvane_args_atan216_native arguments);
+
+/* atan2f: Angle of the point (y, x), first argument y, in radians, -pi to pi, with all signs of zeros and infinities told apart. */
+orvane_float4 __orvane_l9_atan2f1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_atan2f8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_atan2f16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atan2f1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2f4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_atan2f8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_atan2f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* atan2pi: Angle of the point (y, x) in half turns: atan2(y, x) / pi, -1 to 1. */
+orvane_double2 __orvane_l9_atan2pi1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_atan2pi2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_atan2pi3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_atan2pi4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_atan2pi8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_atan2pi16 { double x[16]; double y[16]; };
+void* __orvane_l9_atan2pi16(void* result, struct orvane_args_atan2pi16 arguments);
+orvane_double2 __orvane_l9_atan2pi1_native(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_atan2pi2_native(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_atan2pi3_native(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_atan2pi4_native(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_atan2pi8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_atan2pi16_native { double x[16]; double y[16]; };
+void* __orvane_l9_atan2pi16_native(void* result, struct orvane_args_atan2pi16_native arguments);
+
+/* atan2pif: Angle of the point (y, x) in half turns: atan2(y, x) / pi, -1 to 1. */
+orvane_float4 __orvane_l9_atan2pif1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_atan2pif8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_atan2pif16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atan2pif1_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif2_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif3_native(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_atan2pif4_native(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_atan2pif8_native(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_atan2pif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* sinh: Hyperbolic sine. Infinities on overflow; zeros come back as they are. */
+orvane_double2 __orvane_l9_sinh1(orvane_double2 x);
+orvane_double2 __orvane_l9_sinh2(orvane_double2 x);
+orvane_double4 __orvane_l9_sinh3(orvane_double4 x);
+orvane_double4 __orvane_l9_sinh4(orvane_double4 x);
+void __orvane_l9_sinh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sinh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sinh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_sinh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_sinh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_sinh4_native(orvane_double4 x);
+void __orvane_l9_sinh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sinh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* sinhf: Hyperbolic sine. Infinities on overflow; zeros come back as they are. */
+orvane_float4 __orvane_l9_sinhf1(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf2(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf3(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf4(orvane_float4 x);
+orvane_float8 __orvane_l9_sinhf8(orvane_float8 x);
+void __orvane_l9_sinhf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinhf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinhf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_sinhf8_native(orvane_float8 x);
+void __orvane_l9_sinhf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cosh: Hyperbolic cosine. +Inf of infinities and on overflow. */
+orvane_double2 __orvane_l9_cosh1(orvane_double2 x);
+orvane_double2 __orvane_l9_cosh2(orvane_double2 x);
+orvane_double4 __orvane_l9_cosh3(orvane_double4 x);
+orvane_double4 __orvane_l9_cosh4(orvane_double4 x);
+void __orvane_l9_cosh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cosh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cosh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_cosh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_cosh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_cosh4_native(orvane_double4 x);
+void __orvane_l9_cosh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cosh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* coshf: Hyperbolic cosine. +Inf of infinities and on overflow. */
+orvane_float4 __orvane_l9_coshf1(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf2(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf3(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf4(orvane_float4 x);
+orvane_float8 __orvane_l9_coshf8(orvane_float8 x);
+void __orvane_l9_coshf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_coshf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_coshf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_coshf8_native(orvane_float8 x);
+void __orvane_l9_coshf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* tanh: Hyperbolic tangent, -1 to 1. Zeros come back as they are. */
+orvane_double2 __orvane_l9_tanh1(orvane_double2 x);
+orvane_double2 __orvane_l9_tanh2(orvane_double2 x);
+orvane_double4 __orvane_l9_tanh3(orvane_double4 x);
+orvane_double4 __orvane_l9_tanh4(orvane_double4 x);
+void __orvane_l9_tanh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tanh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_tanh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_tanh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_tanh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_tanh4_native(orvane_double4 x);
+void __orvane_l9_tanh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tanh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tanhf: Hyperbolic tangent, -1 to 1. Zeros come back as they are. */
+orvane_float4 __orvane_l9_tanhf1(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf2(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf3(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf4(orvane_float4 x);
+orvane_float8 __orvane_l9_tanhf8(orvane_float8 x);
+void __orvane_l9_tanhf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_tanhf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_tanhf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_tanhf8_native(orvane_float8 x);
+void __orvane_l9_tanhf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* asinh: Inverse hyperbolic sine. Zeros and infinities come back as they are. */
+orvane_double2 __orvane_l9_asinh1(orvane_double2 x);
+orvane_double2 __orvane_l9_asinh2(orvane_double2 x);
+orvane_double4 __orvane_l9_asinh3(orvane_double4 x);
+orvane_double4 __orvane_l9_asinh4(orvane_double4 x);
+void __orvane_l9_asinh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asinh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_asinh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_asinh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_asinh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_asinh4_native(orvane_double4 x);
+void __orvane_l9_asinh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_asinh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* asinhf: Inverse hyperbolic sine. Zeros and infinities come back as they are. */
+orvane_float4 __orvane_l9_asinhf1(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf2(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf3(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf4(orvane_float4 x);
+orvane_float8 __orvane_l9_asinhf8(orvane_float8 x);
+void __orvane_l9_asinhf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_asinhf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_asinhf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_asinhf8_native(orvane_float8 x);
+void __orvane_l9_asinhf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* acosh: Inverse hyperbolic cosine, 0 or greater. NaN below 1; +Inf of +Inf. */
+orvane_double2 __orvane_l9_acosh1(orvane_double2 x);
+orvane_double2 __orvane_l9_acosh2(orvane_double2 x);
+orvane_double4 __orvane_l9_acosh3(orvane_double4 x);
+orvane_double4 __orvane_l9_acosh4(orvane_double4 x);
+void __orvane_l9_acosh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acosh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_acosh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_acosh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_acosh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_acosh4_native(orvane_double4 x);
+void __orvane_l9_acosh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_acosh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* acoshf: Inverse hyperbolic cosine, 0 or greater. NaN below 1; +Inf of +Inf. */
+orvane_float4 __orvane_l9_acoshf1(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf2(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf3(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf4(orvane_float4 x);
+orvane_float8 __orvane_l9_acoshf8(orvane_float8 x);
+void __orvane_l9_acoshf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_acoshf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_acoshf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_acoshf8_native(orvane_float8 x);
+void __orvane_l9_acoshf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* atanh: Inverse hyperbolic tangent. Infinities at -1 and 1, NaN beyond them. */
+orvane_double2 __orvane_l9_atanh1(orvane_double2 x);
+orvane_double2 __orvane_l9_atanh2(orvane_double2 x);
+orvane_double4 __orvane_l9_atanh3(orvane_double4 x);
+orvane_double4 __orvane_l9_atanh4(orvane_double4 x);
+void __orvane_l9_atanh8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atanh16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_atanh1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_atanh2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_atanh3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_atanh4_native(orvane_double4 x);
+void __orvane_l9_atanh8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_atanh16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* atanhf: Inverse hyperbolic tangent. Infinities at -1 and 1, NaN beyond them. */
+orvane_float4 __orvane_l9_atanhf1(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf2(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf3(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf4(orvane_float4 x);
+orvane_float8 __orvane_l9_atanhf8(orvane_float8 x);
+void __orvane_l9_atanhf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_atanhf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_atanhf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_atanhf8_native(orvane_float8 x);
+void __orvane_l9_atanhf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* erf: Error function, -1 to 1; these two at the infinities. */
+orvane_double2 __orvane_l9_erf1(orvane_double2 x);
+orvane_double2 __orvane_l9_erf2(orvane_double2 x);
+orvane_double4 __orvane_l9_erf3(orvane_double4 x);
+orvane_double4 __orvane_l9_erf4(orvane_double4 x);
+void __orvane_l9_erf8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_erf16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_erf1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_erf2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_erf3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_erf4_native(orvane_double4 x);
+void __orvane_l9_erf8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_erf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* erff: Error function, -1 to 1; these two at the infinities. */
+orvane_float4 __orvane_l9_erff1(orvane_float4 x);
+orvane_float4 __orvane_l9_erff2(orvane_float4 x);
+orvane_float4 __orvane_l9_erff3(orvane_float4 x);
+orvane_float4 __orvane_l9_erff4(orvane_float4 x);
+orvane_float8 __orvane_l9_erff8(orvane_float8 x);
+void __orvane_l9_erff16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_erff1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erff2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erff3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erff4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_erff8_native(orvane_float8 x);
+void __orvane_l9_erff16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* erfc: Complementary error function 1 - erf(x), 0 to 2. */
+orvane_double2 __orvane_l9_erfc1(orvane_double2 x);
+orvane_double2 __orvane_l9_erfc2(orvane_double2 x);
+orvane_double4 __orvane_l9_erfc3(orvane_double4 x);
+orvane_double4 __orvane_l9_erfc4(orvane_double4 x);
+void __orvane_l9_erfc8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_erfc16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_erfc1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_erfc2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_erfc3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_erfc4_native(orvane_double4 x);
+void __orvane_l9_erfc8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_erfc16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* erfcf: Complementary error function 1 - erf(x), 0 to 2. */
+orvane_float4 __orvane_l9_erfcf1(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf2(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf3(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf4(orvane_float4 x);
+orvane_float8 __orvane_l9_erfcf8(orvane_float8 x);
+void __orvane_l9_erfcf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_erfcf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_erfcf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_erfcf8_native(orvane_float8 x);
+void __orvane_l9_erfcf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* tgamma: Gamma function. NaN at negative integers, infinities of zeros. */
+orvane_double2 __orvane_l9_tgamma1(orvane_double2 x);
+orvane_double2 __orvane_l9_tgamma2(orvane_double2 x);
+orvane_double4 __orvane_l9_tgamma3(orvane_double4 x);
+orvane_double4 __orvane_l9_tgamma4(orvane_double4 x);
+void __orvane_l9_tgamma8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_tgamma16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* tgammaf: Gamma function. NaN at negative integers, infinities of zeros. */
+orvane_float4 __orvane_l9_tgammaf1(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf2(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf3(orvane_float4 x);
+orvane_float4 __orvane_l9_tgammaf4(orvane_float4 x);
+orvane_float8 __orvane_l9_tgammaf8(orvane_float8 x);
+void __orvane_l9_tgammaf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* lgamma: Logarithm of the magnitude of the gamma function. +Inf at 0 and at negative integers. */
+orvane_double2 __orvane_l9_lgamma1(orvane_double2 x);
+orvane_double2 __orvane_l9_lgamma2(orvane_double2 x);
+orvane_double4 __orvane_l9_lgamma3(orvane_double4 x);
+orvane_double4 __orvane_l9_lgamma4(orvane_double4 x);
+void __orvane_l9_lgamma8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_lgamma16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* lgammaf: Logarithm of the magnitude of the gamma function. +Inf at 0 and at negative integers. */
+orvane_float4 __orvane_l9_lgammaf1(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf2(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf3(orvane_float4 x);
+orvane_float4 __orvane_l9_lgammaf4(orvane_float4 x);
+orvane_float8 __orvane_l9_lgammaf8(orvane_float8 x);
+void __orvane_l9_lgammaf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* lgammar: lgamma, with the sign of the gamma function in the out-lane. */
+orvane_double2 __orvane_l9_lgammar1(int32_t* out, orvane_double2 x);
+orvane_double2 __orvane_l9_lgammar2(int32_t* out, orvane_double2 x);
+orvane_double4 __orvane_l9_lgammar3(int32_t* out, orvane_double4 x);
+orvane_double4 __orvane_l9_lgammar4(int32_t* out, orvane_double4 x);
+void __orvane_l9_lgammar8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_lgammar16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* lgammarf: lgamma, with the sign of the gamma function in the out-lane. */
+orvane_float4 __orvane_l9_lgammarf1(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf2(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf3(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_lgammarf4(int32_t* out, orvane_float4 x);
+orvane_float8 __orvane_l9_lgammarf8(int32_t* out, orvane_float8 x);
+void __orvane_l9_lgammarf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
 /* ceil: Smallest integer not below x. A zero result keeps the sign of x. */
 orvane_double2 __orvane_l9_ceil1(orvane_double2 x);
 orvane_double2 __orvane_l9_ceil2(orvane_double2 x);
@@ -789,6 +1745,137 @@ orvane_float4 __orvane_l9_modff4(float* out, orvane_float4 x);
 orvane_float8 __orvane_l9_modff8(float* out, orvane_float8 x);
 void __orvane_l9_modff16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
 
+/* frexp: Significand of x in [1/2, 1); the exponent goes to the out-lane. Zeros, infinities and NaN come back. */
+orvane_double2 __orvane_l9_frexp1(int32_t* out, orvane_double2 x);
+orvane_double2 __orvane_l9_frexp2(int32_t* out, orvane_double2 x);
+orvane_double4 __orvane_l9_frexp3(int32_t* out, orvane_double4 x);
+orvane_double4 __orvane_l9_frexp4(int32_t* out, orvane_double4 x);
+void __orvane_l9_frexp8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_frexp16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* frexpf: Significand of x in [1/2, 1); the exponent goes to the out-lane. Zeros, infinities and NaN come back. */
+orvane_float4 __orvane_l9_frexpf1(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_frexpf2(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_frexpf3(int32_t* out, orvane_float4 x);
+orvane_float4 __orvane_l9_frexpf4(int32_t* out, orvane_float4 x);
+orvane_float8 __orvane_l9_frexpf8(int32_t* out, orvane_float8 x);
+void __orvane_l9_frexpf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
+/* ldexp: x times 2 to the power n, rounded once. Infinities, zeros and NaN come back. */
+orvane_double2 __orvane_l9_ldexp1(orvane_double2 x, int32_t y);
+orvane_double2 __orvane_l9_ldexp2(orvane_double2 x, orvane_int4 y);
+orvane_double4 __orvane_l9_ldexp3(orvane_double4 x, orvane_int4 y);
+orvane_double4 __orvane_l9_ldexp4(orvane_double4 x, orvane_int4 y);
+void __orvane_l9_ldexp8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2; out ymm0 ymm1 */
+struct orvane_args_ldexp16 { double x[16]; int32_t y[16]; };
+void* __orvane_l9_ldexp16(void* result, struct orvane_args_ldexp16 arguments);
+
+/* ldexpf: x times 2 to the power n, rounded once. Infinities, zeros and NaN come back. */
+orvane_float4 __orvane_l9_ldexpf1(orvane_float4 x, int32_t y);
+orvane_float4 __orvane_l9_ldexpf2(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_ldexpf3(orvane_float4 x, orvane_int4 y);
+orvane_float4 __orvane_l9_ldexpf4(orvane_float4 x, orvane_int4 y);
+orvane_float8 __orvane_l9_ldexpf8(orvane_float8 x, orvane_int8 y);
+void __orvane_l9_ldexpf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* ilogb: Exponent of x as an integer. */
+int32_t __orvane_l9_ilogb1(orvane_double2 x);
+orvane_int4 __orvane_l9_ilogb2(orvane_double2 x);
+orvane_int4 __orvane_l9_ilogb3(orvane_double4 x);
+orvane_int4 __orvane_l9_ilogb4(orvane_double4 x);
+orvane_int8 __orvane_l9_ilogb8(orvane_double4 x0, orvane_double4 x1);
+void __orvane_l9_ilogb16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 */
+
+/* ilogbf: Exponent of x as an integer. */
+int32_t __orvane_l9_ilogbf1(orvane_float4 x);
+orvane_int4 __orvane_l9_ilogbf2(orvane_float4 x);
+orvane_int4 __orvane_l9_ilogbf3(orvane_float4 x);
+orvane_int4 __orvane_l9_ilogbf4(orvane_float4 x);
+orvane_int8 __orvane_l9_ilogbf8(orvane_float8 x);
+void __orvane_l9_ilogbf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* logb: Exponent of x as a floating value. -Inf of zeros, +Inf of infinities. */
+orvane_double2 __orvane_l9_logb1(orvane_double2 x);
+orvane_double2 __orvane_l9_logb2(orvane_double2 x);
+orvane_double4 __orvane_l9_logb3(orvane_double4 x);
+orvane_double4 __orvane_l9_logb4(orvane_double4 x);
+void __orvane_l9_logb8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_logb16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* logbf: Exponent of x as a floating value. -Inf of zeros, +Inf of infinities. */
+orvane_float4 __orvane_l9_logbf1(orvane_float4 x);
+orvane_float4 __orvane_l9_logbf2(orvane_float4 x);
+orvane_float4 __orvane_l9_logbf3(orvane_float4 x);
+orvane_float4 __orvane_l9_logbf4(orvane_float4 x);
+orvane_float8 __orvane_l9_logbf8(orvane_float8 x);
+void __orvane_l9_logbf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* nextafter: The next number after x in the direction of y. */
+orvane_double2 __orvane_l9_nextafter1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_nextafter2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_nextafter3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_nextafter4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_nextafter8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_nextafter16 { double x[16]; double y[16]; };
+void* __orvane_l9_nextafter16(void* result, struct orvane_args_nextafter16 arguments);
+
+/* nextafterf: The next number after x in the direction of y. */
+orvane_float4 __orvane_l9_nextafterf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_nextafterf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_nextafterf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_nextafterf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_nextafterf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_nextafterf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* nan: A quiet NaN with the given bits as payload. */
+orvane_double2 __orvane_l9_nan1(uint64_t x);
+orvane_double2 __orvane_l9_nan2(orvane_ulong2 x);
+orvane_double4 __orvane_l9_nan3(orvane_ulong4 x);
+orvane_double4 __orvane_l9_nan4(orvane_ulong4 x);
+void __orvane_l9_nan8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_nan16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* nanf: A quiet NaN with the given bits as payload. */
+orvane_float4 __orvane_l9_nanf1(uint32_t x);
+orvane_float4 __orvane_l9_nanf2(orvane_uint4 x);
+orvane_float4 __orvane_l9_nanf3(orvane_uint4 x);
+orvane_float4 __orvane_l9_nanf4(orvane_uint4 x);
+orvane_float8 __orvane_l9_nanf8(orvane_uint8 x);
+void __orvane_l9_nanf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* copysign: The magnitude of x with the sign of y, NaN included. */
+orvane_double2 __orvane_l9_copysign1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_copysign2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_copysign3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_copysign4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_copysign8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_copysign16 { double x[16]; double y[16]; };
+void* __orvane_l9_copysign16(void* result, struct orvane_args_copysign16 arguments);
+
+/* copysignf: The magnitude of x with the sign of y, NaN included. */
+orvane_float4 __orvane_l9_copysignf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_copysignf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_copysignf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_copysignf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_copysignf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_copysignf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* fabs: Magnitude of x: the sign bit cleared, of a NaN too. */
+orvane_double2 __orvane_l9_fabs1(orvane_double2 x);
+orvane_double2 __orvane_l9_fabs2(orvane_double2 x);
+orvane_double4 __orvane_l9_fabs3(orvane_double4 x);
+orvane_double4 __orvane_l9_fabs4(orvane_double4 x);
+void __orvane_l9_fabs8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_fabs16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* fabsf: Magnitude of x: the sign bit cleared, of a NaN too. */
+orvane_float4 __orvane_l9_fabsf1(orvane_float4 x);
+orvane_float4 __orvane_l9_fabsf2(orvane_float4 x);
+orvane_float4 __orvane_l9_fabsf3(orvane_float4 x);
+orvane_float4 __orvane_l9_fabsf4(orvane_float4 x);
+orvane_float8 __orvane_l9_fabsf8(orvane_float8 x);
+void __orvane_l9_fabsf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
 /* fmin: The smaller of x and y; y on a tie. Of a NaN and a number the number. */
 orvane_double2 __orvane_l9_fmin1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_fmin2(orvane_double2 x, orvane_double2 y);
@@ -907,6 +1994,57 @@ orvane_float4 __orvane_l9_fmaf4_rm(orvane_float4 x, orvane_float4 y, orvane_floa
 orvane_float8 __orvane_l9_fmaf8_rm(orvane_float8 x, orvane_float8 y, orvane_float8 z);
 struct orvane_args_fmaf16_rm { float x[16]; float y[16]; float z[16]; };
 void* __orvane_l9_fmaf16_rm(void* result, struct orvane_args_fmaf16_rm arguments);
+
+/* fmod: Remainder of x / y truncated, exact, with the sign of x. NaN for infinite x or y = 0. */
+orvane_double2 __orvane_l9_fmod1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_fmod2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_fmod3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_fmod4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_fmod8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_fmod16 { double x[16]; double y[16]; };
+void* __orvane_l9_fmod16(void* result, struct orvane_args_fmod16 arguments);
+
+/* fmodf: Remainder of x / y truncated, exact, with the sign of x. NaN for infinite x or y = 0. */
+orvane_float4 __orvane_l9_fmodf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmodf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmodf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_fmodf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_fmodf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_fmodf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* remainder: Remainder of x / y with the quotient rounded to nearest, exact. NaN for infinite x or y = 0. */
+orvane_double2 __orvane_l9_remainder1(orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_remainder2(orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_remainder3(orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_remainder4(orvane_double4 x, orvane_double4 y);
+void __orvane_l9_remainder8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+struct orvane_args_remainder16 { double x[16]; double y[16]; };
+void* __orvane_l9_remainder16(void* result, struct orvane_args_remainder16 arguments);
+
+/* remainderf: Remainder of x / y with the quotient rounded to nearest, exact. NaN for infinite x or y = 0. */
+orvane_float4 __orvane_l9_remainderf1(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remainderf2(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remainderf3(orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remainderf4(orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_remainderf8(orvane_float8 x, orvane_float8 y);
+void __orvane_l9_remainderf16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
+
+/* remquo: remainder, with sign and low bits of the quotient in the out-lane. */
+orvane_double2 __orvane_l9_remquo1(int32_t* out, orvane_double2 x, orvane_double2 y);
+orvane_double2 __orvane_l9_remquo2(int32_t* out, orvane_double2 x, orvane_double2 y);
+orvane_double4 __orvane_l9_remquo3(int32_t* out, orvane_double4 x, orvane_double4 y);
+orvane_double4 __orvane_l9_remquo4(int32_t* out, orvane_double4 x, orvane_double4 y);
+void __orvane_l9_remquo8(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, at rdi */
+struct orvane_args_remquo16 { double x[16]; double y[16]; };
+void* __orvane_l9_remquo16(void* result, int32_t* out, struct orvane_args_remquo16 arguments);
+
+/* remquof: remainder, with sign and low bits of the quotient in the out-lane. */
+orvane_float4 __orvane_l9_remquof1(int32_t* out, orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remquof2(int32_t* out, orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remquof3(int32_t* out, orvane_float4 x, orvane_float4 y);
+orvane_float4 __orvane_l9_remquof4(int32_t* out, orvane_float4 x, orvane_float4 y);
+orvane_float8 __orvane_l9_remquof8(int32_t* out, orvane_float8 x, orvane_float8 y);
+void __orvane_l9_remquof16(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1, at rdi */
 
 /* idiv: Quotient truncated toward zero. 0x80000000 for b = 0 and for -2^31 / -1. */
 int32_t __orvane_l9_idiv1(int32_t x, int32_t y);
