@@ -14,4 +14,21 @@ ORVANE_TABLE(reduction_row_f32, __orvane_stan_reduction_data, 256);
 struct reduction_row_f64 { uint64_t w[3]; };
 ORVANE_TABLE(reduction_row_f64, __orvane_dtan_reduction_data, 2048);
 
+// What the scalar reduction of slow paths reads: signs, pi/4 in parts and 4 / pi in pieces.
+struct scalar_reduction_table {
+    double parity[2];  // added to a fraction by the parity of its octant
+    double sign[2];    // of a result, by the sign of x
+    double splitter;   // 1.5 * 2^26
+    double unread_5;
+    double pio4_a, pio4_b; // pi/4 in two parts
+    double four_over_pi;
+    double unread_9;
+    double pm[4]; // pi/4 in four parts, below 2^23
+    double pu[5]; // pi/4 in five parts, below 2^30
+    double unread_19;
+    double zero_piece;
+    double piece[49]; // group k of 25 bits of 4 / pi, times 2^200
+};
+ORVANE_TABLE(scalar_reduction_table, __dsin_g_ReductionTab, 1);
+
 } // namespace orvane

@@ -387,6 +387,110 @@ orvane_float4 __orvane_l9_log1pf4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
+/* sin: Sine of x radians, for every finite x. NaN of infinities. */
+orvane_double2 __orvane_l9_sin1(orvane_double2 x);
+orvane_double2 __orvane_l9_sin2(orvane_double2 x);
+orvane_double4 __orvane_l9_sin3(orvane_double4 x);
+orvane_double4 __orvane_l9_sin4(orvane_double4 x);
+void __orvane_l9_sin8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sin16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sin1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_sin2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_sin3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_sin4_rm(orvane_double4 x);
+void __orvane_l9_sin8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sin16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sin1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_sin2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_sin3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_sin4_native(orvane_double4 x);
+void __orvane_l9_sin8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sin16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_sin1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_sin2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_sin3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_sin4_half(orvane_double4 x);
+void __orvane_l9_sin8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_sin16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* sinf: Sine of x radians, for every finite x. NaN of infinities. */
+orvane_float4 __orvane_l9_sinf1(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf2(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf3(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf4(orvane_float4 x);
+orvane_float8 __orvane_l9_sinf8(orvane_float8 x);
+void __orvane_l9_sinf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_sinf8_rm(orvane_float8 x);
+void __orvane_l9_sinf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_sinf8_native(orvane_float8 x);
+void __orvane_l9_sinf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_sinf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_sinf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_sinf8_half(orvane_float8 x);
+void __orvane_l9_sinf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* cos: Cosine of x radians, for every finite x. NaN of infinities. */
+orvane_double2 __orvane_l9_cos1(orvane_double2 x);
+orvane_double2 __orvane_l9_cos2(orvane_double2 x);
+orvane_double4 __orvane_l9_cos3(orvane_double4 x);
+orvane_double4 __orvane_l9_cos4(orvane_double4 x);
+void __orvane_l9_cos8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cos16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cos1_rm(orvane_double2 x);
+orvane_double2 __orvane_l9_cos2_rm(orvane_double2 x);
+orvane_double4 __orvane_l9_cos3_rm(orvane_double4 x);
+orvane_double4 __orvane_l9_cos4_rm(orvane_double4 x);
+void __orvane_l9_cos8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cos16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cos1_native(orvane_double2 x);
+orvane_double2 __orvane_l9_cos2_native(orvane_double2 x);
+orvane_double4 __orvane_l9_cos3_native(orvane_double4 x);
+orvane_double4 __orvane_l9_cos4_native(orvane_double4 x);
+void __orvane_l9_cos8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cos16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+orvane_double2 __orvane_l9_cos1_half(orvane_double2 x);
+orvane_double2 __orvane_l9_cos2_half(orvane_double2 x);
+orvane_double4 __orvane_l9_cos3_half(orvane_double4 x);
+orvane_double4 __orvane_l9_cos4_half(orvane_double4 x);
+void __orvane_l9_cos8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+void __orvane_l9_cos16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
+
+/* cosf: Cosine of x radians, for every finite x. NaN of infinities. */
+orvane_float4 __orvane_l9_cosf1(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf2(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf3(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf4(orvane_float4 x);
+orvane_float8 __orvane_l9_cosf8(orvane_float8 x);
+void __orvane_l9_cosf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cosf1_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf2_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf3_rm(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf4_rm(orvane_float4 x);
+orvane_float8 __orvane_l9_cosf8_rm(orvane_float8 x);
+void __orvane_l9_cosf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cosf1_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf2_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf3_native(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf4_native(orvane_float4 x);
+orvane_float8 __orvane_l9_cosf8_native(orvane_float8 x);
+void __orvane_l9_cosf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+orvane_float4 __orvane_l9_cosf1_half(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf2_half(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf3_half(orvane_float4 x);
+orvane_float4 __orvane_l9_cosf4_half(orvane_float4 x);
+orvane_float8 __orvane_l9_cosf8_half(orvane_float8 x);
+void __orvane_l9_cosf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
 /* tan: Tangent of x radians, for every finite x. NaN of infinities. */
 orvane_double2 __orvane_l9_tan1(orvane_double2 x);
 orvane_double2 __orvane_l9_tan2(orvane_double2 x);
@@ -438,6 +542,76 @@ orvane_float4 __orvane_l9_tanf3_half(orvane_float4 x);
 orvane_float4 __orvane_l9_tanf4_half(orvane_float4 x);
 orvane_float8 __orvane_l9_tanf8_half(orvane_float8 x);
 void __orvane_l9_tanf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
+
+/* sincos: Sine of x radians; the cosine goes to the out-lane. */
+orvane_double2 __orvane_l9_sincos1(double* out, orvane_double2 x);
+orvane_double2 __orvane_l9_sincos2(double* out, orvane_double2 x);
+orvane_double4 __orvane_l9_sincos3(double* out, orvane_double4 x);
+orvane_double4 __orvane_l9_sincos4(double* out, orvane_double4 x);
+void __orvane_l9_sincos8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_sincos16(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+orvane_double2 __orvane_l9_sincos1_rm(double* out, orvane_double2 x);
+orvane_double2 __orvane_l9_sincos2_rm(double* out, orvane_double2 x);
+orvane_double4 __orvane_l9_sincos3_rm(double* out, orvane_double4 x);
+orvane_double4 __orvane_l9_sincos4_rm(double* out, orvane_double4 x);
+void __orvane_l9_sincos8_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_sincos16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+orvane_double2 __orvane_l9_sincos1_native(double* out, orvane_double2 x);
+orvane_double2 __orvane_l9_sincos2_native(double* out, orvane_double2 x);
+orvane_double4 __orvane_l9_sincos3_native(double* out, orvane_double4 x);
+orvane_double4 __orvane_l9_sincos4_native(double* out, orvane_double4 x);
+void __orvane_l9_sincos8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+void __orvane_l9_sincos16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3, at rdi */
+
+/* sincosf: Sine of x radians; the cosine goes to the out-lane. */
+orvane_float4 __orvane_l9_sincosf1(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf2(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf3(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf4(float* out, orvane_float4 x);
+orvane_float8 __orvane_l9_sincosf8(float* out, orvane_float8 x);
+void __orvane_l9_sincosf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+orvane_float4 __orvane_l9_sincosf1_rm(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf2_rm(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf3_rm(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf4_rm(float* out, orvane_float4 x);
+orvane_float8 __orvane_l9_sincosf8_rm(float* out, orvane_float8 x);
+void __orvane_l9_sincosf16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+orvane_float4 __orvane_l9_sincosf1_native(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf2_native(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf3_native(float* out, orvane_float4 x);
+orvane_float4 __orvane_l9_sincosf4_native(float* out, orvane_float4 x);
+orvane_float8 __orvane_l9_sincosf8_native(float* out, orvane_float8 x);
+void __orvane_l9_sincosf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, at rdi */
+
+/* sincosreg: Sine and cosine of x radians as two results. */
+void __orvane_l9_sincosreg1(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosreg2(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosreg3(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosreg4(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosreg8(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, ymm2 ymm3 */
+struct orvane_args_sincosreg16 { double x[16]; };
+void* __orvane_l9_sincosreg16(void* result, struct orvane_args_sincosreg16 arguments);
+void __orvane_l9_sincosreg1_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosreg2_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosreg3_native(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosreg4_native(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosreg8_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, ymm2 ymm3 */
+struct orvane_args_sincosreg16_native { double x[16]; };
+void* __orvane_l9_sincosreg16_native(void* result, struct orvane_args_sincosreg16_native arguments);
+
+/* sincosregf: Sine and cosine of x radians as two results. */
+void __orvane_l9_sincosregf1(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf2(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf3(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf4(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf8(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosregf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, ymm2 ymm3 */
+void __orvane_l9_sincosregf1_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf2_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf3_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf4_native(void) ORVANE_NOT_C; /* in xmm0; out xmm0, xmm1 */
+void __orvane_l9_sincosregf8_native(void) ORVANE_NOT_C; /* in ymm0; out ymm0, ymm1 */
+void __orvane_l9_sincosregf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1, ymm2 ymm3 */
 
 /* sinpi: Sine of x half turns: sin(pi x). NaN of infinities. */
 orvane_double2 __orvane_l9_sinpi1(orvane_double2 x);

@@ -77,7 +77,7 @@ void writer::end_row() {
 
 std::vector<table> all_tables() {
     std::vector<table> all;
-    for (auto part : {exp_tables, log_tables, reduction_tables, tan_tables}) {
+    for (auto part : {exp_tables, log_tables, reduction_tables, angle_tables, tan_tables}) {
         auto t = part();
         all.insert(all.end(), t.begin(), t.end());
     }

@@ -97,6 +97,7 @@ struct table {
 std::vector<table> exp_tables();
 std::vector<table> log_tables();
 std::vector<table> reduction_tables();
+std::vector<table> angle_tables();
 std::vector<table> tan_tables();
 
 std::vector<table> all_tables();
