@@ -124,7 +124,8 @@ template <class T> T cospi_of(T x) {
 }
 template <class T> T tanpi_of(T x) {
     const T quarters = std::rint(2 * x), t = std::tan(std::numbers::pi_v<T> * (x - quarters / 2));
-    return parity((double)quarters) > 0 ? t : -1 / t;
+    if (parity((double)quarters) > 0) return t;
+    return t == 0 ? parity((double)(quarters - 1) / 2) * T(HUGE_VAL) : -1 / t; // poles: +Inf and -Inf in turn
 }
 TEST(Sinpi, LargestErrors) {
     struct largest {

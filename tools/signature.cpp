@@ -23,6 +23,7 @@ const std::map<std::string_view, signature_class> classes = {{"one_argument", si
                                                              {"bits_to_nan", signature_class::bits_to_nan},
                                                              {"conversion", signature_class::conversion}};
 const std::map<std::string_view, kernel_path> paths = {{"settled", kernel_path::settled},
+                                                       {"settled_large", kernel_path::settled_large},
                                                        {"callout", kernel_path::callout},
                                                        {"large", kernel_path::large},
                                                        {"all_lanes", kernel_path::all_lanes}};

@@ -27,7 +27,7 @@ enum class signature_class {
     bits_to_nan,
     conversion
 };
-enum class kernel_path { settled, callout, large, all_lanes };
+enum class kernel_path { settled, settled_large, callout, large, all_lanes };
 
 inline constexpr int widths[] = {1, 2, 3, 4, 8, 16};
 
@@ -58,7 +58,7 @@ struct kernel_row {
     bool has_out() const;            // an out-lane through a pointer
     int results() const;             // without the out-lane
     lane_type result(int j) const;   // type of result j; the out-lane is result(results())
-    bool has_slow_path() const { return path != kernel_path::settled; }
+    bool has_slow_path() const { return path != kernel_path::settled && path != kernel_path::settled_large; }
     std::string suffix() const { return tier == "default" ? "" : "_" + std::string(tier); }
     std::string base() const;          // without the f
     std::string family_symbol() const; // sexp, dln: as blocks and slow paths are named
