@@ -20,9 +20,20 @@ using namespace orvane::bench;
 
 namespace {
 
+bool has_huge_arguments(const kernel_row& row) {
+    const auto base = row.base();
+    return base == "sin" || base == "cos" || base == "tan" || base == "sincos" || base == "sincosreg";
+}
+std::vector<lane_set> lane_sets_of(const kernel_row& row) {
+    std::vector<lane_set> sets = {ordinary};
+    if (!row.special.empty()) sets.push_back(special);
+    if (has_huge_arguments(row)) sets.push_back(huge);
+    return sets;
+}
+
 // Argument lanes of a row: evenly spread over its ordinary range; in the special set one lane of every 64, at a
-// random place, is the row's special one.
-void fill(buffer& b, const kernel_row& row, int width, bool special, unsigned seed = 1) {
+// random place, is the row's special one; huge ones are spread evenly in the exponent up to the largest numbers.
+void fill(buffer& b, const kernel_row& row, int width, lane_set set, unsigned seed = 1) {
     std::mt19937_64 random(seed);
     for (int j = 0; j < row.arguments(); j++)
         with_type(row.argument(j), [&]<class T>(type<T>) {
@@ -30,10 +41,12 @@ void fill(buffer& b, const kernel_row& row, int width, bool special, unsigned se
             T* lane = b.argument[j].as<T>();
             for (int i = 0; i < lanes_of_buffer; i++) {
                 if constexpr (std::is_integral_v<T>) lane[i] = std::uniform_int_distribution<T>(T(lo), T(hi))(random);
+                else if (set == huge)
+                    lane[i] = std::exp2(std::uniform_real_distribution<T>(30, std::numeric_limits<T>::max_exponent)(random));
                 else lane[i] = (T)std::uniform_real_distribution<double>(lo, hi)(random);
             }
         });
-    if (!special) return;
+    if (set != special) return;
     const int live = lanes_of_buffer / stored_lanes(width) * width;
     for (int block = 0; block < live; block += 64) {
         const int lane = block + int(random() % 64), at = lane / width * stored_lanes(width) + lane % width;
@@ -44,14 +57,14 @@ void fill(buffer& b, const kernel_row& row, int width, bool special, unsigned se
     }
 }
 
-// The largest error of the first result over many ordinary lanes, in units of the last place of the true value.
-double largest_error(const kernel_row& row, const pass& run, const family_peers& peers) {
+// The largest error of the first result over many lanes of a set, in units of the last place of the true value.
+double largest_error(const kernel_row& row, const pass& run, const family_peers& peers, lane_set set) {
     if (!peers.truth) return -1;
     auto b = std::make_unique<buffer>();
     std::vector<long double> truth(lanes_of_buffer);
     double worst = 0;
     for (unsigned seed = 1; seed <= 64; seed++) {
-        fill(*b, row, 16, false, seed);
+        fill(*b, row, 16, set, seed);
         peers.truth(*b, truth.data());
         run(*b);
         with_type(row.out, [&]<class T>(type<T>) {
@@ -69,11 +82,11 @@ double largest_error(const kernel_row& row, const pass& run, const family_peers&
 }
 
 // A call in the wrong form would be measured as gladly as a right one: all widths must give the same lanes.
-void check_widths(const kernel_row& row, const std::vector<pass>& runs, bool special) {
+void check_widths(const kernel_row& row, const std::vector<pass>& runs, lane_set set) {
     auto first = std::make_unique<buffer>(), b = std::make_unique<buffer>();
     const bool has_second = row.has_out() || row.results() > 1;
     for (size_t w = 0; w < runs.size(); w++) {
-        fill(*b, row, 1, special);
+        fill(*b, row, 1, set);
         runs[w](*b);
         if (w == 0) *first = *b;
         for (int j = 0; j < 1 + has_second; j++)
@@ -91,9 +104,9 @@ void check_widths(const kernel_row& row, const std::vector<pass>& runs, bool spe
 
 buffer lanes; // of the benchmark that runs
 
-void register_benchmark(const std::string& name, const kernel_row& row, int width, bool special, const pass& run) {
+void register_benchmark(const std::string& name, const kernel_row& row, int width, lane_set set, const pass& run) {
     benchmark::RegisterBenchmark(name.c_str(), [=, &row](benchmark::State& state) {
-        fill(lanes, row, width, special);
+        fill(lanes, row, width, set);
         run(lanes); // the results' pages and the caches
         for (auto _ : state) {
             run(lanes);
@@ -137,7 +150,6 @@ private:
 
     void add_kernel(const kernel_row& row) {
         const family_peers peers = peers_of(row);
-        const bool has_special = !row.special.empty();
         std::vector<pass> runs;
         for (int width : widths) {
             const call_plan plan = plan_of(row, width);
@@ -148,15 +160,15 @@ private:
             }
             runs.push_back(export_pass(plan, f));
         }
-        for (int special = 0; special <= has_special; special++)
-            check_widths(row, runs, special);
-        const double error = largest_error(row, runs.back(), peers);
+        for (lane_set set : lane_sets_of(row))
+            check_widths(row, runs, set);
+        const double error = largest_error(row, runs.back(), peers, ordinary);
 
         const std::string family(row.name), ours = family + '/' + std::string(row.tier) + '/';
         for (size_t w = 0; w < runs.size(); w++)
-            add(ours + std::to_string(widths[w]), row, widths[w], has_special, runs[w]);
+            add(ours + std::to_string(widths[w]), row, widths[w], runs[w]);
         const std::string scalar = peers.scalar ? family + "/libm" : "";
-        if (peers.scalar) add(scalar, row, 16, has_special, peers.scalar);
+        if (peers.scalar) add(scalar, row, 16, peers.scalar);
 
         // The tiers that are this kernel, by the function of SLEEF that they are held against: the most accurate one
         // where the error is at most 1.25 ulp, except for native.
@@ -167,22 +179,37 @@ private:
             std::string& names = tiers_beside[sleef];
             names += (names.empty() ? "" : " = ") + std::string(t->tier);
         }
-        for (const auto& [sleef, names] : tiers_beside) {
-            for (int width : widths) {
-                const bool is_narrow = sleef && &sleef->at(width, row.in) == &sleef->narrow;
-                const std::string sleef_name =
-                    sleef ? family + '/' + sleef->library + (sleef->library[0] == 'C' ? "" : sleef->name) + (is_narrow ? "x128" : "x256") : "";
-                if (sleef) add(sleef_name, row, 16, has_special, sleef->at(width, row.in));
-                rows.push_back({family, names, width, error, sleef ? sleef->name : "", has_special,
-                                ours + std::to_string(width), sleef_name, scalar});
-            }
-        }
+        for (const auto& [sleef, names] : tiers_beside)
+            for (int width : widths)
+                rows.push_back({family, names, width, error, sleef ? sleef->name : "", ordinary,
+                                ours + std::to_string(width), add_vector_peer(row, sleef, width), scalar});
+        // Huge arguments take as many steps in every tier: all are held against the most accurate function.
+        if (!has_huge_arguments(row)) return;
+        const double error_of_huge = largest_error(row, runs.back(), peers, huge);
+        const peer* sleef = peers.accurate ? &*peers.accurate : nullptr;
+        std::string names;
+        for (const auto& [unused, some] : tiers_beside)
+            names += (names.empty() ? "" : " = ") + some;
+        for (int width : widths)
+            rows.push_back({family, names + ", huge", width, error_of_huge, sleef ? sleef->name : "", huge,
+                            ours + std::to_string(width), add_vector_peer(row, sleef, width), scalar});
     }
 
-    void add(const std::string& name, const kernel_row& row, int width, bool has_special, const pass& run) {
+    // The peer's benchmark beside vectors of that width; empty if there is none.
+    std::string add_vector_peer(const kernel_row& row, const peer* sleef, int width) {
+        if (!sleef) return "";
+        const bool is_narrow = &sleef->at(width, row.in) == &sleef->narrow;
+        const std::string function = sleef->library[0] == 'C' ? "" : sleef->name;
+        const std::string name =
+            std::string(row.name) + '/' + sleef->library + function + (is_narrow ? "x128" : "x256");
+        add(name, row, 16, sleef->at(width, row.in));
+        return name;
+    }
+
+    void add(const std::string& name, const kernel_row& row, int width, const pass& run) {
         if (!registered.insert(name).second) return;
-        for (int special = 0; special <= has_special; special++) {
-            register_benchmark(name + '/' + lane_sets[special], row, width, special, run);
+        for (lane_set set : lane_sets_of(row)) {
+            register_benchmark(name + '/' + lane_set_names[set], row, width, set, run);
             benchmarks++;
         }
     }

@@ -35,8 +35,11 @@ void print_table(const std::vector<table_row>& rows, const gathering_reporter& m
     for (const table_row& r : rows) {
         std::vector<std::string> line = {r.family, r.tiers, std::to_string(r.width), text(r.error < 100 ? "%.2f" : "%.3g", r.error)};
         bool any = false;
-        for (const char* set : lane_sets) {
-            auto of = [&](const std::string& name) { return measured.nanoseconds(name + '/' + set); };
+        for (const lane_set set : {r.set, special}) {
+            auto of = [&](const std::string& name) {
+                const bool has_set = r.set == ordinary || set == r.set;
+                return has_set ? measured.nanoseconds(name + '/' + lane_set_names[set]) : -1;
+            };
             const double ours = of(r.ours), sleef = of(r.sleef), scalar = of(r.scalar);
             any |= ours >= 0; // not picked by a filter otherwise
             auto ratio = [&](double peer) { return text("%.2f", ours > 0 && peer > 0 ? peer / ours : -1); };

@@ -9,15 +9,17 @@
 
 namespace orvane::bench {
 
-// Names of benchmarks: FAMILY/TIER/WIDTH/SET for an export, FAMILY/PEER/SET for a peer.
-inline const char* const lane_sets[] = {"ordinary", "special"};
+// Names of benchmarks: FAMILY/TIER/WIDTH/SET for an export, FAMILY/PEER/SET for a peer. Huge arguments are those that
+// the circular functions reduce by many bits of 1 / pi.
+enum lane_set { ordinary, special, huge };
+inline const char* const lane_set_names[] = {"ordinary", "special", "huge"};
 
 struct table_row {
     std::string family, tiers;
     int width;
     double error; // in ulp; negative: not measured
     std::string sleef_name;
-    bool has_special;
+    lane_set set; // ordinary, with special lanes beside them, or huge
     // Names of benchmarks without the set; empty where there is no such peer.
     std::string ours, sleef, scalar;
 };
