@@ -570,9 +570,19 @@ template <int W> struct row_addresses {
     template <class T> ORVANE_INLINE lane_pair<T, W> pair(int number) const {
         return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return at<T>(i, number); });
     }
+    // The same by name, the rows being structs.
+    template <class T, class Row> ORVANE_INLINE lanes<T, W> entry(T Row::*field) const {
+        return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return at(i, field); });
+    }
+    template <class T, class Row> ORVANE_INLINE lane_pair<T, W> pair(T Row::*first) const {
+        return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return at(i, first); });
+    }
 
 private:
     template <class T> ORVANE_INLINE const char* at(int i, int number) const { return row[i] + sizeof(T) * number; }
+    template <class T, class Row> ORVANE_INLINE const char* at(int i, T Row::*field) const {
+        return (const char*)&(((const Row*)row[i])->*field);
+    }
 };
 
 } // namespace orvane

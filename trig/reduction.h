@@ -57,9 +57,9 @@ template <int W> ORVANE_INLINE reduced_angle<float, W> reduce_large_f32(lanes<fl
     const U low16(0xFFFFu);
     auto X = bits(x);
     auto e = (X >> 23) & U(0xFFu);
-    auto row = ((e << 1) + e) << 2;
-    auto [w0, w1] = lookup_pair<uint32_t>(__orvane_stan_reduction_data, row);
-    auto w2 = lookup_bytes<uint32_t>((const char*)__orvane_stan_reduction_data + 8, row);
+    const row_addresses<W> row(__orvane_stan_reduction_data, ((e << 1) + e) << 2);
+    auto [w0, w1] = row.template pair<uint32_t>(0);
+    auto w2 = row.template entry<uint32_t>(2);
     auto mh = ((X >> 16) & U(0x7Fu)) | U(0x80u);
     auto ml = X & low16;
 
@@ -86,9 +86,9 @@ template <int W> ORVANE_INLINE reduced_angle<double, W> reduce_large_f64(lanes<d
     auto product = [](U a, U b) ORVANE_LAMBDA { return multiply_low_words(a, b); };
     auto X = bits(x);
     auto e = (X >> 52) & U(uint64_t(0x7FF));
-    auto row = ((e << 1) + e) << 3;
-    auto [w0, w1] = lookup_pair<uint64_t>(__orvane_dtan_reduction_data, row);
-    auto w2 = lookup_bytes<uint64_t>((const char*)__orvane_dtan_reduction_data + 16, row);
+    const row_addresses<W> row(__orvane_dtan_reduction_data, ((e << 1) + e) << 3);
+    auto [w0, w1] = row.template pair<uint64_t>(0);
+    auto w2 = row.template entry<uint64_t>(2);
     auto mh = ((X >> 32) & U(uint64_t(0xFFFFF))) | U(uint64_t(0x100000));
     auto ml = X; // a product reads low words alone
 

@@ -104,9 +104,9 @@ template <class Signature, const auto& Block, auto& Rare> struct dsincos_short :
 template <int W>
 ORVANE_INLINE auto sine_of_row(const dsincos_ha_block& c, lanes<uint64_t, W> j, lanes<double, W> r,
                                lanes<double, W> rl, lanes<double, W> ps, lanes<double, W> pc) {
-    auto row = j << 5;
-    auto [ct, ch] = lookup_pair<double>(&c.rows.entry->cos_tail, row);
-    auto [sh, sl] = lookup_pair<double>(&c.rows.entry->sin_hi, row);
+    const row_addresses<W> row(c.rows.entry, j << 5);
+    auto [ct, ch] = row.pair(&angle_row<double>::cos_tail);
+    auto [sh, sl] = row.pair(&angle_row<double>::sin_hi);
     auto cosine = ct + ch;
     auto v = fma(-sh, r, cosine);
     auto w = fma(rl, v, sl);

@@ -29,9 +29,9 @@ template <class T, int W> ORVANE_INLINE auto not_finite(const auto& c, lanes<T, 
 // sin(2 pi j/256 + rh + rl), c the block with the row table.
 template <int W> ORVANE_INLINE lanes<float, W> eval_large_f32(const auto& c, const reduced_angle<float, W>& angle) {
     auto [S, r, rl] = angle;
-    auto row = (S & lanes<uint32_t, W>(255u)) << 4;
-    auto [ct, sh] = lookup_pair<float>(&c.rows.entry->cos_tail, row);
-    auto [sl, ch] = lookup_pair<float>(&c.rows.entry->sin_lo, row);
+    const row_addresses<W> row(c.rows.entry, (S & lanes<uint32_t, W>(255u)) << 4);
+    auto [ct, sh] = row.pair(&angle_row<float>::cos_tail);
+    auto [sl, ch] = row.pair(&angle_row<float>::sin_lo);
 
     auto cosine = ch + ct;
     auto v = fma(-sh, r, cosine);
@@ -53,9 +53,9 @@ template <int W> ORVANE_INLINE lanes<float, W> eval_large_f32(const auto& c, con
 // sin(2 pi j/512 + rh + rl).
 template <int W> ORVANE_INLINE lanes<double, W> eval_large_f64(const auto& c, const reduced_angle<double, W>& angle) {
     auto [S, r, rl] = angle;
-    auto row = (S & lanes<uint64_t, W>(uint64_t(511))) << 5;
-    auto [ct, ch] = lookup_pair<double>(&c.rows.entry->cos_tail, row);
-    auto [sh, sl] = lookup_pair<double>(&c.rows.entry->sin_hi, row);
+    const row_addresses<W> row(c.rows.entry, (S & lanes<uint64_t, W>(uint64_t(511))) << 5);
+    auto [ct, ch] = row.pair(&angle_row<double>::cos_tail);
+    auto [sh, sl] = row.pair(&angle_row<double>::sin_hi);
 
     auto h1 = fma(r, ch, sh);
     auto h2 = fma(ct, r, h1);

@@ -160,12 +160,12 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> ordinary_tan(const auto& c, 
 template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_block& c, const reduced_angle<float, W>& angle) {
     using V = lanes<float, W>;
     const V cut(f32(0xFFFFF000));
-    const auto* rows = c.rows.entry;
+    using fields = tan_row<float>;
     auto j = angle.S & lanes<uint32_t, W>(127u);
-    auto row = (j << 5) + (j << 3);
+    const row_addresses<W> row(c.rows.entry, (j << 5) + (j << 3));
     auto R = angle.rl + angle.rh;
 
-    auto [pb_hi, pb_lo] = lookup_pair<float>(&rows->pb_hi, row);
+    auto [pb_hi, pb_lo] = row.pair(&fields::pb_hi);
     auto d = pb_hi - R;
     auto dh = d & cut;
     auto dl = ((pb_hi - d) - R) + ((d - dh) + pb_lo);
@@ -176,8 +176,8 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_block& c, cons
     auto v = fma(u, u, V(-(u - e)));
     auto cr = v * y1;
 
-    auto [pole, c0_hi] = lookup_pair<float>(&rows->pole, row);
-    auto [c0_lo, c1_head] = lookup_pair<float>(&rows->c0_lo, row);
+    auto [pole, c0_hi] = row.pair(&fields::pole);
+    auto [c0_lo, c1_head] = row.pair(&fields::c0_lo);
     auto H = fma(c1_head, R, c0_hi);
     auto L = fma(c1_head, R, c0_hi - H);
     L = fma(pole, cr, L);
@@ -185,26 +185,26 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_block& c, cons
     auto E = fma(pole, y0, V(-P));
     auto s = ((E + H) + L) + c0_lo;
 
-    auto [c1_tail, c2] = lookup_pair<float>(&rows->c1_tail, row);
-    auto [c3, c4] = lookup_pair<float>(&rows->c3, row);
+    auto [c1_tail, c2] = row.pair(&fields::c1_tail);
+    auto [c3, c4] = row.pair(&fields::c3);
     auto Q = fma(R * R, fma(c4, R, c3), fma(c2, R, c1_tail));
     return P + fma(Q, R, s);
 }
 // 1 / (b - R) by the estimate and one step.
 template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_rm_block& c, const reduced_angle<float, W>& angle) {
-    const auto* rows = c.rows.entry;
+    using fields = tan_row<float>;
     auto j = angle.S & lanes<uint32_t, W>(127u);
-    auto row = (j << 5) + (j << 3);
+    const row_addresses<W> row(c.rows.entry, (j << 5) + (j << 3));
     auto R = angle.rl + angle.rh;
 
-    auto [c3, c4] = lookup_pair<float>(&rows->c3, row);
-    auto [c1_tail, c2] = lookup_pair<float>(&rows->c1_tail, row);
+    auto [c3, c4] = row.pair(&fields::c3);
+    auto [c1_tail, c2] = row.pair(&fields::c1_tail);
     auto Q = fma(R * R, fma(c4, R, c3), fma(c2, R, c1_tail));
-    auto [pole, c0_hi] = lookup_pair<float>(&rows->pole, row);
-    auto c1_head = lookup_bytes<float>(&rows->c1_head, row);
+    auto [pole, c0_hi] = row.pair(&fields::pole);
+    auto c1_head = row.entry(&fields::c1_head);
     auto A = fma(R, Q, fma(c1_head, R, c0_hi));
 
-    auto d = lookup_bytes<float>(&rows->pb_hi, row) - R;
+    auto d = row.entry(&fields::pb_hi) - R;
     auto y = reciprocal_estimate(d);
     auto e = fma(-y, d, c.one);
     auto g = y * pole;
@@ -213,25 +213,25 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_rm_block& c, c
 }
 // 1 / (b - R) from the estimate in float by three terms of its geometric series, twice.
 template <int W> ORVANE_INLINE lanes<double, W> row_tan(const auto& c, const reduced_angle<double, W>& angle) {
-    const auto* rows = c.rows.entry;
+    using fields = tan_row<double>;
     auto j = angle.S & lanes<uint64_t, W>(uint64_t(255));
-    auto row = (j << 6) + (j << 5) + (j << 3);
+    const row_addresses<W> row(c.rows.entry, (j << 6) + (j << 5) + (j << 3));
     auto R = angle.rl + angle.rh;
 
-    auto d = lookup_bytes<double>(&rows->pb_hi, row) - R;
+    auto d = row.entry(&fields::pb_hi) - R;
     auto y0 = convert<double>(reciprocal_estimate(convert<float>(d)));
     auto e = fma(-y0, d, lanes<double, W>(1.0));
     auto e2 = e * e;
     auto g = fma(e, e, e);
     auto h = fma(e2, y0, y0);
     auto y = fma(g, h, y0);
-    auto [pole, c0_hi] = lookup_pair<double>(&rows->pole, row);
-    auto [c1_head, c1_tail] = lookup_pair<double>(&rows->c1_head, row);
+    auto [pole, c0_hi] = row.pair(&fields::pole);
+    auto [c1_head, c1_tail] = row.pair(&fields::c1_head);
     auto A = fma(pole, y, fma(c1_head, R, c0_hi));
 
-    auto [c2, c3] = lookup_pair<double>(&rows->c2, row);
-    auto [c4, c5] = lookup_pair<double>(&rows->c4, row);
-    auto [c6, c7] = lookup_pair<double>(&rows->c6, row);
+    auto [c2, c3] = row.pair(&fields::c2);
+    auto [c4, c5] = row.pair(&fields::c4);
+    auto [c6, c7] = row.pair(&fields::c6);
     auto p = fma(c2, R, c1_tail);
     auto q = fma(c4, R, c3);
     auto s = fma(c6, R, c5);
