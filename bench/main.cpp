@@ -202,7 +202,11 @@ private:
         const std::string function = sleef->library[0] == 'C' ? "" : sleef->name;
         const std::string name =
             std::string(row.name) + '/' + sleef->library + function + (is_narrow ? "x128" : "x256");
-        add(name, row, 16, sleef->at(width, row.in));
+        const vector_function& function_of_vector = sleef->at(width, row.in);
+        const bool alike = function_of_vector.in_registers && row.results() == 1 && !row.has_out();
+        add(name, row, 16,
+            alike ? export_pass(plan_of(row, function_of_vector.lanes), function_of_vector.in_registers)
+                  : function_of_vector.run);
         return name;
     }
 

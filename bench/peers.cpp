@@ -116,8 +116,8 @@ struct half_vector {
     operator __m128i() const { return _mm_loadu_si64(lane); }
 };
 
-template <int N, class R, class... A> pass vector_pass(R (*f)(A...)) {
-    return [f](buffer& b) {
+template <int N, class R, class... A> vector_function vector_pass(R (*f)(A...)) {
+    pass run = [f](buffer& b) {
         for (int i = 0; i < lanes_of_buffer; i += N) {
             auto load = [&]<class V>(int j, V*) { return *(const V*)(b.argument[j].bytes + i * (sizeof(V) / N)); };
             const R r = [&]<int... J>(std::integer_sequence<int, J...>) { return f(load(J, (A*)nullptr)...); }
@@ -127,6 +127,7 @@ template <int N, class R, class... A> pass vector_pass(R (*f)(A...)) {
             else store(0, r);
         }
     };
+    return {run, N, is_in_registers<R, A...> ? (const void*)f : nullptr};
 }
 
 struct variants {

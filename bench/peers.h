@@ -7,14 +7,24 @@
 
 namespace orvane::bench {
 
+// A function of a vector of some lanes. One whose arguments and result are registers is called by the very loop that
+// calls our exports; `run` calls any other.
+struct vector_function {
+    pass run;
+    int lanes;
+    const void* in_registers = nullptr;
+};
+template <class R, class... A> constexpr bool is_in_registers =
+    !std::is_class_v<R> && (!std::is_class_v<A> && ...) && sizeof(R) >= 16 && ((sizeof(A) >= 16) && ...);
+
 struct peer {
     const char* name;              // "u10": within 1.0 ulp; empty where SLEEF states no error
-    pass wide;                     // 256 bits a call
-    pass narrow;                   // 128 bits a call, for vectors that fit them
+    vector_function wide;          // 256 bits a call
+    vector_function narrow;        // 128 bits a call, for vectors that fit them
     const char* library;           // "SLEEF" or "C", what the compiler makes of scalar code
-    peer(const char* name, pass wide, pass narrow, const char* library = "SLEEF")
+    peer(const char* name, vector_function wide, vector_function narrow, const char* library = "SLEEF")
         : name(name), wide(std::move(wide)), narrow(std::move(narrow)), library(library) {}
-    const pass& at(int width, lane_type t) const { return width * size_of(t) <= 16 ? narrow : wide; }
+    const vector_function& at(int width, lane_type t) const { return width * size_of(t) <= 16 ? narrow : wide; }
 };
 
 struct family_peers {

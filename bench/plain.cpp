@@ -24,10 +24,10 @@ template <class F, class From, class To, int N> [[gnu::noinline]] vector<To, N> 
     memcpy(&y, to, sizeof y);
     return y;
 }
-template <class F, class From, class To, int N> pass called() {
-    return [](buffer& b) {
-        auto* function = &on_vector<F, From, To, N>;
-        asm("" : "+r"(function)); // called through a pointer, as ours are
+template <class F, class From, class To, int N> vector_function called() {
+    auto* function = &on_vector<F, From, To, N>;
+    asm("" : "+r"(function)); // called through a pointer, as ours are
+    pass run = [function](buffer& b) {
         for (int i = 0; i < lanes_of_buffer; i += N) {
             vector<From, N> x;
             memcpy(&x, b.argument[0].as<From>() + i, sizeof x);
@@ -35,6 +35,7 @@ template <class F, class From, class To, int N> pass called() {
             memcpy(b.result[0].as<To>() + i, &y, sizeof y);
         }
     };
+    return {run, N, is_in_registers<vector<To, N>, vector<From, N>> ? (const void*)function : nullptr};
 }
 template <class F, class From, class To> family_peers plain() {
     constexpr int wide = 32 / std::max(sizeof(From), sizeof(To));
