@@ -81,7 +81,7 @@ TEST(ErrorFunctionsAccuracy, Accuracy) {
 }
 
 TEST(ErrorFunctionsAccuracy, LongEveryFloat) {
-    EXPECT_LE(error_over_all_floats("erff", "default", erf).ulps, 1.92);
+    EXPECT_LE(error_over_all_floats("erff", "default", erf).ulps, 1.93);
     EXPECT_LE(error_over_all_floats("erff", "native", erf).ulps, 4110);
     EXPECT_LE(error_over_all_floats("erfcf", "default", erfc).ulps, 1.65);
     EXPECT_LE(error_over_all_floats("erfcf", "native", erfc).ulps, 406);
