@@ -33,9 +33,6 @@ concept calls_for_all_lanes = requires {
 template <class K, int W> using callout_mask =
     std::conditional_t<W == 1 || calls_for_all_lanes<K>, no_mask, uint32_t>;
 
-template <class K, int W> using wrapper_type = void(callout_pointer<K, 0>, callout_pointer<K, 1>,
-                                                    callout_pointer<K, 2>, callout_pointer<K, 3>, callout_mask<K, W>);
-
 // Vector registers 8 to 15, all 256 bits. The compiler leaves them alone in these objects (-ffixed-xmm8 to 15), so
 // they are as the caller left them.
 struct preserved_registers {

@@ -62,7 +62,7 @@ template <int N, class F> ORVANE_INLINE constexpr void each(F&& f) {
 
 enum rounding : int { to_nearest = 0, downward = 1, upward = 2, toward_zero = 3, by_mode = 4, by_mode_quietly = 12 };
 
-enum comparison : int { LT = 17, LE = 18, NLT = 21, NLE = 22, EQ = 0, NEQ = 4, ORD = 7, UNORD = 3, NEQ_ORDERED = 12 };
+enum comparison : int { LT = 17, LE = 18, NLT = 21, NLE = 22, EQ = 0, NEQ = 4, ORD = 7, UNORD = 3 };
 
 namespace detail {
 // A value in a register, which the compiler takes as it stands.
@@ -109,7 +109,6 @@ template <class T, int W> struct lanes {
 
     // The register under the types that the intrinsics name.
     using integer_register = std::conditional_t<is_wide, __m256i, __m128i>;
-    ORVANE_INLINE integer_register as_integer_register() const { return (integer_register)v; }
     static ORVANE_INLINE lanes from(integer_register r) { return (raw)r; }
 
     friend ORVANE_INLINE lanes operator+(lanes a, lanes b) { return a.v + b.v; }
@@ -160,12 +159,6 @@ template <class T, int W> struct lanes {
         else if constexpr (is_wide) return from(_mm256_sllv_epi64((__m256i)a.v, (__m256i)n.v));
         else return from(_mm_sllv_epi64((__m128i)a.v, (__m128i)n.v));
     }
-    friend ORVANE_INLINE lanes shift_right_logical(lanes a, lanes n) requires(!is_floating<T>) {
-        if constexpr (sizeof(T) == 4 && is_wide) return from(_mm256_srlv_epi32((__m256i)a.v, (__m256i)n.v));
-        else if constexpr (sizeof(T) == 4) return from(_mm_srlv_epi32((__m128i)a.v, (__m128i)n.v));
-        else if constexpr (is_wide) return from(_mm256_srlv_epi64((__m256i)a.v, (__m256i)n.v));
-        else return from(_mm_srlv_epi64((__m128i)a.v, (__m128i)n.v));
-    }
 
     // Comparisons give a lane of ones or of zeros. Those of integers are hidden from the compiler, which would turn
     // an OR with one into a blend.
@@ -197,12 +190,7 @@ template <class T, int W> struct lanes {
     // The negated comparisons, true of a NaN.
     friend ORVANE_INLINE mask not_less(lanes a, lanes b) requires is_floating<T> { return compare<NLT>(a, b); }
     friend ORVANE_INLINE mask not_less_equal(lanes a, lanes b) requires is_floating<T> { return compare<NLE>(a, b); }
-    friend ORVANE_INLINE mask not_greater(lanes a, lanes b) requires is_floating<T> { return compare<NLT>(b, a); }
-    friend ORVANE_INLINE mask not_greater_equal(lanes a, lanes b) requires is_floating<T> {
-        return compare<NLE>(b, a);
-    }
     friend ORVANE_INLINE mask ordered(lanes a, lanes b) requires is_floating<T> { return compare<ORD>(a, b); }
-    friend ORVANE_INLINE mask unordered(lanes a, lanes b) requires is_floating<T> { return compare<UNORD>(a, b); }
     friend ORVANE_INLINE mask is_nan(lanes a) requires is_floating<T> { return compare<UNORD>(a, a); }
 
     // a where the sign bit of m is set, else b.

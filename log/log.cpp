@@ -19,8 +19,8 @@ struct dln_block {
     SLOT(double, 201, max_finite, 0x7FEFFFFFFFFFFFFF) // largest ordinary input
     GAP(202, 202)
     SLOT(double, 203, one, 0x3FF0000000000000)          // 1.0
-    SLOT(double, 204, ln2_hi, 0x3FE62E42FEFA0000)       // 0.6931471805582987, L1
-    SLOT(double, 205, ln2_lo, 0x3D7CF79ABC9E0000)       // 1.6465949582866463e-12, L2
+    SLOT(double, 204, ln2_hi, 0x3FE62E42FEFA0000)       // 0.6931471805582987, ln 2, high part
+    SLOT(double, 205, ln2_lo, 0x3D7CF79ABC9E0000)       // 1.6465949582866463e-12, low part
     SLOT(double, 206, c_split, 0x4086A00000000000)      // 724.0, the c nearest to 512 * sqrt(2)
     SLOT(double, 207, bias_small_m, 0x408FF80000000000) // 1023.0, exponent bias for c above `c_split`
     SLOT(double, 208, bias_large_m, 0x408FF00000000000) // 1022.0, exponent bias otherwise

@@ -28,7 +28,7 @@ struct dlog1p_block {
     SLOT(double, 210, bias_small_m, 0x408FF80000000000) // 1023.0
     SLOT(double, 211, bias_large_m, 0x408FF00000000000) // 1022.0
     SLOT(uint64_t, 212, exponent_field, 0x7FF0000000000000)
-    SLOT(uint64_t, 213, scale_base, 0x7F40000000000000) // see step 6
+    SLOT(uint64_t, 213, scale_base, 0x7F40000000000000) // 2 * 1023 - 10 in the exponent field: less that of z it is that of 2^k
     SLOT(double, 214, ln2, 0x3FE62E42FEFA39EF)          // 0.6931471805599453
 };
 ORVANE_BLOCK(dlog1p_block, __orvane_dlog1p_data)
@@ -47,8 +47,8 @@ struct slog1p_block {
     SLOT(float, 26, lower_limit, 0xBF7FFFFF) // -0.9999999403953552
     SLOT(float, 27, upper_limit, 0x7A800000) // 3.32306998946229e+35
     GAP(28, 28)
-    SLOT(float, 29, ln2_hi, 0x3F317200) // 0.693145751953125, L1
-    SLOT(float, 30, ln2_lo, 0x35BFBE00) // 1.4285906217992306e-06, L2
+    SLOT(float, 29, ln2_hi, 0x3F317200) // 0.693145751953125, ln 2, high part
+    SLOT(float, 30, ln2_lo, 0x35BFBE00) // 1.4285906217992306e-06, low part
     SLOT(float, 31, one, 0x3F800000)    // 1.0
 };
 ORVANE_BLOCK(slog1p_block, __orvane_slog1p_data)

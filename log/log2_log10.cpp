@@ -58,8 +58,8 @@ struct dlog10_block {
     GAP(145, 145)
     SLOT(double, 146, k_scale, 0x3FDBC00000000000)      // 0.43359375, K = 111 / 256
     SLOT(double, 147, one, 0x3FF0000000000000)          // 1.0
-    SLOT(double, 148, log10_2_hi, 0x3FD34413509F0000)   // 0.30102999566224753, L1
-    SLOT(double, 149, log10_2_lo, 0x3D7E7FBCC47C0000)   // 1.7336659603714182e-12, L2
+    SLOT(double, 148, log10_2_hi, 0x3FD34413509F0000)   // 0.30102999566224753, log10(2), high part
+    SLOT(double, 149, log10_2_lo, 0x3D7E7FBCC47C0000)   // 1.7336659603714182e-12, low part
     SLOT(double, 150, c_split, 0x4086A00000000000)      // 724.0
     SLOT(double, 151, bias_small_m, 0x408FF80000000000) // 1023.0
     SLOT(double, 152, bias_large_m, 0x408FF00000000000) // 1022.0

@@ -132,10 +132,14 @@ TEST(Logarithms, LargestErrors) {
                           {"log1p", "default", 0.73 * more, -0.9, 2, log1pl},
                           {"log1pf", "default", 0.57 * more, -0.9, 2, log1pl},
                           {"log1pf", "default", 0.57 * more, 1e-20, 1e35, log1pl, true},
-                          {"log", "native", fast * more, 2, 1e308, logl, true},
-                          {"log2", "native", fast * more, 2, 1e308, log2l, true},
-                          {"log10", "native", fast * more, 2, 1e308, log10l, true},
-                          {"log1p", "native", fast * more, 1, 1e300, log1pl, true}})
+                          {"log", "native", 3000 * more, 2, 1e308, logl, true},
+                          {"log", "native", fast * more, 0.5, 2, logl},
+                          {"log2", "native", 3000 * more, 2, 1e308, log2l, true},
+                          {"log2", "native", fast * more, 0.5, 2, log2l},
+                          {"log10", "native", 3000 * more, 2, 1e308, log10l, true},
+                          {"log10", "native", fast * more, 0.5, 2, log10l},
+                          {"log1p", "native", 3000 * more, 1, 1e300, log1pl, true},
+                          {"log1p", "native", fast * more, -0.9, 2, log1pl}})
         check_accuracy(a);
 }
 

@@ -64,7 +64,7 @@ struct scos_block {
     SLOT(float, 78, pi_3, 0xA7772CED)
     SLOT(float, 79, s1, 0xBE2AAAA6) // r^3, as in sinf
     GAP(80, 82)
-    SLOT(float, 83, s2, 0x3C088764) // r^5; two units below the sinf value
+    SLOT(float, 83, s2, 0x3C088764) // r^5
     SLOT(float, 84, s3, 0xB94FB6CF) // r^7
     SLOT(float, 85, s4, 0x362EC335) // r^9
     SLOT(float, 86, inv_pi, 0x3EA2F983)
@@ -87,7 +87,7 @@ struct scos_rm_block {
     SLOT(float, 75, pi_1, 0x40490FDB)
     SLOT(float, 76, pi_2, 0xB3BBBD2E)
     SLOT(float, 77, c0, 0x3F7FF87C)
-    SLOT(float, 78, c1, 0xBE29E73F) // differs from the sinf value 0xBE29E72F
+    SLOT(float, 78, c1, 0xBE29E73F) // r^3
     SLOT(float, 79, c2, 0x3BF84524)
     SLOT(float, 80, inv_pi, 0x3EA2F983)
     SLOT(float, 81, shifter, 0x4B400000)
