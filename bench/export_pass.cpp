@@ -35,7 +35,7 @@ template <int Bytes> void store(unsigned char* at, __m256 x) {
 // A parameter of this type goes to the stack, one after the other without gaps.
 template <int Bytes> struct stack_vector { alignas(8) unsigned char bytes[Bytes]; };
 
-// The arguments of one call in the register form.
+// The arguments of one call in the register form. (Loops over them are unrolled, or they would go through memory.)
 struct registers {
     uint64_t integer[2] = {};
     __m256 vector[4];
@@ -46,9 +46,11 @@ struct registers {
             T value;
             memcpy(&value, at, sizeof value);
             integer[integers++] = (uint64_t)value;
-        } else
+        } else {
+#pragma GCC unroll 4
             for (int r = 0; r < registers_of<W, T>; r++)
                 vector[vectors++] = load<bytes_of<W, T>>(at + 32 * r);
+        }
     }
     template <int N, class R> [[gnu::always_inline]] R call(const void* f) const {
         const auto [i0, i1] = integer;
@@ -100,7 +102,9 @@ template <int W, class... A, class... R, class Out> struct caller<W, list<A...>,
             asm volatile("" : "+x"(y0), "=x"(y1), "=x"(y2), "=x"(y3));
             const __m256 y[4] = {y0, y1, y2, y3};
             constexpr int n = registers_of<W, first>;
+#pragma GCC unroll 2
             for (size_t j = 0; j < sizeof...(R); j++)
+#pragma GCC unroll 4
                 for (int r = 0; r < n; r++)
                     store<bytes_of<W, first>>(to[j] + 32 * r, y[j * n + r]);
         }

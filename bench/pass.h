@@ -8,7 +8,7 @@
 
 namespace orvane::bench {
 
-inline constexpr int lanes_of_buffer = 1024;
+inline constexpr int lanes_of_buffer = 512;
 
 // Arguments and results, in the types of the function that is run; 3-wide vectors lie four lanes apart. The arrays
 // start at different offsets in a page, so that a store never looks like the next load's.

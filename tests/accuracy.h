@@ -35,12 +35,12 @@ public:
         top.push_back({ulps, result, {x, second}});
         if (top.size() >= 4 * keep) cut();
     }
-    worst decided(const kernel_row& row, truth& t) {
+    worst decided(const kernel_row& row, truth& t, int result = 0) {
         if (top.size() > keep) cut();
         worst w;
         for (const auto& lane : top)
             if (t(row, lane.arguments)) {
-                const double exact = t.error(0, row.out, lane.result);
+                const double exact = t.error(result, row.out, lane.result);
                 if (exact > w.ulps) w = {exact, lane.arguments[0], lane.arguments[1]};
             }
         return w;
@@ -81,25 +81,44 @@ inline worst sampled_error(sweep& f, truth& t, const words& x, const words& seco
     return top.decided(f.row(), t);
 }
 
-// Every float of both signs, vector path and slow path, against the C library's double function; the worst thousand
-// are decided against the truth.
-inline worst error_over_all_floats(const char* name, const char* tier, double (*reference)(double)) {
-    sweep f(name, tier, 16);
-    truth t;
-    largest_errors top(1000);
+// Runs a kernel over every float, those that are no numbers too: visit(x, y) for each, of one of its results.
+template <class visitor>
+void over_all_floats(sweep& f, int result, visitor visit) {
     words x(1 << 16);
     for (uint64_t from = 0; from < (uint64_t(1) << 32); from += x.size()) {
         for (size_t i = 0; i < x.size(); i++)
             x[i] = from + i;
-        const auto& y = f({x});
-        for (size_t i = 0; i < x.size(); i++) {
-            const double z = reference(std::bit_cast<float>((uint32_t)x[i]));
-            // The float nearest to z is off by half a unit at most, and not what is looked for.
-            if (std::bit_cast<float>((uint32_t)y[0][i]) != (float)z || i == 0)
-                top.offer(approximate_ulps(lane_type::f32, y[0][i], z), y[0][i], x[i]);
-        }
+        const auto& y = f({x})[result];
+        for (size_t i = 0; i < x.size(); i++)
+            visit(std::bit_cast<float>((uint32_t)x[i]), std::bit_cast<float>((uint32_t)y[i]));
     }
-    return top.decided(f.row(), t);
+}
+
+// A kernel's largest error over every float from a magnitude on, vector path and slow path, against the C library's
+// double function; the worst thousand are decided against the truth.
+struct float_accuracy {
+    const char *name, *tier;
+    double bound; // ulps, as measured
+    double (*reference)(double);
+    int result = 0;
+    float from = 0;
+};
+inline void check_all_floats(const float_accuracy& a) {
+    sweep f(a.name, a.tier, 16);
+    truth t;
+    largest_errors top(1000);
+    over_all_floats(f, a.result, [&](float x, float y) {
+        if (std::fabs(x) < a.from) return;
+        const double z = a.reference(x);
+        // The float nearest to z is off by half a unit at most, and not what is looked for.
+        if (y != (float)z)
+            top.offer(approximate_ulps(lane_type::f32, std::bit_cast<uint32_t>(y), z), std::bit_cast<uint32_t>(y),
+                      std::bit_cast<uint32_t>(x));
+    });
+    const auto w = top.decided(f.row(), t, a.result);
+    EXPECT_LE(w.ulps, a.bound) << a.name << " " << a.tier << std::hex << " at " << w.argument;
+    EXPECT_GT(w.ulps, 0) << a.name << ": every float was the nearest";
+    printf("%-8s %-8s over all floats: %.4f ulp at %08x\n", a.name, a.tier, w.ulps, (unsigned)w.argument);
 }
 
 // Of results whose bits are a promise: FNV-1a over the words.

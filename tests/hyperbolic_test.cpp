@@ -267,22 +267,19 @@ TEST(Hyperbolics, LargestErrors) {
 
 TEST(Hyperbolics, LongEveryFloat) {
     constexpr double more = 1.1;
-    struct all {
-        const char* name;
-        double bound, bound_native, (*reference)(double);
-    };
-    for (const auto& [name, bound, bound_native, reference] : {all{"sinhf", 1.5, 1100, std::sinh},
-                                                               {"coshf", 1.97, 400, std::cosh},
-                                                               {"tanhf", 3.66, 1600, std::tanh},
-                                                               {"asinhf", 1.97 * more, 1500 * more, std::asinh},
-                                                               {"acoshf", 2.81 * more, 2150 * more, std::acosh},
-                                                               {"atanhf", 2.02 * more, 1500 * more, std::atanh}})
-        for (auto tier : {"default", "native"}) {
-            const auto w = error_over_all_floats(name, tier, reference);
-            EXPECT_LE(w.ulps, *tier == 'd' ? bound : bound_native)
-                << name << " " << tier << std::hex << " at " << w.argument;
-            printf("%-8s %-8s over all floats: %.4f ulp at %08x\n", name, tier, w.ulps, (unsigned)w.argument);
-        }
+    for (const auto& a : {float_accuracy{"sinhf", "default", 1.5, std::sinh},
+                          {"sinhf", "native", 1100, std::sinh},
+                          {"coshf", "default", 1.97, std::cosh},
+                          {"coshf", "native", 400, std::cosh},
+                          {"tanhf", "default", 3.66, std::tanh},
+                          {"tanhf", "native", 1600, std::tanh},
+                          {"asinhf", "default", 1.97 * more, std::asinh},
+                          {"asinhf", "native", 1500 * more, std::asinh},
+                          {"acoshf", "default", 2.81 * more, std::acosh},
+                          {"acoshf", "native", 2150 * more, std::acosh},
+                          {"atanhf", "default", 2.02 * more, std::atanh},
+                          {"atanhf", "native", 1500 * more, std::atanh}})
+        check_all_floats(a);
 }
 
 } // namespace

@@ -302,22 +302,13 @@ TEST(InverseTrigonometry, ErrorsAtTheSeams) {
 }
 
 TEST(InverseTrigonometry, LongEveryFloat) {
-    struct all {
-        const char* name;
-        double bound;
-        double (*reference)(double);
-    };
-    for (const auto& [name, bound, reference] :
-         {all{"asinf", 2.27, std::asin},
-          {"acosf", 1.25, std::acos},
-          {"atanf", 2.47, std::atan},
-          {"asinpif", 2.68, [](double x) { return std::asin(x) / pi; }},
-          {"acospif", 2.46, [](double x) { return std::acos(x) / pi; }},
-          {"atanpif", 3.20 * more, [](double x) { return std::atan(x) / pi; }}}) {
-        const auto w = error_over_all_floats(name, "default", reference);
-        EXPECT_LE(w.ulps, bound) << name << std::hex << " at " << w.argument;
-        printf("%-8s over all floats: %.4f ulp at %08x\n", name, w.ulps, (unsigned)w.argument);
-    }
+    for (const auto& a : {float_accuracy{"asinf", "default", 2.27, std::asin},
+                          {"acosf", "default", 1.25, std::acos},
+                          {"atanf", "default", 2.47, std::atan},
+                          {"asinpif", "default", 2.68, [](double x) { return std::asin(x) / pi; }},
+                          {"acospif", "default", 2.46, [](double x) { return std::acos(x) / pi; }},
+                          {"atanpif", "default", 3.20 * more, [](double x) { return std::atan(x) / pi; }}})
+        check_all_floats(a);
 }
 
 } // namespace

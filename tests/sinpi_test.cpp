@@ -172,18 +172,11 @@ TEST(Sinpi, Bits) {
 }
 
 TEST(Sinpi, LongEveryFloat) {
-    struct all {
-        const char *name, *tier;
-        double bound, (*reference)(double);
-    };
-    for (const auto& [name, tier, bound, reference] : {all{"sinpif", "default", 2.45, sinpi_of},
-                                                       {"cospif", "default", 2.45, cospi_of},
-                                                       {"tanpif", "default", 3.1, tanpi_of},
-                                                       {"tanpif", "native", 640, tanpi_of}}) {
-        const auto w = error_over_all_floats(name, tier, reference);
-        EXPECT_LE(w.ulps, bound) << name << " " << tier << std::hex << " at " << w.argument;
-        printf("%-8s %-8s over all floats: %.4f ulp at %08x\n", name, tier, w.ulps, (unsigned)w.argument);
-    }
+    for (const auto& a : {float_accuracy{"sinpif", "default", 2.45, sinpi_of},
+                          {"cospif", "default", 2.45, cospi_of},
+                          {"tanpif", "default", 3.1, tanpi_of},
+                          {"tanpif", "native", 640, tanpi_of}})
+        check_all_floats(a);
 }
 
 } // namespace
