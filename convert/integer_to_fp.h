@@ -13,6 +13,9 @@ template <class I, int W> ORVANE_INLINE lanes<uint_of<I>, W> magnitude_bits(lane
     if constexpr (std::is_signed_v<I>) return bits(select(x, lanes<I, W>(0) - x, x));
     else return x;
 }
+template <class I, int W> ORVANE_INLINE two_registers<uint_of<I>, W> magnitude_bits(two_registers<I, W> x) {
+    return {magnitude_bits(x.low), magnitude_bits(x.high)};
+}
 
 // The piece whose bits stand in `integer`, with the weight of the unit in the last place of `shift`.
 template <class T, class U, int W> ORVANE_INLINE lanes<T, W> piece(lanes<U, W> integer, lanes<T, W> shift) {
@@ -62,18 +65,19 @@ template <class I, class T, rounding R, const auto& Block> struct from_two_piece
     }
 };
 
-// Three pieces, 64-bit integers to float: bits 0 to 22, 23 to 45 and 46 to 63.
-template <class I, rounding R, const auto& Block> struct from_three_pieces : kernel<conversion<I, float>> {
+// Three pieces, 64-bit integers to float: bits 0 to 22, 23 to 45 and 46 to 63, cut out of the two words.
+template <class I, rounding R, const auto& Block> struct from_three_pieces : kernel<narrowing<I, float>> {
     static constexpr auto& block = Block;
     static constexpr double spare = 1;
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<I, W> x) {
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, auto x) {
         using V = lanes<float, W>;
         constexpr bool is_signed = std::is_signed_v<I>;
 
         auto u = magnitude_bits(x);
-        auto low = low_words(u) & c.low_mask;
-        auto mid = piece(low_words(u >> 23) & c.low_mask, V(c.shift_mid));
-        auto hi = piece(low_words(u >> 46), V(c.shift_hi));
+        auto low_word = low_words(u), high_word = high_words(u);
+        auto low = low_word & c.low_mask;
+        auto mid = piece(((low_word >> 23) | (high_word << 9)) & c.low_mask, V(c.shift_mid));
+        auto hi = piece(high_word >> 14, V(c.shift_hi));
         V sign;
         if constexpr (is_signed) sign = as<float>(high_words(x) & c.sign_mask);
         auto with_sign = [&](V y) ORVANE_LAMBDA {

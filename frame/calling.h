@@ -39,6 +39,8 @@ template <class I> using integer = signature<types<I, I>, types<I>>;
 template <class I> using integer_pair = signature<types<I, I>, types<I, I>>;
 template <class T> using bits_to_nan = signature<types<uint_of<T>>, types<T>>;
 template <class From, class To> using conversion = signature<types<From>, types<To>>;
+// From a 64-bit type to a 32-bit one, where the formula takes the lanes of two registers at a time from W = 8 on.
+template <class From, class To> struct narrowing : conversion<From, To> { static constexpr int lanes_at_once = 8; };
 
 // Lanes stored for a W-wide vector: a 3-wide one is stored whole.
 constexpr int stored(int W) { return W == 3 ? 4 : W; }
@@ -64,7 +66,11 @@ template <class S, int W> struct layout {
         if constexpr (S::has_out) long_out = sizeof(out) == 8;
         return long_out || totals<arguments>::widest == 8 || totals<results>::widest == 8 ? 8 : 4;
     }();
-    static constexpr int chunk = W < 32 / widest ? W : 32 / widest; // lanes of one chunk
+    static constexpr int at_once = [] {
+        if constexpr (requires { S::lanes_at_once; }) return S::lanes_at_once;
+        else return 32 / widest;
+    }();
+    static constexpr int chunk = W < at_once ? W : at_once; // lanes of one chunk
     static constexpr int chunks = W / chunk;
 
     template <class T> static constexpr bool in_integer_register = W == 1 && !is_floating<T>;
@@ -81,6 +87,7 @@ template <int W, class T> ORVANE_INLINE lanes<T, W> admit(lanes<T, W> x, T spare
     else if constexpr (W * sizeof(T) == 8) return (typename V::raw)_mm_movedup_pd((__m128d)x.v);
     else return x;
 }
+template <int W, class T> ORVANE_INLINE two_registers<T, W> admit(two_registers<T, W> x, T) { return x; }
 
 // The low or high part of a 256-bit register, or all of it, as `lanes<T, W>`.
 template <class T, int W> ORVANE_INLINE lanes<T, W> part(__m256 reg, [[maybe_unused]] int half) {
@@ -145,6 +152,9 @@ template <class S, int W> struct incoming {
             // Integer registers count by themselves: with a floating first argument n is in the first of them.
             constexpr int n = is_floating<typename arguments::template at<0>> ? J - 1 : J;
             return lanes<T, C>((typename lanes<T, C>::raw)_mm_cvtsi64_si128((long long)integer[n]));
+        } else if constexpr (sizeof(T) * C > 32) {
+            constexpr int n = before.first + 2 * I;
+            return two_registers<T, C>{part<T, C / 2>(vector[n], 0), part<T, C / 2>(vector[n + 1], 0)};
         } else {
             constexpr int byte = sizeof(T) * C * I;
             return part<T, C>(vector[before.first + byte / 32], byte % 32 / 16);

@@ -407,6 +407,25 @@ template <class T, int W> ORVANE_INLINE lanes<uint32_t, W> high_words(lanes<T, W
                                   (__m128)_mm256_extracti128_si256((__m256i)a.v, 1), 0xDD);
     else return (to)_mm_shuffle_epi32((__m128i)a.v, 0xDD);
 }
+// Eight 64-bit lanes in two registers, for steps that end in 32-bit lanes: these fill one.
+template <class T, int W> struct two_registers {
+    static_assert(sizeof(T) == 8 && W == 8);
+    lanes<T, W / 2> low, high;
+};
+namespace detail {
+// The even or the odd words of two registers, put in order: the shuffle works on halves of registers.
+template <int Which, class T, int W> ORVANE_INLINE lanes<uint32_t, W> words_of(two_registers<T, W> a) {
+    const __m256 halves = _mm256_shuffle_ps((__m256)a.low.v, (__m256)a.high.v, Which);
+    return lanes<uint32_t, W>::from(_mm256_permute4x64_epi64((__m256i)halves, 0xD8));
+}
+} // namespace detail
+template <class T, int W> ORVANE_INLINE lanes<uint32_t, W> low_words(two_registers<T, W> a) {
+    return detail::words_of<0x88>(a);
+}
+template <class T, int W> ORVANE_INLINE lanes<uint32_t, W> high_words(two_registers<T, W> a) {
+    return detail::words_of<0xDD>(a);
+}
+
 // 64-bit lanes seen as twice as many 32-bit ones, words in memory order, for operations that work on words in place.
 template <class U, class T, int W> ORVANE_INLINE auto words_in_place(lanes<T, W> a) {
     static_assert(sizeof(T) == 8 && sizeof(U) == 4);
