@@ -92,10 +92,7 @@ template <class T, int W> ORVANE_INLINE auto beyond_expm1_limit(const auto& c, l
 
 // e^x = (A + B) (1 + h + R): A = 2^k hi[j] exact, B = 2^k lo[j], r = h + l with h so short that A h is exact. A - 1,
 // A h and the rest are summed with the errors of the sums.
-template <class T, const auto& Block, auto& Rare> struct expm1_compensated : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct expm1_compensated : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         auto n = round_to<to_nearest>(x * inverse_step(c));
@@ -144,10 +141,7 @@ template <class T, const auto& Block, auto& Rare> struct expm1_compensated : ker
 };
 
 // The same with one value a table entry, one step of reduction and one fused operation at the end.
-template <class T, const auto& Block, auto& Rare> struct expm1_plain : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct expm1_plain : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         constexpr bool is_double = sizeof(T) == 8;
         lanes<T, W> n, r;

@@ -476,6 +476,14 @@ template <class F, class A, int W, class... B> ORVANE_INLINE auto by_halves(F f,
     } else return f(a, b...);
 }
 
+// The same where the 64-bit lanes are wanted as they are: at W = 8 in two registers.
+template <class F, class A, int W, class... B> ORVANE_INLINE auto widened(F f, lanes<A, W> a, lanes<B, W>... b) {
+    if constexpr (W == 8) {
+        auto low = finished(f(low_half(a), low_half(b)...));
+        return two_registers<typename decltype(low)::element, 8>{low, f(high_half(a), high_half(b)...)};
+    } else return f(a, b...);
+}
+
 // Table lookups from memory, a scalar load a live lane, assembled in a register; the index counts entries.
 namespace detail {
 template <class T> ORVANE_INLINE T load(const void* at) {
@@ -561,6 +569,36 @@ template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(con
     return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return (const char*)base + offsets[i]; });
 }
 
+// Four floats that stand side by side: one load of all a lane, and a transposition.
+template <int W> struct lane_four { lanes<float, W> first, second, third, fourth; };
+namespace detail {
+template <int W, class At> ORVANE_INLINE lane_four<W> assemble_four(At at) {
+    using raw = typename lanes<float, W>::raw;
+    if constexpr (W == 1) {
+        auto word = [&](int i) ORVANE_LAMBDA { return lanes<float, W>(load<float>(at(0) + 4 * i)); };
+        return {word(0), word(1), word(2), word(3)};
+    } else {
+        auto row = [&](int i) ORVANE_LAMBDA { return _mm_loadu_ps((const float*)at(i)); };
+        // The rows of one half of a register each, two and two interleaved, and these once more.
+        auto four = [](auto r0, auto r1, auto r2, auto r3, auto low, auto high) ORVANE_LAMBDA {
+            const auto l02 = low(r0, r2), l13 = low(r1, r3), h02 = high(r0, r2), h13 = high(r1, r3);
+            return lane_four<W>{(raw)low(l02, l13), (raw)high(l02, l13), (raw)low(h02, h13), (raw)high(h02, h13)};
+        };
+        if constexpr (W == 8) {
+            auto two = [&](int i) ORVANE_LAMBDA { return _mm256_set_m128(row(i + 4), row(i)); };
+            return four(
+                two(0), two(1), two(2), two(3),
+                [](auto a, auto b) ORVANE_LAMBDA { return _mm256_unpacklo_ps(a, b); },
+                [](auto a, auto b) ORVANE_LAMBDA { return _mm256_unpackhi_ps(a, b); });
+        } else
+            return four(
+                row(0), row(1), row(W == 2 ? 0 : 2), row(W == 2 ? 1 : 3),
+                [](auto a, auto b) ORVANE_LAMBDA { return _mm_unpacklo_ps(a, b); },
+                [](auto a, auto b) ORVANE_LAMBDA { return _mm_unpackhi_ps(a, b); });
+    }
+}
+} // namespace detail
+
 // A row of a table for each lane, found by its byte offset: the addresses once, then entries or pairs of them, whose
 // numbers count entries of T.
 template <int W> struct row_addresses {
@@ -583,6 +621,9 @@ template <int W> struct row_addresses {
     }
     template <class T, class Row> ORVANE_INLINE lane_pair<T, W> pair(T Row::*first) const {
         return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return at(i, first); });
+    }
+    template <class Row> ORVANE_INLINE lane_four<W> four(float Row::*first) const {
+        return detail::assemble_four<W>([&](int i) ORVANE_LAMBDA { return at(i, first); });
     }
 
 private:

@@ -324,10 +324,8 @@ template <class V> ORVANE_INLINE root<V> root_of(const auto& c, V sh, V sl) {
 
 // ---- The kernels.
 
-template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, tier Tier, const auto& Block, auto& Rare>
+struct asinh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         auto ax = x & c.abs_mask;
@@ -357,9 +355,8 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel
     }
 };
 
-template <class T, tier Tier, const auto& Block, auto& Rare> struct acosh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, tier Tier, const auto& Block, auto& Rare>
+struct acosh_kernel : kernel<one_argument<T>, Block, Rare> {
     static constexpr double spare = 2.0;
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
@@ -377,10 +374,8 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct acosh_kernel
     }
 };
 
-template <class T, tier Tier, const auto& Block, auto& Rare> struct atanh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, tier Tier, const auto& Block, auto& Rare>
+struct atanh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         auto ax = x & c.abs_mask;

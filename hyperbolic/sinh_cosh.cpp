@@ -194,10 +194,7 @@ template <int W> ORVANE_INLINE auto beyond_limit(const auto& c, lanes<double, W>
     return pairs_in_place<int64_t>(words_in_place<int32_t>(ax) > c.large_limit);
 }
 
-template <class T, const auto& Block, auto& Rare> struct sinh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct sinh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto ax = andnot(lanes<T, W>(c.sign_mask), x);
         auto [t, r] = split_by_ln2(c, ax);
@@ -206,10 +203,7 @@ template <class T, const auto& Block, auto& Rare> struct sinh_kernel : kernel<on
         else return answer{y, signed_bits(ax) > c.large_limit};
     }
 };
-template <class T, const auto& Block, auto& Rare> struct cosh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct cosh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto ax = andnot(lanes<T, W>(c.sign_mask), x);
         auto [t, r] = split_by_ln2(c, ax);

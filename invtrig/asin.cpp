@@ -243,9 +243,7 @@ template <bool Native, class V> ORVANE_INLINE V J_of(const auto& c, V t) {
 }
 
 // asin and asinpi: R = |x| or -2 sqrt(w), and a quarter of a turn beside the latter.
-template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         V ax = x & c.sign_or_abs;
@@ -268,9 +266,8 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
 };
 
 // acos and acospi: R = -x or +-2 sqrt(w), and beside them a quarter of a turn, nothing, or a half for x <= -1/2.
-template <class T, const auto& Block, auto& Rare, bool Native> struct arc_cosine : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, const auto& Block, auto& Rare, bool Native>
+struct arc_cosine : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         V nx = x | c.sign_or_abs; // -|x|

@@ -83,10 +83,7 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> scale_to_significand(const a
     return as<T>(lanes<uint_of<T>, W>(c.scale_base) - (bits(z) & c.exponent_field));
 }
 
-template <class T, const auto& Block, auto& Rare> struct log1p_compensated : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct log1p_compensated : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         const V one = c.one;
@@ -126,10 +123,7 @@ template <class T, const auto& Block, auto& Rare> struct log1p_compensated : ker
     }
 };
 
-struct log1p_plain : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_dlog1p_data;
-    static constexpr auto& slow_path = __orvane_dlog1p_cout_rare;
-
+struct log1p_plain : kernel<one_argument<double>, __orvane_dlog1p_data, __orvane_dlog1p_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const dlog1p_block& c, lanes<double, W> x) {
         const lanes<double, W> one = c.one;
         auto [big, small] = order(one, x);
@@ -144,10 +138,7 @@ struct log1p_plain : kernel<one_argument<double>> {
     }
 };
 
-struct log1pf_polynomial : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_slog1p_native_data;
-    static constexpr auto& slow_path = __orvane_slog1p_cout_rare;
-
+struct log1pf_polynomial : kernel<one_argument<float>, __orvane_slog1p_native_data, __orvane_slog1p_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const slog1p_native_block& c, lanes<float, W> x) {
         const lanes<float, W> one = c.one;
         auto [big, small] = order(one, x);

@@ -30,8 +30,7 @@ template <class T, int W> ORVANE_INLINE auto not_finite(const auto& c, lanes<T, 
 template <int W> ORVANE_INLINE lanes<float, W> eval_large_f32(const auto& c, const reduced_angle<float, W>& angle) {
     auto [S, r, rl] = angle;
     const row_addresses<W> row(c.rows.entry, (S & lanes<uint32_t, W>(255u)) << 4);
-    auto [ct, sh] = row.pair(&angle_row<float>::cos_tail);
-    auto [sl, ch] = row.pair(&angle_row<float>::sin_lo);
+    auto [ct, sh, sl, ch] = row.four(&angle_row<float>::cos_tail);
 
     auto cosine = ch + ct;
     auto v = fma(-sh, r, cosine);
