@@ -87,11 +87,11 @@ template <class T, const auto& Block, auto& Rare> struct log1p_compensated : ker
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         const V one = c.one;
-        auto [big, small] = order(one, x);
         auto z = x + one;
         // Low bits of z are cleared, so that err has room; where x is tiny z is 1 and err x itself.
-        auto zz = z & as<T>(((x & c.abs_mask) < V(c.tiny_limit)) | signed_bits(V(c.z_mask)));
-        auto err = (big - zz) + small; // 1 + x = zz + err exactly
+        auto zz = finished(z & as<T>(((x & c.abs_mask) < V(c.tiny_limit)) | signed_bits(V(c.z_mask))));
+        auto [big, small] = order(one, x);
+        auto err = finished((big - zz) + small); // 1 + x = zz + err exactly
 
         auto m = significand(c, zz, c.m_exponent);
         auto integer = round_to<to_nearest>(reciprocal(m));
@@ -109,7 +109,8 @@ template <class T, const auto& Block, auto& Rare> struct log1p_compensated : ker
         if constexpr (sizeof(T) == 8) t = pair_of_bits<39, 0x810000>(c, integer);
         else t = pair_of_bits<13, 0x21800>(c, integer);
         auto h = fma(E, c.ln2_hi, t.first);
-        auto l = fma(E, c.ln2_lo, t.second);
+        auto l = finished(fma(E, c.ln2_lo, t.second));
+        in_turn(l, R);
 
         auto R2 = R * R;
         auto [u, e] = add_exactly(R, h);
