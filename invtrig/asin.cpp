@@ -256,6 +256,7 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
         if constexpr (requires { c.pi_half; }) y = keep(big, V(c.pi_half)) + fma_in_order(R, Q_of<Native>(c, t), R);
         else if constexpr (Native) y = fma_in_order(R, J_of<Native>(c, t), keep(big, V(c.half)));
         else y = fma_in_order(Q_of<Native>(c, t), R, fma(R, V(c.inv_pi), keep(big, V(c.half))));
+        in_turn(y, x); // the sign last, so that no register holds it through the polynomial
         return answer{y ^ (x & c.neg_zero), special};
     }
     // The pi forms leave +-1 to the slow path as well.
