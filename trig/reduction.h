@@ -1,12 +1,30 @@
-// The reduction of large arguments: x = 2 pi (k + j / 2^B) + rh + rl from the fraction of a turn, of which 64 bits
-// (float) or 128 bits (double) are formed in integers. Straight-line code over all lanes; Inf and NaN run through and
-// give what they give.
+// Reductions of an angle: by multiples of pi, and for large arguments to x = 2 pi (k + j / 2^B) + rh + rl from the
+// fraction of a turn, of which 64 bits (float) or 128 bits (double) are formed in integers. Straight-line code over all
+// lanes; Inf and NaN run through and give what they give.
 #pragma once
 
 #include "frame/_orvane_template.h"
 #include "trig/reduction_tables.h"
 
+#include <limits>
+
 namespace orvane {
+
+// The short reduction: v - n p with p, pi or half of it, in two pieces, in the more accurate tiers three.
+template <class V> ORVANE_INLINE V less_multiples_of_pi(const auto& c, V n, V v) {
+    v = fma(-n, c.pi_1, v);
+    v = fma(-n, c.pi_2, v);
+    if constexpr (requires { c.pi_3; }) v = fma(-n, c.pi_3, v);
+    return v;
+}
+
+// What the large reduction leaves to a slow path: infinities and NaN.
+template <class T, int W> ORVANE_INLINE auto not_finite(const auto& c, lanes<T, W> x) {
+    lanes<uint_of<T>, W> exponent;
+    if constexpr (requires { c.exp_mask; }) exponent = c.exp_mask;
+    else exponent = bits(lanes<T, W>(std::numeric_limits<T>::infinity()));
+    return (bits(x) & exponent) == exponent;
+}
 
 // The lowest B bits of S (8 in float, 9 in double) are j; abs(rh) <= 2 pi 2^-(B + 1).
 template <class T, int W> struct reduced_angle {

@@ -144,9 +144,7 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> ordinary_tan(const auto& c, 
     auto ax = x & c.abs_mask;
     auto t = fma(ax, c.two_over_pi, c.shifter);
     auto n = t - c.shifter;
-    auto r = fma(-n, c.pi_1, ax);
-    r = fma(-n, c.pi_2, r);
-    if constexpr (requires { c.pi_3; }) r = fma(-n, c.pi_3, r);
+    auto r = less_multiples_of_pi(c, n, ax);
 
     auto [N, D] = quotient_of(c, r);
     auto odd = signed_bits(t) << (8 * sizeof(T) - 1);
@@ -252,10 +250,7 @@ template <class T, const auto& Block, auto& Rare> struct tan_kernel : kernel<one
         return answer{y, not_less_equal(x & c.abs_mask, lanes<T, W>(c.large_limit))};
     }
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<T, W> x, auto ordinary) {
-        auto y = select(ordinary.special, large_tan(c, x), ordinary.first);
-        constexpr auto exp_mask = sizeof(T) == 8 ? uint_of<T>(0x7FF0000000000000) : uint_of<T>(0x7F800000);
-        const lanes<uint_of<T>, W> exponent(exp_mask);
-        return answer{y, (bits(x) & exponent) == exponent};
+        return answer{select(ordinary.special, large_tan(c, x), ordinary.first), not_finite(c, x)};
     }
 };
 
