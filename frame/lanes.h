@@ -193,12 +193,13 @@ template <class T, int W> struct lanes {
     friend ORVANE_INLINE mask ordered(lanes a, lanes b) requires is_floating<T> { return compare<ORD>(a, b); }
     friend ORVANE_INLINE mask is_nan(lanes a) requires is_floating<T> { return compare<UNORD>(a, a); }
 
-    // a where the sign bit of m is set, else b.
+    // a where the sign bit of m is set, else b. The instruction itself: from two selections by one mask the compiler
+    // would make a comparison of the mask with 0 first.
     friend ORVANE_INLINE lanes select(mask m, lanes a, lanes b) {
-        if constexpr (sizeof(T) == 4 && is_wide) return (raw)_mm256_blendv_ps((__m256)b.v, (__m256)a.v, (__m256)m.v);
-        else if constexpr (sizeof(T) == 4) return (raw)_mm_blendv_ps((__m128)b.v, (__m128)a.v, (__m128)m.v);
-        else if constexpr (is_wide) return (raw)_mm256_blendv_pd((__m256d)b.v, (__m256d)a.v, (__m256d)m.v);
-        else return (raw)_mm_blendv_pd((__m128d)b.v, (__m128d)a.v, (__m128d)m.v);
+        raw chosen;
+        if constexpr (sizeof(T) == 4) asm("vblendvps %3, %2, %1, %0" : "=x"(chosen) : "x"(b.v), "xm"(a.v), "x"(m.v));
+        else asm("vblendvpd %3, %2, %1, %0" : "=x"(chosen) : "x"(b.v), "xm"(a.v), "x"(m.v));
+        return chosen;
     }
     // a where m is all ones, else +0: an AND.
     friend ORVANE_INLINE lanes keep(mask m, lanes a) { return lanes((raw)m.v) & a; }

@@ -128,9 +128,9 @@ struct atan_table_kernel : kernel<one_argument<double>, __orvane_datan_data_avx5
 
         const auto& p = c.poly;
         V y = r * r;
-        V A = fma(V(p[0]), y, p[1]), B = fma(V(p[2]), y, p[3]), C = fma(V(p[4]), y, p[5]);
         V y2 = y * y;
-        V P = fma(fma(fma(y2, A, B), y2, C), r * y, r);
+        V A = fma(V(p[0]), y, p[1]), B = finished(fma(y2, A, fma(V(p[2]), y, p[3])));
+        V P = fma(fma(B, y2, fma(V(p[4]), y, p[5])), r * y, r);
         return (T + P) ^ (x ^ ax);
     }
 };
