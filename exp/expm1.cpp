@@ -83,9 +83,6 @@ template <class T, int W> ORVANE_INLINE auto entry_offset(const auto& c, lanes<T
 template <int Shift, class T, int W> ORVANE_INLINE auto power_of_two_bits(const auto& c, lanes<T, W> u) {
     return (bits(u) & c.exponent_bits) << Shift;
 }
-template <class T, int W> ORVANE_INLINE auto with_sign_of(lanes<T, W> y, lanes<T, W> x) {
-    return y | (x & lanes<T, W>(T(-0.0))); // keeps -0
-}
 template <class T, int W> ORVANE_INLINE auto beyond_expm1_limit(const auto& c, lanes<T, W> x) {
     return not_less_equal(x & c.abs_mask, c.ordinary_limit);
 }
@@ -102,22 +99,23 @@ template <class T, const auto& Block, auto& Rare> struct expm1_compensated : ker
         auto r = rh - cc;
         auto nothing_split_off = bits(V(as<T>(rh == x))); // all ones where n = 0
 
+        auto h = finished(rh & as<T>(nothing_split_off | c.split_mask));
+        auto l = (rh - h) - cc;
+        auto r2 = r * r;
+        auto R = fma(r2, polynomial(c, r, r2), l);
+
+        in_turn(R, n); // the polynomial's registers are free again
         auto u = n + c.index_shifter;
         auto [m, lo] = lookup_pair<T>(&c.exp2_split, entry_offset(c, u));
         auto power = as<T>(power_of_two_bits < sizeof(T) == 8 ? 41 : 14 > (c, u));
         auto A = power | m;
-        auto B = lo * power;
-
-        auto h = rh & as<T>(nothing_split_off | c.split_mask);
-        auto l = (rh - h) - cc;
-        auto r2 = r * r;
-        auto R = fma(r2, polynomial(c, r, r2), l);
-        auto M = A * h;
+        auto B = finished(lo * power);
 
         auto S = A + c.minus_one;
         auto A_is_larger = S > V(T(0));
         auto big = select(A_is_larger, A, V(c.minus_one)), small = select(A_is_larger, V(c.minus_one), A);
-        auto e = B + ((big - S) + small);
+        auto e = finished(B + ((big - S) + small));
+        auto M = A * h;
         auto S2 = S + M;
         auto e2 = fma(R, A, M + (S - S2));
         auto R2 = fma(B, R + h, e);

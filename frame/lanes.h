@@ -334,6 +334,12 @@ template <class U, class T, int W> ORVANE_INLINE lanes<U, W> as(lanes<T, W> a) {
 template <class T, int W> ORVANE_INLINE lanes<uint_of<T>, W> bits(lanes<T, W> a) { return as<uint_of<T>>(a); }
 template <class T, int W> ORVANE_INLINE lanes<int_of<T>, W> signed_bits(lanes<T, W> a) { return as<int_of<T>>(a); }
 
+// y under the sign of x, by an OR: -0 for x = -0. The mask is read here, where one that a kernel reads for other steps
+// too would stay in a register in between.
+template <class T, int W> ORVANE_INLINE lanes<T, W> with_sign_of(lanes<T, W> y, lanes<T, W> x) {
+    return y | (x & lanes<T, W>(T(-0.0)));
+}
+
 // Halves of a full 256-bit register, and back.
 template <class T, int W> ORVANE_INLINE lanes<T, W / 2> low_half(lanes<T, W> a) {
     static_assert(W == lanes<T, W>::capacity && lanes<T, W>::is_wide);

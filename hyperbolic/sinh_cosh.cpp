@@ -198,7 +198,7 @@ template <class T, const auto& Block, auto& Rare> struct sinh_kernel : kernel<on
         const lane_bits<W> special = marked<T, W>(words(ax) > c.large_limit);
         auto [t, r] = split_by_ln2(c, ax);
         auto y = combined(c, with_lead(true, of_power(c, t)), r);
-        return answer{y | (x & V(T(-0.0))), special}; // a mask of its own: sign_mask would stay in a register till here
+        return answer{with_sign_of(y, x), special};
     }
 };
 template <class T, const auto& Block, auto& Rare> struct cosh_kernel : kernel<one_argument<T>, Block, Rare> {

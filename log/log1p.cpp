@@ -72,9 +72,6 @@ ORVANE_BLOCK(slog1p_native_block, __orvane_slog1p_native_data)
 // The larger and the smaller of 1 and x.
 template <class V> struct ordered_pair { V big, small; };
 template <class V> ORVANE_INLINE ordered_pair<V> order(V one, V x) { return {max(one, x), min(one, x)}; }
-template <class T, int W> ORVANE_INLINE auto with_sign_of(lanes<T, W> y, lanes<T, W> x) {
-    return y | (x & lanes<T, W>(T(-0.0))); // keeps -0
-}
 template <class V> ORVANE_INLINE auto outside_limits(const auto& c, V x) {
     return not_less_equal(x, V(c.upper_limit)) | (x < V(c.lower_limit));
 }
