@@ -114,11 +114,11 @@ template <class T, const auto& Block, auto& Rare> struct expm1_compensated : ker
         auto S = A + c.minus_one;
         auto A_is_larger = S > V(T(0));
         auto big = select(A_is_larger, A, V(c.minus_one)), small = select(A_is_larger, V(c.minus_one), A);
-        auto e = finished(B + ((big - S) + small));
+        auto e = B + ((big - S) + small);
+        auto R2 = finished(fma(B, R + h, e));
         auto M = A * h;
         auto S2 = S + M;
         auto e2 = fma(R, A, M + (S - S2));
-        auto R2 = fma(B, R + h, e);
         auto y = S2 + (e2 + R2);
         return answer{with_sign_of(y, x), beyond_expm1_limit(c, x)};
     }
