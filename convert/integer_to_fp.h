@@ -8,9 +8,9 @@
 
 namespace orvane {
 
-// Sign of the source, and the magnitude as an unsigned integer, which holds that of the most negative value too.
+// The magnitude of a source as an unsigned integer.
 template <class I, int W> ORVANE_INLINE lanes<uint_of<I>, W> magnitude_bits(lanes<I, W> x) {
-    if constexpr (std::is_signed_v<I>) return bits(select(x, lanes<I, W>(0) - x, x));
+    if constexpr (std::is_signed_v<I>) return magnitude(x);
     else return x;
 }
 template <class I, int W> ORVANE_INLINE two_registers<uint_of<I>, W> magnitude_bits(two_registers<I, W> x) {

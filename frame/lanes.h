@@ -340,6 +340,15 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> with_sign_of(lanes<T, W> y, 
     return y | (x & lanes<T, W>(T(-0.0)));
 }
 
+// |a| as an unsigned integer, which holds that of the most negative value too.
+template <int W> ORVANE_INLINE lanes<uint32_t, W> magnitude(lanes<int32_t, W> a) {
+    if constexpr (lanes<int32_t, W>::is_wide) return lanes<uint32_t, W>::from(_mm256_abs_epi32((__m256i)a.v));
+    else return lanes<uint32_t, W>::from(_mm_abs_epi32((__m128i)a.v));
+}
+template <int W> ORVANE_INLINE lanes<uint64_t, W> magnitude(lanes<int64_t, W> a) {
+    return bits(select(a, lanes<int64_t, W>(0) - a, a));
+}
+
 // Halves of a full 256-bit register, and back.
 template <class T, int W> ORVANE_INLINE lanes<T, W / 2> low_half(lanes<T, W> a) {
     static_assert(W == lanes<T, W>::capacity && lanes<T, W>::is_wide);
