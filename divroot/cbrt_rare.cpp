@@ -22,7 +22,7 @@ ORVANE_SLOW_PATH(__orvane_dcbrt_cout_rare, const double* x, double* result) {
     const double d = (e1 - eh) - r * b, ee = eh + d;
 
     // v + vl = (1 - e)^(-2/3) - 1 over e, v split.
-    const double p = polynomial(T.k, ee) * ee;
+    const double p = horner_up(T.k, ee) * ee;
     const auto [c0, c0_lo] = T.two_thirds;
     const double v = p + c0, vc = c0 - v, vh = leading(v, T.splitter);
     const double vl = (((p + vc) + (c0 - (v + vc))) + c0_lo) + (v - vh);
@@ -57,7 +57,7 @@ ORVANE_SLOW_PATH(__orvane_scbrt_cout_rare, const float* x, float* result) {
     const auto [hi, lo] = T.root_pairs_f.entry[32 * rem + i];
     const float HS = hi * scale, LS = lo * scale;
     constexpr float coefficients[] = {f32(0x3EAAAAAB), f32(0xBDE38E39), f32(0x3D7CD6EA), f32(0xBD288F47)};
-    const float P = polynomial(coefficients, u);
+    const float P = horner_up(coefficients, u);
     *result = ((LS + (u * HS) * P) + HS) * 0x1p-42f;
     return ordinary;
 }
@@ -79,7 +79,7 @@ double reciprocal_cube_root(double x) {
     const double Mh = leading(M, T.splitter), Ml = M - Mh;
     const double a = r3 * Ml, e0 = 1.0 - Mh * r3, e1 = e0 - a, eh = leading(e0, T.splitter);
     const double c = T.third_hi, b = (eh * r) * c;
-    const double v = e1 * T.third_lo + polynomial(T.j, e1) * e1 * e1;
+    const double v = e1 * T.third_lo + horner_up(T.j, e1) * e1 * e1;
     const double s = r + b;
     const double y = (((e0 - eh) * c + (a * -c + v)) * r + ((r - s) + b)) + s;
     const double scale = power_of_two((subnormal ? 1053 : 1023) - third + (rem0 < 0));

@@ -12,14 +12,6 @@ inline double leading(double v, double factor) {
     return a - (a - v);
 }
 
-// c[0] + c[1] x + c[2] x^2 + ..., from the highest power down.
-template <class T, int N> T polynomial(const T (&c)[N], T x) {
-    T p = c[N - 1];
-    for (int i = N - 2; i >= 0; i--)
-        p = p * x + c[i];
-    return p;
-}
-
 // sqrt(m) and half its reciprocal from a seed of the latter: three coupled steps of Goldschmidt's iteration.
 struct root_and_half_reciprocal {
     double g, h;

@@ -86,8 +86,7 @@ inline float expf_normal(float x) {
 
 // -Inf gives +0, +Inf itself, NaN is quieted.
 template <class T> bool exp_of_not_finite(T x, T* result) {
-    constexpr auto field = sizeof(T) == 8 ? uint64_t(0x7FF0000000000000) : uint64_t(0x7F800000);
-    if ((bits(x) & field) != field) return false;
+    if (biased_exponent(x) != top_exponent<T>) return false;
     *result = x == -__builtin_inf() ? T(0) : x * x;
     return true;
 }

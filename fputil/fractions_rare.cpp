@@ -5,21 +5,18 @@ namespace orvane {
 
 namespace {
 
-template <class T> bool is_infinite(T v) { return v == T(__builtin_inf()) || v == -T(__builtin_inf()); }
-template <class T> T zero_with_sign_of(T v) { return __builtin_copysign(0.0, v); }
-
 // A NaN goes on as it came, a signalling one too: the bits are copied and no operation touches them.
 template <class T> int fract_rare(const T* x, T* result, T* out) {
     const bool infinite = is_infinite(*x);
     __builtin_memcpy(out, x, sizeof(T));
     __builtin_memcpy(result, x, sizeof(T));
-    if (infinite) *result = zero_with_sign_of(*x);
+    if (infinite) *result = with_sign_of(*x, T(0));
     return ordinary;
 }
 
 template <class T> int modf_rare(const T* x, T* result, T* out) {
     const T v = *x;
-    *result = is_infinite(v) ? zero_with_sign_of(v) : v + v;
+    *result = is_infinite(v) ? with_sign_of(v, T(0)) : v + v;
     *out = v + v; // an infinity stays, a NaN is quieted
     return ordinary;
 }

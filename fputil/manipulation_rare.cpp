@@ -1,5 +1,5 @@
 // The slow paths of frexp, ldexp, ilogb, logb and nextafter: what is not normal going in or coming out.
-#include "fputil/fields.h"
+#include "frame/rare.h"
 
 namespace orvane {
 
@@ -32,12 +32,6 @@ template <> struct of_type<float> {
 };
 template <class T> bool is_zero(T v) { return v == T(0); }
 
-// Sign and significand of v under another exponent field.
-template <class T> T with_exponent(T v, int field) {
-    const auto kept = bits(v) & ~(pattern<T>(top_exponent<T>) << fraction_bits<T>);
-    return std::bit_cast<T>(kept | pattern<T>(field) << fraction_bits<T>);
-}
-
 // x comes and goes as bits: a signalling NaN stays one.
 template <class T> int frexp_rare(const T* x, T* result, int32_t* out) {
     *out = 0;
@@ -45,7 +39,7 @@ template <class T> int frexp_rare(const T* x, T* result, int32_t* out) {
     if (biased_exponent(*x) == top_exponent<T> || is_zero(*x)) return ordinary;
     const T v = *x * of_type<T>::scale;
     *out = biased_exponent(v) - (exponent_bias<T> - 1) - of_type<T>::up;
-    *result = with_exponent(v, exponent_bias<T> - 1);
+    *result = with_biased_exponent(v, exponent_bias<T> - 1);
     return ordinary;
 }
 
@@ -67,11 +61,11 @@ template <class T> int ldexp_rare(const T* x, const int32_t* n, T* result) {
         return overflow;
     }
     if (s > 0) {
-        *result = with_exponent(w, s);
+        *result = with_biased_exponent(w, s);
         return ordinary;
     }
     if (s > -(fraction_bits<T> + 1)) {
-        *result = with_exponent(w, s + type::up) * type::scale_back; // the one rounding
+        *result = with_biased_exponent(w, s + type::up) * type::scale_back; // the one rounding
         if (!is_zero(*result)) return ordinary;
     }
     *result = type::small[negative] * type::small[0];

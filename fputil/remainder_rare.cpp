@@ -1,16 +1,12 @@
 // The slow paths of fmod, remainder and remquo: long division of the significands as integers, a quotient bit a step,
 // and what has no remainder. Every result is exact.
-#include "fputil/fields.h"
+#include "frame/rare.h"
 
 namespace orvane {
 
 namespace {
 
 template <class T> constexpr pattern<T> leading_bit = pattern<T>(1) << fraction_bits<T>;
-template <class T> bool is_infinite(T v) { return magnitude(v) == T(__builtin_inf()); }
-template <class T> T with_sign_of(T x, T magnitude) {
-    return std::bit_cast<T>(bits(magnitude) | (bits(x) & sign_bit<T>));
-}
 
 // A finite nonzero magnitude as significand * 2^(exponent - fraction_bits), leading bit in place; of subnormals too.
 template <class T> struct unpacked {
@@ -76,13 +72,8 @@ template <class T> int fmod_rare(const T* x, const T* y, T* result) {
     return ordinary;
 }
 
-// Without a remainder: in double what the processor gives for 0/0, which has its sign set.
-template <class T> T no_remainder() {
-    if constexpr (sizeof(T) == 4) return invalid<T>;
-    T zero = 0;
-    asm("" : "+x"(zero));
-    return zero / zero;
-}
+// Without a remainder.
+template <class T> T no_remainder() { return sizeof(T) == 4 ? invalid<T> : invalid_operation<T>(); }
 
 template <class T> int remquo_rare(const T* x, const T* y, T* result, int32_t* out) {
     *out = 0;

@@ -6,8 +6,6 @@ namespace orvane {
 
 namespace {
 
-template <class T> bool is_nan(T v) { return v != v; }
-
 template <class T> int selection_rare(const T* x, const T* y, T* result) {
     if (is_nan(*y)) *result = *x * T(1.0);
     if (is_nan(*x)) *result = *y * T(1.0);

@@ -36,13 +36,53 @@ template <class T> constexpr int top_exponent = sizeof(T) == 8 ? 0x7FF : 0xFF; /
 template <class T> constexpr auto pattern_of_one = bits(T(1));
 template <class T> constexpr T invalid = sizeof(T) == 8 ? T(f64(0x7FF8000000000000)) : T(f32(0x7FC00000)); // positive
 
+template <class T> using pattern = decltype(bits(T()));
+template <class T> constexpr pattern<T> sign_bit = bits(T(-0.0));
+
 template <class T> int biased_exponent(T x) {
     return int(bits(x) >> fraction_bits<T>) & top_exponent<T>;
+}
+// Sign and significand of x under another exponent field.
+template <class T> T with_biased_exponent(T x, int field) {
+    const auto kept = bits(x) & ~(pattern<T>(top_exponent<T>) << fraction_bits<T>);
+    return std::bit_cast<T>(kept | pattern<T>(field) << fraction_bits<T>);
 }
 // The significand with exponent 0: in [1, 2).
 template <class T> T significand(T x) {
     const auto fraction = bits(x) & ((decltype(bits(x))(1) << fraction_bits<T>)-1);
     return std::bit_cast<T>(fraction | pattern_of_one<T>);
+}
+
+// By the bits: of -0 and NaN too.
+template <class T> bool is_negative(T x) { return bits(x) & sign_bit<T>; }
+template <class T> T magnitude(T x) { return std::bit_cast<T>(bits(x) & ~sign_bit<T>); }
+template <class T> T with_sign_of(T x, T v) { return std::bit_cast<T>(bits(magnitude(v)) | (bits(x) & sign_bit<T>)); }
+template <class T> bool is_infinite(T x) { return magnitude(x) == T(__builtin_inf()); }
+template <class T> bool is_nan(T x) { return x != x; }
+
+// What an operation on x and y gives if one of them is a NaN: that of two is x, quieted. Written out since the compiler
+// may exchange the operands of a sum or a product.
+template <class T> T nan_of(T x, T y) { return (is_nan(x) ? x : y) * T(1.0); }
+
+// What 0 / 0 is on the processor: a NaN with its sign set, and the invalid flag; a compiler's own has it clear.
+template <class T> T invalid_operation() {
+    T zero = 0;
+    asm("" : "+x"(zero));
+    return zero / zero;
+}
+
+// Horner's scheme: from the first coefficient on, or with the coefficients in the order of their powers.
+template <class V, class C, int N> V horner(const C (&c)[N], V x) {
+    V r = c[0];
+    for (int i = 1; i < N; i++)
+        r = r * x + c[i];
+    return r;
+}
+template <class V, class C, int N> V horner_up(const C (&c)[N], V x) {
+    V r = c[N - 1];
+    for (int i = N - 2; i >= 0; i--)
+        r = r * x + c[i];
+    return r;
 }
 
 // Two values whose exact sum stands for one number.

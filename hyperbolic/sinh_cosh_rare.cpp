@@ -19,11 +19,6 @@ double half_exp(double ax) {
     return scaled(v, (n >> 6) - 1);
 }
 
-template <class T> T magnitude(T x) { return __builtin_bit_cast(T, decltype(bits(x))(bits(x) << 1 >> 1)); }
-template <class T> T with_sign_of(T x, T y) {
-    return __builtin_bit_cast(T, decltype(bits(x))(bits(y) | (bits(x) ^ bits(magnitude(x)))));
-}
-
 template <class T> int sinh_rare(T x, T* result) {
     const T ax = magnitude(x);
     if (!(ax <= std::numeric_limits<T>::max())) {

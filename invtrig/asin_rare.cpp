@@ -12,7 +12,7 @@ template <class T> struct at_one { T plus, minus; };
 template <class T> int outside(T x, T* result, const at_one<T>* exact = nullptr) {
     if (x != x) return *result = x + x, ordinary;
     if (exact && (x == 1 || x == -1)) return *result = x == 1 ? exact->plus : exact->minus, ordinary;
-    return *result = (T)f32(0x7FC00000), domain_error;
+    return *result = invalid<T>, domain_error;
 }
 
 template <class T> constexpr at_one<T> asinpi_at = {T(0.5), T(-0.5)};

@@ -7,13 +7,7 @@ namespace orvane {
 
 namespace {
 
-int exponent_field(double v) { return int(bits(v) >> 52) & 0x7FF; }
-double magnitude(double v) { return __builtin_fabs(v); }
-bool is_negative(double v) { return __builtin_signbit(v); }
 double high_part(double v) { return split(v).hi; }
-
-// x + y where one is no number: a NaN itself, quiet, and x's of two, whichever way the compiler would add them.
-template <class T> T first_nan(T x, T y) { return x != x ? x + x : y + y; }
 
 // base + factor * (hi + lo) of B, its high part short.
 hi_lo<double> add_multiple(double base, double factor, hi_lo<double> B) {
@@ -43,10 +37,7 @@ quotient product(hi_lo<double> N, hi_lo<double> R) {
 // atan z for small z = N / D, w = z^2: z + z Q(w) in two parts.
 hi_lo<double> atan_polynomial(hi_lo<double> z, double w) {
     const auto& p = __datan2_g_CoutTab->at_p;
-    double Q = p[6];
-    for (int i = 5; i >= 0; i--)
-        Q = Q * w + p[i];
-    const auto [Qh, Ql] = split(Q * w);
+    const auto [Qh, Ql] = split(horner_up(p, w) * w);
     const auto [G, error] = add(z.hi * Qh, z.hi);
     return {G, (z.lo + error) + (Ql * z.hi + (Qh * z.lo + z.lo * Ql))};
 }
@@ -55,7 +46,7 @@ hi_lo<double> atan_polynomial(hi_lo<double> z, double w) {
 hi_lo<double> angle(double y, double x) {
     const auto& table = *__datan2_g_CoutTab;
     // Scaled so that |y| is between 1 and 2, as far as one power of two can do it.
-    const int Ey = exponent_field(y);
+    const int Ey = biased_exponent(y);
     const double f = Ey == 0 ? table.huge : Ey == 2046 ? table.tiny : power_of_two(2046 - Ey);
     const double t = magnitude(y) / magnitude(x), A = magnitude(y) * f, B = magnitude(x) * f;
 
@@ -99,7 +90,7 @@ template <class T> double atan2_magnitude(double y, double x) {
     if (y_infinite) return table.half_pi.hi;
     if (y == 0 || x_infinite) return is_negative(x) ? table.pi.hi : 0.0;
     if (x == 0) return table.half_pi.hi;
-    const int d = exponent_field(y) - exponent_field(x);
+    const int d = biased_exponent(y) - biased_exponent(x);
     if (d < -53) return is_negative(x) ? table.pi.hi : barely<T>(magnitude(y) / magnitude(x));
     if (d > 73) return table.half_pi.hi;
     if (d >= 54) return magnitude((table.half_pi.lo - x / magnitude(y)) + table.half_pi.hi);
@@ -112,14 +103,14 @@ template <class T> double atan2_magnitude(double y, double x) {
 double small_quotient_over_pi(double y, double x) {
     const auto& table = *__datan2pi_g_CoutTab;
     hi_lo<double> ip = {table.ip_hi, table.ip_lo};
-    if (exponent_field(y) <= 53) {
+    if (biased_exponent(y) <= 53) {
         y = y * table.up;
         ip = {ip.hi * table.down, ip.lo * table.down};
     }
     const auto A = split(y);
     auto R = reciprocal(split(x));
     auto [q, parts] = product(A, R);
-    const bool low = exponent_field(q * ip.hi) < 61;
+    const bool low = biased_exponent(q * ip.hi) < 61;
     if (low) {
         R = {R.hi * table.up, R.lo * table.up};
         parts = product(A, R).parts;
@@ -134,11 +125,11 @@ double atan2pi_magnitude(double y, double x) {
     if (y == 0 || __builtin_isinf(x)) return is_negative(x) ? 1.0 : 0.0;
     if (x == 0) return 0.5;
     const auto& table = *__datan2pi_g_CoutTab;
-    const int Ey = exponent_field(y), Ex = exponent_field(x), M = Ey > Ex ? Ey : Ex;
+    const int Ey = biased_exponent(y), Ex = biased_exponent(x), M = Ey > Ex ? Ey : Ex;
     const double scale = M >= 1920 ? table.far_down : M <= 126 ? 0x1p128 : 1.0;
     y = magnitude(y) * scale;
     x = x * scale;
-    const int d = exponent_field(y) - exponent_field(x);
+    const int d = biased_exponent(y) - biased_exponent(x);
     if (d < -53) return is_negative(x) ? 1.0 : small_quotient_over_pi(y, x);
     if (d > 73) return 0.5;
     if (d >= 54) {
@@ -155,22 +146,22 @@ double atan2pi_magnitude(double y, double x) {
 } // namespace
 
 ORVANE_SLOW_PATH(__orvane_datan2_cout_rare, const double* y, const double* x, double* result) {
-    if (__builtin_isunordered(*y, *x)) *result = first_nan(*x, *y);
+    if (__builtin_isunordered(*y, *x)) *result = nan_of(*x, *y);
     else *result = with_sign_of(*y, atan2_magnitude<double>(*y, *x));
     return ordinary;
 }
 ORVANE_SLOW_PATH(__orvane_satan2_cout_rare, const float* y, const float* x, float* result) {
-    if (__builtin_isunordered(*y, *x)) *result = first_nan(*x, *y);
+    if (__builtin_isunordered(*y, *x)) *result = nan_of(*x, *y);
     else *result = with_sign_of(*y, (float)atan2_magnitude<float>(*y, *x));
     return ordinary;
 }
 ORVANE_SLOW_PATH(__orvane_datan2pi_cout_rare, const double* y, const double* x, double* result) {
-    if (__builtin_isunordered(*y, *x)) return *result = first_nan(*x, *y), ordinary;
+    if (__builtin_isunordered(*y, *x)) return *result = nan_of(*x, *y), ordinary;
     *result = with_sign_of(*y, atan2pi_magnitude(*y, *x));
     return *y == 0 && *x == 0 ? domain_error : ordinary;
 }
 ORVANE_SLOW_PATH(__orvane_satan2pi_cout_rare, const float* y, const float* x, float* result) {
-    if (__builtin_isunordered(*y, *x)) return *result = first_nan(*x, *y), ordinary;
+    if (__builtin_isunordered(*y, *x)) return *result = nan_of(*x, *y), ordinary;
     *result = with_sign_of(*y, float(atan2_magnitude<float>(*y, *x) * __satan2pi_g_CoutTab->inv_pi));
     return *y == 0 && *x == 0 ? domain_error : ordinary;
 }

@@ -5,9 +5,6 @@
 
 namespace orvane {
 
-template <class T> T with_sign_of(T y, T v) { return __builtin_copysign(v, y); }
-inline float with_sign_of(float y, float v) { return __builtin_copysignf(v, y); }
-
 // a + b as a rounded sum and, exactly, what the rounding took off, whichever of them is larger.
 inline hi_lo<double> add(double a, double b) {
     const double s = a + b, t = a - s;

@@ -45,12 +45,6 @@ template <> struct ln_constants<float> {
     static constexpr auto& entries = __sln_g_CoutTab;
 };
 
-template <class T, int N> T horner(const T (&p)[N], T v) {
-    T r = p[0];
-    for (int i = 1; i < N; i++)
-        r = r * v + p[i];
-    return r;
-}
 template <class T> T ln_rare(T M, T K) {
     using c = ln_constants<T>;
     const auto [R, hi, lo] = c::entries[entry_of(M)];

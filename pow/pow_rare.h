@@ -17,9 +17,7 @@ struct index_field {
 
 template <class T> struct power_format;
 template <> struct power_format<double> {
-    using word = uint64_t;
     static constexpr auto& tables = __dpow_g_CoutTab;
-    static constexpr int fraction = 52, bias = 1023, special_field = 2047;
     static constexpr int up_exponent = 200;        // of tables.up
     static constexpr uint32_t k_base = 0x3FE7C000; // half of 1.484375: where k goes up by one
     static constexpr int k_shift = 20;
@@ -32,9 +30,7 @@ template <> struct power_format<double> {
     static double scale(int field) { return power_of_two(uint64_t(field)); }
 };
 template <> struct power_format<float> {
-    using word = uint32_t;
     static constexpr auto& tables = __spow_g_CoutTab;
-    static constexpr int fraction = 23, bias = 127, special_field = 255;
     static constexpr int up_exponent = 64;
     static constexpr uint32_t k_base = 0x3F380000; // half of 1.4375
     static constexpr int k_shift = 23;
@@ -46,38 +42,14 @@ template <> struct power_format<float> {
     static float scale(int field) { return power_of_two_f32(uint32_t(field)); }
 };
 
-template <class T> int exponent_field(T x) {
-    return int(bits(x) >> power_format<T>::fraction) & power_format<T>::special_field;
-}
-template <class T> T with_exponent_field(T x, int field) {
-    using word = typename power_format<T>::word;
-    const word mask = word(power_format<T>::special_field) << power_format<T>::fraction;
-    return std::bit_cast<T>((bits(x) & ~mask) | (word(field) << power_format<T>::fraction));
-}
-template <class T> int sign_of(T x) { return int(bits(x) >> (8 * sizeof(T) - 1)); }
-template <class T> T magnitude(T x) {
-    using word = typename power_format<T>::word;
-    return std::bit_cast<T>(bits(x) & ~(word(1) << (8 * sizeof(T) - 1)));
-}
-template <class T> bool is_nan(T x) { return x != x; }
-template <class T> bool is_infinite(T x) { return magnitude(x) == T(__builtin_inf()); }
-
-// What 0 / 0 is on the processor: a NaN with its sign set, and the invalid flag; a compiler's own has it clear.
-template <class T> T invalid_operation() {
-    T zero = 0;
-    asm("" : "+x"(zero));
-    return zero / zero;
-}
-
 enum parity : int { no_integer = 0, odd = 1, even = 2 };
 template <class T> parity parity_of(T y) {
-    using f = power_format<T>;
-    const int e = exponent_field(y) - f::bias;
+    const int e = biased_exponent(y) - exponent_bias<T>;
     if (y == 0) return even;
-    if (e < 0 || e == f::special_field - f::bias) return no_integer;
-    if (e > f::fraction) return even;
+    if (e < 0 || e == top_exponent<T> - exponent_bias<T>) return no_integer;
+    if (e > fraction_bits<T>) return even;
     const auto shifted = bits(y) << e; // the last bit of the integral part where the exponent's was
-    const auto unit = typename f::word(1) << f::fraction;
+    const auto unit = pattern<T>(1) << fraction_bits<T>;
     if (shifted & (unit - 1)) return no_integer;
     return shifted & unit ? odd : even;
 }
@@ -100,11 +72,11 @@ template <class T> scalar_log2<T> log2_in_parts(T x) {
     using f = power_format<T>;
     constexpr auto& t = f::tables;
     T ax = magnitude(x);
-    const bool subnormal = exponent_field(ax) == 0;
+    const bool subnormal = biased_exponent(ax) == 0;
     if (subnormal) ax = ax * t.up;
     const uint32_t upper = f::upper(ax);
     const int k = (int32_t(upper - f::k_base) >> f::k_shift) - (subnormal ? f::up_exponent : 0);
-    const T m = with_exponent_field(ax, f::bias);
+    const T m = with_biased_exponent(ax, exponent_bias<T>);
 
     const int i1 = f::index1.of(upper);
     const T y1 = t.rcp1[i1] * m;
@@ -179,9 +151,9 @@ template <class Head, class Finish, class T> scalar_power<T> power(T x, const ex
     constexpr auto& t = f::tables;
     const T tiny = t.huge_tiny[1] * t.huge_tiny[1]; // 0, with its flags
     const auto [G, gl, V] = log2_in_parts(x);
-    const int E = exponent_field(V) + exponent_field(e.y);
+    const int E = biased_exponent(V) + biased_exponent(e.y);
     if (E > f::beyond) {
-        const int down = sign_of(V) ^ sign_of(e.y);
+        const int down = is_negative(V) ^ is_negative(e.y);
         return {sgn * (t.huge_tiny[down] * t.huge_tiny[down]), down ? underflow : overflow};
     }
     if (E < f::below) return {sgn * (t.sign_tab[0] + t.huge_tiny[1]), ordinary};
@@ -199,10 +171,10 @@ template <class Head, class Finish, class T> scalar_power<T> power(T x, const ex
     const auto [Th, Tl] = t.exp128[j];
     const T v = q * Th + Tl, w = Th + v;
 
-    const int field = exponent_field(w) + n;
-    if (field >= f::special_field) return {sgn * (t.huge_tiny[0] * t.huge_tiny[0]), overflow};
-    if (field >= 1) return {sgn * with_exponent_field(w, field), ordinary};
-    const T s = f::scale(n + f::bias + f::up_exponent);
+    const int field = biased_exponent(w) + n;
+    if (field >= top_exponent<T>) return {sgn * (t.huge_tiny[0] * t.huge_tiny[0]), overflow};
+    if (field >= 1) return {sgn * with_biased_exponent(w, field), ordinary};
+    const T s = f::scale(n + exponent_bias<T> + f::up_exponent);
     if (field >= -9) {
         const auto [wh, wl] = split(w);
         return {sgn * (Finish::of(wh, wl, v + (Th - w), s, t.down) + tiny), ordinary};
@@ -214,7 +186,7 @@ template <class Head, class Finish, class T> scalar_power<T> power(T x, const ex
 // x^y in all its cases, with the parity of y; what is left of them goes to the general algorithm.
 template <class T, class General> int power_by_cases(T x, T y, parity p, T* result, General general) {
     constexpr auto& t = power_format<T>::tables;
-    const T sgn = t.sign_tab[p & sign_of(x)];
+    const T sgn = t.sign_tab[p & is_negative(x)];
     if (x == 1 || y == 0) {
         const T one = __builtin_copysign(T(1), x + y); // a signalling NaN is seen
         *result = one * one;

@@ -18,8 +18,8 @@ template <class T> int rootn_rare(T x, int n, T* result) {
     if (n == 0) return settled(invalid_operation<T>());
     if (is_even && x == 0) return settled(n < 0 ? T(__builtin_inf()) : T(0));
     if (!is_even && (x == 0 || is_infinite(x))) return settled(n > 0 ? x : T(1) / x);
-    if (sign_of(x) && is_even) return settled(invalid_operation<T>());
-    const T ax = magnitude(x), sgn = sign_of(x) ? T(-1) : T(1);
+    if (is_negative(x) && is_even) return settled(invalid_operation<T>());
+    const T ax = magnitude(x), sgn = is_negative(x) ? T(-1) : T(1);
     if (ax == 1) return settled(sgn);
     if (is_nan(x)) return settled((ax + (sizeof(T) == 8 ? rn : nf)) * sgn);
     if (is_infinite(x)) return settled(rn < 0 ? T(0) : rn * (x * x));

@@ -59,8 +59,8 @@ extended with_exponent_0(extended_fields f) {
         const extended mm = d * b + a * b;
         const extended aa = a * a;
         const extended z = aa + mm;
-        const extended P = horner_down(ll_p, z);
-        const extended Q = horner_down(ll_q, z);
+        const extended P = horner(ll_p, z);
+        const extended Q = horner(ll_q, z);
         const extended R0 = d * Q + z * P;
         const extended va = aa * ll_third + a * -0.5L;
         const extended R1 = (R0 + mm * ll_third) + b * -0.5L;
@@ -141,8 +141,8 @@ struct series {
     extended pe[3];
     double q[6];
     extended qe[2];
-    extended odd(extended u, extended v) const { return u * horner_from(horner_down(p, v), pe, v); }
-    extended even(extended v) const { return v * horner_from(horner_down(q, v), qe, v); }
+    extended odd(extended u, extended v) const { return u * horner_from(horner(p, v), pe, v); }
+    extended even(extended v) const { return v * horner_from(horner(q, v), qe, v); }
 };
 constexpr extended ld_c146 = -0xF8CDCDE61C520E0Fp-67L;
 constexpr series ld_s200 = {-2,
@@ -295,8 +295,8 @@ extended log_gamma_of_negative(double x) {
     const double R = double(extended(shifter) - x) + -shifter;
     const extended r = extended(A) - R;
     const extended z = r * r, w = z * z;
-    const extended P = horner_from(horner_down(ld_sinp, w), ld_sinp_e, w);
-    const extended Q = horner_from(horner_down(ld_sinq, w), ld_sinq_e, w);
+    const extended P = horner_from(horner(ld_sinp, w), ld_sinp_e, w);
+    const extended Q = horner_from(horner(ld_sinq, w), ld_sinq_e, w);
     const extended T = z * P + w * Q;
     const extended L = own_logl(A);
     const extended Lr = own_logl(r < 0 ? -r : r);

@@ -39,8 +39,8 @@ double without_low_word(double v) { return f64(bits(v) & 0xFFFFFFFF00000000); }
         const double hh = dh * dh;
         const double h2 = without_low_word(hh);
         const double hl = hh - h2;
-        double s = horner_down(ol_m, z);
-        double t = horner_down(ol_n, z);
+        double s = horner(ol_m, z);
+        double t = horner(ol_n, z);
         s = s * d;
         const double dl = d - dh;
         t = t * z;
@@ -98,8 +98,8 @@ template <int N> struct split_polynomial {
     double from, shift, a[N], b[N], c;
     extended at(extended x) const {
         const extended v = x + shift, w = v * v;
-        const extended P = horner_down(a, w);
-        const extended Q = horner_down(b, w);
+        const extended P = horner(a, w);
+        const extended Q = horner(b, w);
         return (w * Q + c) + v * P;
     }
 };
@@ -148,7 +148,7 @@ constexpr split_polynomial<5> lg_p24 = {2.0,
 struct root_cubic {
     root_window window;
     double P[4];
-    extended at(extended x) const { return horner_down(P, x - window.centre); }
+    extended at(extended x) const { return horner(P, x - window.centre); }
 };
 constexpr root_cubic left_roots[2] = {
     {{f64(0xC005FB43A9328A1D), f64(0xC005FB410A1BD901), f64(0xC005FB3E6B0527E5)},
@@ -204,7 +204,7 @@ extended log_gamma_of_negative(float x) {
     } else {
         const extended L = own_log(A);
         const extended V = ((x + -0.5L) * L + -lg_half_log2pi) - x;
-        T = V - z * horner_down(lg_sin, z);
+        T = V - z * horner(lg_sin, z);
     }
     return T - own_log(distance);
 }

@@ -113,7 +113,7 @@ template <> struct tgamma_constants<double> {
                                       0xD63402E79A853175p-69L,  -0xC354723906DB36BAp-66L, 0xCFCE5A015E236291p-64L,
                                       -0xD28D3312983E9918p-63L};
         const extended z = r * r;
-        return r + (z * r) * horner_down(sin_c, z);
+        return r + (z * r) * horner(sin_c, z);
     }
 };
 

@@ -22,22 +22,9 @@ template <auto Steps, class... Pointer> int with_64_bit_significands(Pointer... 
     return status;
 }
 
-// Horner's scheme from the highest coefficient, begun anew or carried on from r.
+// Horner's scheme carried on from r.
 template <class V, class C, int N> V horner_from(V r, const C (&c)[N], V v) {
     for (int i = 0; i < N; i++)
-        r = r * v + c[i];
-    return r;
-}
-template <class V, class C, int N> V horner_down(const C (&c)[N], V v) {
-    V r = c[0];
-    for (int i = 1; i < N; i++)
-        r = r * v + c[i];
-    return r;
-}
-// The same with the coefficients in the order of their powers.
-template <class V, class C, int N> V horner_up(const C (&c)[N], V v) {
-    V r = c[N - 1];
-    for (int i = N - 2; i >= 0; i--)
         r = r * v + c[i];
     return r;
 }

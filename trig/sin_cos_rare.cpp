@@ -121,11 +121,6 @@ int sine_and_cosine(const double* x, double* sine, double* cosine) {
     }
     return code;
 }
-template <class T> int not_finite_alone(T x, T* result) {
-    int code = ordinary;
-    circular_of_not_finite(x, result, &code);
-    return code;
-}
 
 } // namespace
 
@@ -153,7 +148,5 @@ ORVANE_SLOW_PATH(__orvane_dsincos_cout_rare, const double* x, double* sine, doub
     return sine_and_cosine(x, sine, cosine);
 }
 ORVANE_SLOW_PATH_TWIN(__orvane_dsincosreg_cout_rare, __orvane_dsincos_cout_rare)
-ORVANE_SLOW_PATH(__orvane_ssin_cout_rare, const float* x, float* result) { return not_finite_alone(*x, result); }
-ORVANE_SLOW_PATH_TWIN(__orvane_scos_cout_rare, __orvane_ssin_cout_rare)
 
 } // namespace orvane

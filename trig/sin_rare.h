@@ -37,14 +37,14 @@ angle_and_rest scalar_angle(double x); // not tiny, finite
 double scalar_sine(uint32_t j, double rr, double m);
 
 // |x| below 2^-252: the sine and the cosine, which round as they should under any mode.
-inline bool is_tiny(double x) { return (bits(x) >> 52 & 0x7FF) < 771; }
+inline bool is_tiny(double x) { return biased_exponent(x) < 771; }
 inline double tiny_sine(double x) {
     const auto& c = __dsin_g_CoutTab[0];
     return x == 0 ? x : (c.two55 * x - x) * c.two_m55;
 }
 inline double tiny_cosine(double x) { return 1.0 - __builtin_fabs(x); }
 
-// Infinities and NaN; false for finite x.
+// Infinities and NaN, of which all circular functions make a NaN; false for finite x.
 template <class T> bool circular_of_not_finite(T x, T* result, int* code) {
     if (x - x == 0) return false;
     *code = x != x ? ordinary : domain_error;
