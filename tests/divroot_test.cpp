@@ -12,27 +12,7 @@ namespace {
 constexpr double inf = HUGE_VAL;
 constexpr auto tiers = {"default", "rm", "native", "half"};
 
-template <class F> void each_tier(const char* name, F f) {
-    for (auto tier : tiers)
-        if (find_row(library_rows(), name, tier)) {
-            SCOPED_TRACE(std::string(name) + " " + tier);
-            f(tier);
-        }
-}
 lane_type type_of(const char* name) { return find_row(library_rows(), name, "default")->in; }
-uint64_t quiet_nan(lane_type t, bool negative = false) {
-    return t == lane_type::f64 ? 0x7FF8000000000000 | uint64_t(negative) << 63
-                               : 0x7FC00000 | uint64_t(negative) << 31;
-}
-uint64_t word_for(const char* name, const char* tier, double x, double y = 0) {
-    sweep f(name, tier, 1);
-    std::vector<words> arguments{{word_of(f.row().in, x)}};
-    if (f.row().arguments() == 2) arguments.push_back({word_of(f.row().in, y)});
-    return f(arguments)[0][0];
-}
-double of(const char* name, const char* tier, double x, double y = 0) {
-    return value_of(type_of(name), word_for(name, tier, x, y));
-}
 
 // The words of lo to hi, evenly over the patterns and with both ends; of both signs on demand.
 words patterns(lane_type t, double lo, double hi, int n, bool signs = false, uint64_t seed = 41) {
@@ -94,11 +74,7 @@ TEST(Quotients, FastTiersAreTheEstimateInItsRange) {
 
 TEST(Quotients, StatusCodes) {
     for (auto name : {"div", "divf", "invf"}) {
-        const kernel_row& row = *find_row(library_rows(), name, "native");
-        auto status = [&](double divisor) {
-            std::vector<uint64_t> lane(row.arguments(), word_of(row.in, divisor));
-            return call_slow_path(library_under_test(), row, lane).status;
-        };
+        auto status = [&](double divisor) { return status_for(name, "native", divisor, divisor); };
         EXPECT_EQ(status(0.0), 2) << name;
         EXPECT_EQ(status(-0.0), 2) << name;
         for (double y : {1e-40, inf, -3.0, (double)NAN})
@@ -163,44 +139,40 @@ TEST(Roots, SpecialArguments) {
 
 TEST(Roots, Figures) {
     each_tier("cbrt", [](auto tier) {
-        EXPECT_NEAR(of("cbrt", tier, -8), -2, 2e-8);
-        EXPECT_NEAR(of("cbrtf", tier, -8), -2, 2e-4);
-        EXPECT_NEAR(of("rcbrt", tier, -8), -0.5, 2e-8);
-        EXPECT_NEAR(of("rcbrtf", tier, -8), -0.5, 2e-3);
+        EXPECT_NEAR(value_for("cbrt", tier, -8), -2, 2e-8);
+        EXPECT_NEAR(value_for("cbrtf", tier, -8), -2, 2e-4);
+        EXPECT_NEAR(value_for("rcbrt", tier, -8), -0.5, 2e-8);
+        EXPECT_NEAR(value_for("rcbrtf", tier, -8), -0.5, 2e-3);
     });
     for (int k = -340; k < 341; k++) { // powers of eight
-        EXPECT_EQ(of("cbrt", "default", -std::ldexp(1, 3 * k)), -std::ldexp(1, k));
-        EXPECT_EQ(of("rcbrt", "default", std::ldexp(1, 3 * k)), std::ldexp(1, -k));
+        EXPECT_EQ(value_for("cbrt", "default", -std::ldexp(1, 3 * k)), -std::ldexp(1, k));
+        EXPECT_EQ(value_for("rcbrt", "default", std::ldexp(1, 3 * k)), std::ldexp(1, -k));
     }
     for (auto tier : {"default", "native"}) {
-        EXPECT_EQ(of("hypot", tier, 3e200, -4e200), 5e200);
-        EXPECT_EQ(of("hypot", tier, 0x1.8p-1072, 0x1p-1071), 0x1.4p-1071); // 3, 4, 5 in units of the last place
-        EXPECT_EQ(of("hypot", tier, 0x1.fffffffffffffp1023, 0x1.fffffffffffffp1023), inf);
-        EXPECT_EQ(of("hypotf", tier, 0x1.fffffep127, 0x1.fffffep127), inf);
-        EXPECT_EQ(of("hypot", tier, 1e300, 1e-300), 1e300);
+        EXPECT_EQ(value_for("hypot", tier, 3e200, -4e200), 5e200);
+        EXPECT_EQ(value_for("hypot", tier, 0x1.8p-1072, 0x1p-1071), 0x1.4p-1071); // 3, 4, 5 in units of the last place
+        EXPECT_EQ(value_for("hypot", tier, 0x1.fffffffffffffp1023, 0x1.fffffffffffffp1023), inf);
+        EXPECT_EQ(value_for("hypotf", tier, 0x1.fffffep127, 0x1.fffffep127), inf);
+        EXPECT_EQ(value_for("hypot", tier, 1e300, 1e-300), 1e300);
     }
 }
 
 TEST(Roots, StatusCodes) {
-    auto status = [](const char* name, const char* tier, double x) {
-        const kernel_row& row = *find_row(library_rows(), name, tier);
-        return call_slow_path(library_under_test(), row, {word_of(row.in, x)}).status;
-    };
     for (auto name : {"rsqrt", "rsqrtf"}) {
-        EXPECT_EQ(status(name, "native", -0.0), 2) << name;
-        EXPECT_EQ(status(name, "native", -1e-40), 1) << name;
-        EXPECT_EQ(status(name, "native", -inf), 1) << name;
+        EXPECT_EQ(status_for(name, "native", -0.0), 2) << name;
+        EXPECT_EQ(status_for(name, "native", -1e-40), 1) << name;
+        EXPECT_EQ(status_for(name, "native", -inf), 1) << name;
         for (double x : {inf, (double)NAN, 1e-40, 4.0})
-            EXPECT_EQ(status(name, "native", x), 0) << name << x;
+            EXPECT_EQ(status_for(name, "native", x), 0) << name << x;
     }
     for (auto name : {"rcbrt", "rcbrtf"}) {
-        EXPECT_EQ(status(name, "native", -0.0), 2) << name;
+        EXPECT_EQ(status_for(name, "native", -0.0), 2) << name;
         for (double x : {inf, -inf, (double)NAN, -1e-40})
-            EXPECT_EQ(status(name, "native", x), 0) << name << x;
+            EXPECT_EQ(status_for(name, "native", x), 0) << name << x;
     }
-    EXPECT_EQ(status("sqrtf", "half", -1e-40), 1);
-    EXPECT_EQ(status("sqrtf", "half", -inf), 1);
-    EXPECT_EQ(status("sqrtf", "half", -0.0), 0);
+    EXPECT_EQ(status_for("sqrtf", "half", -1e-40), 1);
+    EXPECT_EQ(status_for("sqrtf", "half", -inf), 1);
+    EXPECT_EQ(status_for("sqrtf", "half", -0.0), 0);
 }
 
 // Largest errors over ranges that lie on one path. That no kernel lane is taken for a slow-path one (or the reverse)

@@ -32,7 +32,7 @@ struct member {
             lane.push_back(word(v));
         return call_slow_path(library_under_test(), *row, lane).status;
     }
-    uint64_t quiet() const { return is_float() ? 0x7FC00000 : 0x7FF8000000000000; }
+    uint64_t quiet() const { return quiet_nan(row->in); }
     uint64_t sign() const { return is_float() ? 0x80000000 : 0x8000000000000000; }
 };
 // f on every tier of a function for both types.
