@@ -68,7 +68,8 @@ TYPED_TEST(Manipulation, LdexpRoundsOnce) {
     const T third = T(1) / 3, least = std::numeric_limits<T>::denorm_min();
     const int down_there = std::ilogb(least) + 1;
     for (auto [mode, steps] : {std::pair{to_even, 1}, {down, 0}, {up, 1}, {to_zero, 0}}) {
-        const auto z = by_single_lanes({&f.row(), &library_under_test()}, {{word(third)}, {(uint32_t)down_there}}, mode);
+        const words lane = {word(third)}, by = {(uint32_t)down_there};
+        const auto z = by_single_lanes({&f.row(), &library_under_test()}, {lane, by}, mode);
         EXPECT_EQ(number<T>(z[0][0]), steps * least);
     }
 }

@@ -110,7 +110,7 @@ TYPED_TEST(Remainder, InNumbers) {
 // invalid.
 TYPED_TEST(Remainder, WithoutARemainder) {
     using T = TypeParam;
-    const uint64_t infinity = infinity_word<T>, sign = sign_word<T>, quiet = (infinity_word<T> | quiet_bit<T>), one = word(T(1));
+    const uint64_t infinity = infinity_word<T>, sign = sign_word<T>, quiet = infinity | quiet_bit<T>, one = word(T(1));
     const uint64_t nan = infinity | 5 | sign, other_nan = infinity | 9;
     const uint64_t by_division = sizeof(T) == 8 ? quiet | sign : quiet;
     struct expectation {
