@@ -82,31 +82,18 @@ TEST(Exponentials, EndsOfTheRange) {
 
 // The slow paths on the lanes that reach them.
 TEST(Exponentials, SlowPaths) {
-    struct margin {
-        const char* name;
-        double lo, hi;
-        allowed bound;
-        extended_function reference;
-    };
-    truth t;
-    for (const auto& [name, lo, hi, bound, reference] :
-         {margin{"exp", 708.396, 709.7827, 0.51, expl}, margin{"exp", -745.1332, -708.396, 0.504, expl},
-          margin{"exp10", 307.66, 308.2547, 0.518, exp10l}, margin{"exp10", -323.6, -307.6526, 0.505, exp10l},
-          margin{"exp2", 1022.0, 1023.9, 0.52, exp2l}, margin{"exp2", -1074.9, -1022.0, 0.753, exp2l}}) {
-        sweep f(name);
-        const auto w = sampled_error(f, t, spread(lane_type::f64, lo, hi, 200'000, false, 23), reference);
-        expect_error((std::stringstream() << name << " from " << lo).str(), bound, w);
-    }
-    for (auto [name, lo, hi] : {std::tuple{"exp2f", 126.01, 127.99},
-                                {"exp2f", -149.9, -126.01},
-                                {"exp10f", 37.93, 38.53},
-                                {"exp10f", -45.15, -37.93},
-                                {"expm1f", 86.65, 88.72}}) {
-        sweep f(name);
-        const auto reference = std::string(name) == "exp2f" ? exp2l : std::string(name) == "exp10f" ? exp10l : expm1l;
-        const auto w = sampled_error(f, t, spread(lane_type::f32, lo, hi, 200'000, false, 24), reference);
-        expect_error((std::stringstream() << name << " from " << lo).str(), 0.5001, w);
-    }
+    for (const auto& a : {accuracy{"exp", "default", 0.514, 708.396, 709.7827, expl},
+                          {"exp", "default", 0.504, -745.1332, -708.396, expl},
+                          {"exp10", "default", 0.524, 307.66, 308.2547, exp10l},
+                          {"exp10", "default", 0.508, -323.6, -307.6526, exp10l},
+                          {"exp2", "default", 0.52, 1022.0, 1023.9, exp2l},
+                          {"exp2", "default", 0.758, -1074.9, -1022.0, exp2l},
+                          {"exp2f", "default", 0.5001, 126.01, 127.99, exp2l},
+                          {"exp2f", "default", 0.5001, -149.9, -126.01, exp2l},
+                          {"exp10f", "default", 0.5001, 37.93, 38.53, exp10l},
+                          {"exp10f", "default", 0.5001, -45.15, -37.93, exp10l},
+                          {"expm1f", "default", 0.5001, 86.65, 88.72, expm1l}})
+        check_accuracy(a);
 }
 
 TEST(Exponentials, LargestErrors) {

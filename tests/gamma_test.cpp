@@ -163,13 +163,11 @@ TEST(Gamma, ZerosOfLogGamma) {
     sweep f("lgamma"), g("lgammaf");
     rng r(17);
     std::uniform_real_distribution<double> exponent(-52, -3);
-    int zeros = 0;
     worst w, wf;
     for (int k = 0; k < 13; k++)
         for (double pole : {-3.0 - k, -2.0 - k}) {
             const double inward = std::nextafter(pole, -2.5 - k), zero = zero_between(inward, -2.5 - k);
             ASSERT_TRUE(inward != zero && std::fabs(zero - pole) < 0.5);
-            zeros++;
             words x, xf;
             auto add = [&](double v) {
                 x.push_back(word_of(lane_type::f64, v)), xf.push_back(word_of(lane_type::f32, v));
@@ -189,7 +187,6 @@ TEST(Gamma, ZerosOfLogGamma) {
                 if (here.ulps > all->ulps) *all = here;
             }
         }
-    EXPECT_EQ(zeros, 26);
     expect_error("lgamma around its zeros", bound_of("lgamma"), w);
     expect_error("lgammaf around its zeros", bound_of("lgammaf"), wf);
 }
