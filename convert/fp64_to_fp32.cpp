@@ -18,8 +18,7 @@ ORVANE_BLOCK_TWIN(__orvane_dcvtfp64tofp32rtn_data, __orvane_dcvtfp64tofp32rte_da
 ORVANE_BLOCK_TWIN(__orvane_dcvtfp64tofp32rtp_data, __orvane_dcvtfp64tofp32rte_data)
 ORVANE_BLOCK_TWIN(__orvane_dcvtfp64tofp32rtz_data, __orvane_dcvtfp64tofp32rte_data)
 
-template <rounding R> struct fp64_to_fp32 : kernel<conversion<double, float>> {
-    static constexpr auto& block = __orvane_dcvtfp64tofp32rte_data;
+template <rounding R> struct fp64_to_fp32 : kernel<conversion<double, float>, __orvane_dcvtfp64tofp32rte_data> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         using I = lanes<int32_t, W>;
         auto f = convert<float>(x);

@@ -17,8 +17,7 @@ struct u32_to_double_block {
 };
 ORVANE_FROM_INTEGER_BLOCK(u32_to_double_block, __orvane_dcvtu32tofp)
 
-struct u32_to_double : kernel<conversion<uint32_t, double>> {
-    static constexpr auto& block = __orvane_dcvtu32tofprte_data;
+struct u32_to_double : kernel<conversion<uint32_t, double>, __orvane_dcvtu32tofprte_data> {
     static constexpr double spare = 1;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<uint32_t, W> x) {
         return piece(convert<uint64_t>(x), lanes<double, W>(c.shift_lo));

@@ -28,8 +28,7 @@ template <class U, int W> ORVANE_INLINE lanes<U, W> step_up(const auto& c, lanes
 }
 
 // Two pieces, for a target of the source's size: the low 23 (52) bits and the rest.
-template <class I, class T, rounding R, const auto& Block> struct from_two_pieces : kernel<conversion<I, T>> {
-    static constexpr auto& block = Block;
+template <class I, class T, rounding R, const auto& Block> struct from_two_pieces : kernel<conversion<I, T>, Block> {
     static constexpr double spare = 1;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<I, W> x) {
         using V = lanes<T, W>;
@@ -66,8 +65,7 @@ template <class I, class T, rounding R, const auto& Block> struct from_two_piece
 };
 
 // Three pieces, 64-bit integers to float: bits 0 to 22, 23 to 45 and 46 to 63, cut out of the two words.
-template <class I, rounding R, const auto& Block> struct from_three_pieces : kernel<narrowing<I, float>> {
-    static constexpr auto& block = Block;
+template <class I, rounding R, const auto& Block> struct from_three_pieces : kernel<narrowing<I, float>, Block> {
     static constexpr double spare = 1;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, auto x) {
         using V = lanes<float, W>;

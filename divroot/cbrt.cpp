@@ -214,10 +214,8 @@ template <int W> ORVANE_INLINE lanes<uint64_t, W> long_lanes(const slot<uint32_t
     return *(const typename lanes<uint64_t, W>::raw*)words.lane;
 }
 
-template <const auto& Block, auto& Rare, bool Reciprocal> struct dcbrt_kernel : kernel<one_argument<double>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <const auto& Block, auto& Rare, bool Reciprocal>
+struct dcbrt_kernel : kernel<one_argument<double>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         using V = lanes<double, W>;
         lane_bits<W> special = not_normal(c, x);
@@ -269,10 +267,7 @@ ORVANE_INLINE auto root_offset(lanes<uint32_t, W> rem, lanes<uint32_t, W> i4, la
 
 // The table's point is the reciprocal r of c, five bits of the processor's estimate of 1 / m (which of 1.0 is below
 // 1.0); u = r m - 1.
-template <const auto& Block> struct scbrt_kernel : kernel<one_argument<float>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = __orvane_scbrt_cout_rare;
-
+template <const auto& Block> struct scbrt_kernel : kernel<one_argument<float>, Block, __orvane_scbrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         using V = lanes<float, W>;
         constexpr int entry_bytes = requires { c.root_pairs_f; }
@@ -301,10 +296,7 @@ using scbrt_native = scbrt_kernel<__orvane_scbrt_native_data>;
 ORVANE_EXPORT(cbrtf, , scbrt)
 ORVANE_EXPORT(cbrtf, _native, scbrt_native)
 
-template <const auto& Block> struct sinvcbrt_kernel : kernel<one_argument<float>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = __orvane_sinvcbrt_cout_rare;
-
+template <const auto& Block> struct sinvcbrt_kernel : kernel<one_argument<float>, Block, __orvane_sinvcbrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         using V = lanes<float, W>;
         constexpr int entry_bytes = requires { c.root_pairs_f; }

@@ -39,9 +39,7 @@ ORVANE_BLOCK(sinv_native_block, __orvane_sinv_native_data)
 ORVANE_BLOCK_TWIN(__orvane_sinv_half_data, __orvane_sinv_native_data)
 
 // A zero or subnormal divisor is handed over for its status alone: the quotient is right in every lane.
-struct ddiv : kernel<two_arguments<double>> {
-    static constexpr auto& block = __orvane_ddiv_data;
-    static constexpr auto& slow_path = __orvane_ddiv_cout_rare;
+struct ddiv : kernel<two_arguments<double>, __orvane_ddiv_data, __orvane_ddiv_cout_rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const ddiv_block& c, lanes<double, W> x, lanes<double, W> y) {
         auto exponent = andnot(lanes<double, W>(c.exponent_clear), y);
@@ -66,9 +64,7 @@ template <int W> ORVANE_INLINE auto beyond_estimate(const auto& c, lanes<float, 
     return ((signed_bits(y) - c.min_normal_bits) & c.abs_mask) > c.divisor_limit;
 }
 
-struct sdiv_native : kernel<two_arguments<float>> {
-    static constexpr auto& block = __orvane_sdiv_native_data;
-    static constexpr auto& slow_path = __orvane_sdiv_cout_rare;
+struct sdiv_native : kernel<two_arguments<float>, __orvane_sdiv_native_data, __orvane_sdiv_cout_rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const sdiv_native_block& c, lanes<float, W> x, lanes<float, W> y) {
         return answer{x * reciprocal_estimate(y), beyond_estimate(c, y)};
@@ -87,8 +83,7 @@ ORVANE_TWIN_SETTLED(inv, _rm, inv, )
 ORVANE_TWIN_SETTLED(inv, _native, inv, )
 ORVANE_TWIN_SETTLED(inv, _half, inv, )
 
-struct sinv : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_sinv_data;
+struct sinv : kernel<one_argument<float>, __orvane_sinv_data> {
     template <int W> static ORVANE_INLINE auto vector_path(const sinv_block& c, lanes<float, W> x) {
         return lanes<float, W>(c.one) / x;
     }
@@ -96,9 +91,7 @@ struct sinv : kernel<one_argument<float>> {
 ORVANE_EXPORT_SETTLED(invf, , sinv)
 ORVANE_TWIN_SETTLED(invf, _rm, invf, )
 
-struct sinv_native : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_sinv_native_data;
-    static constexpr auto& slow_path = __orvane_sinv_cout_rare;
+struct sinv_native : kernel<one_argument<float>, __orvane_sinv_native_data, __orvane_sinv_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const sinv_native_block& c, lanes<float, W> x) {
         return answer{reciprocal_estimate(x), beyond_estimate(c, x)};
     }

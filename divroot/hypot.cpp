@@ -38,9 +38,8 @@ ORVANE_BLOCK_TWIN(__orvane_shypot_native_data, __orvane_shypot_data)
 template <class V> ORVANE_INLINE V sum_of_squares(V x, V y) { return fma(y, y, x * x); }
 
 // 1 / sqrt(s) = e0 (1 + h)^(-1/2), h = s e0^2 - 1; the tiers differ in the terms of the series.
-template <bool Native> struct dhypot_kernel : kernel<two_arguments<double>> {
-    static constexpr auto& block = __orvane_dhypot_data;
-    static constexpr auto& slow_path = __orvane_dhypot_cout_rare;
+template <bool Native>
+struct dhypot_kernel : kernel<two_arguments<double>, __orvane_dhypot_data, __orvane_dhypot_cout_rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const dhypot_block& c, lanes<double, W> x, lanes<double, W> y) {
         using V = lanes<double, W>;
@@ -62,9 +61,7 @@ ORVANE_EXPORT(hypot, , dhypot)
 ORVANE_EXPORT(hypot, _native, dhypot_native)
 
 // A Newton step on g = sqrt(s) and k = 1 / (2 sqrt(s)) together, and one more on g by its residual.
-struct shypot : kernel<two_arguments<float>> {
-    static constexpr auto& block = __orvane_shypot_data;
-    static constexpr auto& slow_path = __orvane_shypot_cout_rare;
+struct shypot : kernel<two_arguments<float>, __orvane_shypot_data, __orvane_shypot_cout_rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const shypot_block& c, lanes<float, W> x, lanes<float, W> y) {
         auto s = sum_of_squares(x, y);
@@ -80,9 +77,7 @@ struct shypot : kernel<two_arguments<float>> {
 };
 ORVANE_EXPORT(hypotf, , shypot)
 
-struct shypot_native : kernel<two_arguments<float>> {
-    static constexpr auto& block = __orvane_shypot_native_data;
-    static constexpr auto& slow_path = __orvane_shypot_cout_rare;
+struct shypot_native : kernel<two_arguments<float>, __orvane_shypot_native_data, __orvane_shypot_cout_rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const shypot_block& c, lanes<float, W> x, lanes<float, W> y) {
         auto s = sum_of_squares(x, y);

@@ -92,18 +92,14 @@ struct ssqrt_native : kernel<one_argument<float>> {
 };
 ORVANE_EXPORT_SETTLED(sqrtf, _native, ssqrt_native)
 
-struct ssqrt_half : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_ssqrt_half_data;
-    static constexpr auto& slow_path = __orvane_ssqrt_cout_rare;
+struct ssqrt_half : kernel<one_argument<float>, __orvane_ssqrt_half_data, __orvane_ssqrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const ssqrt_half_block& c, lanes<float, W> x) {
         return answer{x * rsqrt_estimate(x), outside_range(c, x)};
     }
 };
 ORVANE_EXPORT(sqrtf, _half, ssqrt_half)
 
-struct sinvsqrt : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_sinvsqrt_data;
-    static constexpr auto& slow_path = __orvane_sinvsqrt_cout_rare;
+struct sinvsqrt : kernel<one_argument<float>, __orvane_sinvsqrt_data, __orvane_sinvsqrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const sinvsqrt_block& c, lanes<float, W> x) {
         auto e = rsqrt_estimate(x) & c.estimate_mask; // nine bits: e * e is exact
         auto d = fma(x, e * e, -lanes<float, W>(c.one));
@@ -114,9 +110,7 @@ struct sinvsqrt : kernel<one_argument<float>> {
 ORVANE_EXPORT(rsqrtf, , sinvsqrt)
 
 // One Newton step: e (3 - x e^2) / 2.
-struct sinvsqrt_native : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_sinvsqrt_native_data;
-    static constexpr auto& slow_path = __orvane_sinvsqrt_cout_rare;
+struct sinvsqrt_native : kernel<one_argument<float>, __orvane_sinvsqrt_native_data, __orvane_sinvsqrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const sinvsqrt_block& c, lanes<float, W> x) {
         auto e = rsqrt_estimate(x);
         auto a = fma(x * e, e, -lanes<float, W>(c.three));
@@ -129,9 +123,7 @@ ORVANE_TWIN(rsqrtf, _half, rsqrtf, _native)
 
 // The estimate exists in single precision alone. x = f 4^k with f the significand, or twice it, as the exponent's
 // parity has it: in integers f is brought into a float, cut short, and 2^-k made from the rest of the exponent.
-template <const auto& Block> struct dinvsqrt_series : kernel<one_argument<double>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = __orvane_dinvsqrt_cout_rare;
+template <const auto& Block> struct dinvsqrt_series : kernel<one_argument<double>, Block, __orvane_dinvsqrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         auto exponent = bits(x) & c.exponent_mask;
         auto even = andnot(exponent, c.exponent_one);

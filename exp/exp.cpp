@@ -44,10 +44,7 @@ ORVANE_BLOCK_TWIN(__orvane_dexp_native_data, __orvane_dexp_rm_data)
 ORVANE_BLOCK_TWIN(__orvane_dexp_half_data, __orvane_dexp_rm_data)
 
 // e^x = 2^(n/64) e^r with n = round(x 64 / ln 2), |r| <= ln 2 / 128.
-struct exp_pairs : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_dexp_data;
-    static constexpr auto& slow_path = __orvane_dexp_cout_rare;
-
+struct exp_pairs : kernel<one_argument<double>, __orvane_dexp_data, __orvane_dexp_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const dexp_block& c, lanes<double, W> x) {
         auto t = fma(x, c.inv_ln2_64, c.shifter);
         auto n = t - c.shifter;
@@ -71,10 +68,7 @@ struct exp_pairs : kernel<one_argument<double>> {
 };
 
 // e^x = 2^(n/128) e^r with n = round(x 128 / ln 2), |r| <= ln 2 / 256.
-struct exp_single : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_dexp_rm_data;
-    static constexpr auto& slow_path = __orvane_dexp_cout_rare;
-
+struct exp_single : kernel<one_argument<double>, __orvane_dexp_rm_data, __orvane_dexp_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const dexp_rm_block& c, lanes<double, W> x) {
         auto t = fma(x, c.inv_ln2_128, c.shifter); // n in the low bits
         auto n = t - c.shifter;

@@ -67,10 +67,7 @@ ORVANE_BLOCK_TWIN(__orvane_sexp10_native_data, __orvane_sexp10_rm_data)
 ORVANE_BLOCK_TWIN(__orvane_sexp10_half_data, __orvane_sexp10_rm_data)
 
 // 10^x = 2^(n/128) 10^r with n = round(x 128 log2 10); log10(2) / 128 is taken off in two parts.
-template <class T, const auto& Block, auto& Rare> struct exp10_by_table : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct exp10_by_table : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto t = fma(x, c.log2_10_x128, c.shifter);
         auto n = t - c.shifter;
@@ -91,10 +88,7 @@ template <class T, const auto& Block, auto& Rare> struct exp10_by_table : kernel
 };
 
 // 10^x = 2^n 2^v with n = round(x log2 10).
-template <class T, const auto& Block, auto& Rare> struct exp10_by_polynomial : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct exp10_by_polynomial : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto t = fma(x, c.log2_10, c.shifter);
         auto n = t - c.shifter;

@@ -60,10 +60,7 @@ ORVANE_BLOCK(sexp2_native_block, __orvane_sexp2_native_data)
 ORVANE_BLOCK_TWIN(__orvane_sexp2_half_data, __orvane_sexp2_native_data)
 
 // 2^x = 2^(n/64) 2^r with n / 64 the multiple of 1/64 nearest to x; t, n and r are exact.
-template <class T, const auto& Block, auto& Rare> struct exp2_by_table : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct exp2_by_table : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto t = x + c.shifter;
         auto n = t - c.shifter;
@@ -77,10 +74,7 @@ template <class T, const auto& Block, auto& Rare> struct exp2_by_table : kernel<
 };
 
 // 2^x = 2^n 2^v with n = round(x).
-template <class T, const auto& Block, auto& Rare> struct exp2_by_polynomial : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct exp2_by_polynomial : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto t = x + c.shifter;
         auto n = t - c.shifter;

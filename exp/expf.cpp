@@ -44,10 +44,7 @@ ORVANE_BLOCK(sexp_native_block, __orvane_sexp_native_data)
 ORVANE_BLOCK_TWIN(__orvane_sexp_half_data, __orvane_sexp_native_data)
 
 // e^x = 2^floor(k/4) * 2^(j/4) * e^r with k = round(x * 4 / ln 2), j = k mod 4, |r| <= ln 2 / 8.
-struct expf_table : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_sexp_data;
-    static constexpr auto& slow_path = __orvane_sexp_cout_rare;
-
+struct expf_table : kernel<one_argument<float>, __orvane_sexp_data, __orvane_sexp_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const sexp_block& c, lanes<float, W> x) {
         auto t = fma(x, c.four_over_ln2, c.shifter_biased); // k + 508 in the low bits of the significand
         auto n = t - c.shifter_biased;                      // k, exactly
@@ -71,10 +68,7 @@ struct expf_table : kernel<one_argument<float>> {
 };
 
 // e^x = 2^n * e^r with n = round(x / ln 2) and a cubic for e^r; 2^n goes in by an addition to the exponent field.
-struct expf_polynomial : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_sexp_native_data;
-    static constexpr auto& slow_path = __orvane_sexp_cout_rare;
-
+struct expf_polynomial : kernel<one_argument<float>, __orvane_sexp_native_data, __orvane_sexp_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const sexp_native_block& c, lanes<float, W> x) {
         auto t = fma(x, c.log2e, c.shifter); // n in two's complement in the low nine bits of the significand
         auto n = t - c.shifter;

@@ -83,19 +83,13 @@ template <class T, int W> ORVANE_INLINE auto entry_offset(const auto& c, lanes<T
 template <int Shift, class T, int W> ORVANE_INLINE auto power_of_two_bits(const auto& c, lanes<T, W> u) {
     return (bits(u) & c.exponent_bits) << Shift;
 }
-template <class T, int W> ORVANE_INLINE auto with_sign_of(lanes<T, W> y, lanes<T, W> x) {
-    return y | (x & lanes<T, W>(T(-0.0))); // keeps -0
-}
 template <class T, int W> ORVANE_INLINE auto beyond_expm1_limit(const auto& c, lanes<T, W> x) {
     return not_less_equal(x & c.abs_mask, c.ordinary_limit);
 }
 
 // e^x = (A + B) (1 + h + R): A = 2^k hi[j] exact, B = 2^k lo[j], r = h + l with h so short that A h is exact. A - 1,
 // A h and the rest are summed with the errors of the sums.
-template <class T, const auto& Block, auto& Rare> struct expm1_compensated : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct expm1_compensated : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         auto n = round_to<to_nearest>(x * inverse_step(c));
@@ -105,25 +99,26 @@ template <class T, const auto& Block, auto& Rare> struct expm1_compensated : ker
         auto r = rh - cc;
         auto nothing_split_off = bits(V(as<T>(rh == x))); // all ones where n = 0
 
+        auto h = finished(rh & as<T>(nothing_split_off | c.split_mask));
+        auto l = (rh - h) - cc;
+        auto r2 = r * r;
+        auto R = fma(r2, polynomial(c, r, r2), l);
+
+        in_turn(R, n); // the polynomial's registers are free again
         auto u = n + c.index_shifter;
         auto [m, lo] = lookup_pair<T>(&c.exp2_split, entry_offset(c, u));
         auto power = as<T>(power_of_two_bits < sizeof(T) == 8 ? 41 : 14 > (c, u));
         auto A = power | m;
-        auto B = lo * power;
-
-        auto h = rh & as<T>(nothing_split_off | c.split_mask);
-        auto l = (rh - h) - cc;
-        auto r2 = r * r;
-        auto R = fma(r2, polynomial(c, r, r2), l);
-        auto M = A * h;
+        auto B = finished(lo * power);
 
         auto S = A + c.minus_one;
         auto A_is_larger = S > V(T(0));
         auto big = select(A_is_larger, A, V(c.minus_one)), small = select(A_is_larger, V(c.minus_one), A);
         auto e = B + ((big - S) + small);
+        auto R2 = finished(fma(B, R + h, e));
+        auto M = A * h;
         auto S2 = S + M;
         auto e2 = fma(R, A, M + (S - S2));
-        auto R2 = fma(B, R + h, e);
         auto y = S2 + (e2 + R2);
         return answer{with_sign_of(y, x), beyond_expm1_limit(c, x)};
     }
@@ -144,10 +139,7 @@ template <class T, const auto& Block, auto& Rare> struct expm1_compensated : ker
 };
 
 // The same with one value a table entry, one step of reduction and one fused operation at the end.
-template <class T, const auto& Block, auto& Rare> struct expm1_plain : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct expm1_plain : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         constexpr bool is_double = sizeof(T) == 8;
         lanes<T, W> n, r;

@@ -23,10 +23,7 @@ struct sfract_block {
 ORVANE_BLOCK(dfract_block, __orvane_dfract_data)
 ORVANE_BLOCK(sfract_block, __orvane_sfract_data)
 
-template <class T, const auto& Block, auto& Rare> struct fract_kernel : kernel<pointer_out<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct fract_kernel : kernel<pointer_out<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto zero = (bits(x) << 1) == lanes<uint_of<T>, W>(0); // of either sign
         auto not_finite = marked<T, W>((words(x) & c.exp_word) == c.exp_word);
@@ -40,10 +37,7 @@ using sfract_kernel = fract_kernel<float, __orvane_sfract_data, __orvane_sfract_
 ORVANE_EXPORT(fract, , dfract_kernel)
 ORVANE_EXPORT(fractf, , sfract_kernel)
 
-template <class T, const auto& Pool, auto& Rare> struct modf_kernel : kernel<pointer_out<T>> {
-    static constexpr auto& block = Pool;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Pool, auto& Rare> struct modf_kernel : kernel<pointer_out<T>, Pool, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto not_finite = marked<T, W>(words(x & c.magnitude) > c.largest_word);
         auto whole = round_to<toward_zero>(x);

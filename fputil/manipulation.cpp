@@ -51,10 +51,7 @@ struct sfrexp_block {
 ORVANE_BLOCK(dfrexp_block, __orvane_dfrexp_data)
 ORVANE_BLOCK(sfrexp_block, __orvane_sfrexp_data)
 
-template <class T, const auto& Block, auto& Rare> struct frexp_kernel : kernel<pointer_out<T, int32_t>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct frexp_kernel : kernel<pointer_out<T, int32_t>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto ef = words(x) & c.exp_word;
         lane_bits<W> not_normal = marked<T, W>((ef == c.zero_word) | (ef == c.exp_word));
@@ -85,10 +82,8 @@ struct sldexp_block {
 ORVANE_BLOCK(dldexp_block, __orvane_dldexp_data)
 ORVANE_BLOCK(sldexp_block, __orvane_sldexp_data)
 
-template <class T, const auto& Block, auto& Rare> struct ldexp_kernel : kernel<with_integer<T>> {
-    static constexpr auto& block = Block;
+template <class T, const auto& Block, auto& Rare> struct ldexp_kernel : kernel<with_integer<T>, Block, Rare> {
     static constexpr double spare = 1;
-    static constexpr auto& slow_path = Rare;
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<int32_t, W> n) {
         auto e = (words(x) & c.exp_word) >> field_shift<T>;
@@ -122,10 +117,8 @@ ORVANE_BLOCK_TWIN(__orvane_dilogb_data, __orvane_dlogb_data)
 ORVANE_BLOCK_TWIN(__orvane_silogb_data, __orvane_slogb_data)
 
 // The exponent of a T as an integer (ilogb) or as a T (logb).
-template <class T, class To, const auto& Block, auto& Rare> struct exponent_kernel : kernel<conversion<T, To>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, class To, const auto& Block, auto& Rare>
+struct exponent_kernel : kernel<conversion<T, To>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto ef = words(x) & c.exp_word;
         lane_bits<W> not_normal = marked<T, W>((ef == c.zero_word) | (ef == c.exp_word));
@@ -163,10 +156,7 @@ ORVANE_BLOCK(snextafter_block, __orvane_snextafter_data)
 // One step of the pattern: down where the signs differ or x is the larger pattern, which of two negative numbers is
 // the lower one. The range test is one signed comparison, since the subtraction of the base wraps words of subnormals
 // and zeros to the top.
-template <class T, const auto& Block, auto& Rare> struct nextafter_kernel : kernel<two_arguments<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct nextafter_kernel : kernel<two_arguments<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         auto a = [&](auto v) ORVANE_LAMBDA { return (words(v) & c.abs_word) - c.range_base; };
         auto i = signed_bits(x), j = signed_bits(y);
@@ -197,8 +187,7 @@ using snan_kernel = nan_kernel<float>;
 ORVANE_EXPORT_SETTLED(nan, , dnan_kernel)
 ORVANE_EXPORT_SETTLED(nanf, , snan_kernel)
 
-template <class T, const auto& Pool> struct copysign_kernel : kernel<two_arguments<T>> {
-    static constexpr auto& block = Pool;
+template <class T, const auto& Pool> struct copysign_kernel : kernel<two_arguments<T>, Pool> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         return (x & c.magnitude) | (y & c.sign);
     }
@@ -208,8 +197,7 @@ using scopysign_kernel = copysign_kernel<float, __orvane_sfputil_pool>;
 ORVANE_EXPORT_SETTLED(copysign, , dcopysign_kernel)
 ORVANE_EXPORT_SETTLED(copysignf, , scopysign_kernel)
 
-template <class T, const auto& Pool> struct fabs_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Pool;
+template <class T, const auto& Pool> struct fabs_kernel : kernel<one_argument<T>, Pool> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) { return x & c.magnitude; }
 };
 using dfabs_kernel = fabs_kernel<double, __orvane_dfputil_pool>;

@@ -43,10 +43,7 @@ struct sfmod_block {
 ORVANE_BLOCK(dfmod_block, __orvane_dfmod_data)
 ORVANE_BLOCK(sfmod_block, __orvane_sfmod_data)
 
-template <class T, const auto& Block, auto& Rare> struct fmod_kernel : kernel<two_arguments<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct fmod_kernel : kernel<two_arguments<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         auto A = x & c.abs_mask, Y = y & c.abs_mask;
         auto special = beyond_one_quotient(c, A, Y);
@@ -106,10 +103,7 @@ ORVANE_INLINE nearest_multiple<T, W> off_nearest_multiple(const auto& c, lanes<T
     return {n, r, v, beyond};
 }
 
-template <class T, const auto& Block, auto& Rare> struct remainder_kernel : kernel<two_arguments<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct remainder_kernel : kernel<two_arguments<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         auto Y = y & c.abs_mask;
         auto special = beyond_one_quotient(c, x & c.abs_mask, Y);
@@ -121,10 +115,7 @@ using sremainder_kernel = remainder_kernel<float, __orvane_sremquo_data, __orvan
 ORVANE_EXPORT(remainder, , dremainder_kernel)
 ORVANE_EXPORT(remainderf, , sremainder_kernel)
 
-template <class T, const auto& Block, auto& Rare> struct remquo_kernel : kernel<two_pointer_out<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct remquo_kernel : kernel<two_pointer_out<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         auto Y = y & c.abs_mask;
         auto special = beyond_one_quotient(c, x & c.abs_mask, Y);

@@ -32,9 +32,8 @@ struct larger_magnitude {
     }
 };
 
-template <class T, class Choice, const auto& Pool, auto& Rare> struct selection_kernel : kernel<two_arguments<T>> {
-    static constexpr auto& block = Pool;
-    static constexpr auto& slow_path = Rare;
+template <class T, class Choice, const auto& Pool, auto& Rare>
+struct selection_kernel : kernel<two_arguments<T>, Pool, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         auto a = x & c.magnitude, b = y & c.magnitude;
         lane_bits<W> not_finite = marked<T, W>(max(words(a), words(b)) > c.largest_word); // x or y
@@ -62,9 +61,7 @@ struct sfdim_block {
 ORVANE_BLOCK(dfdim_block, __orvane_dfdim_data)
 ORVANE_BLOCK(sfdim_block, __orvane_sfdim_data)
 
-template <class T, const auto& Block, auto& Rare> struct fdim_kernel : kernel<two_arguments<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, const auto& Block, auto& Rare> struct fdim_kernel : kernel<two_arguments<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         auto not_finite = marked<T, W>(max(words(x) & c.exp_word, words(y) & c.exp_word) == c.exp_word);
         return answer{keep(y < x, x - y), not_finite}; // else +0

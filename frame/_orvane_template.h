@@ -1,21 +1,20 @@
 // The kernel skeleton: every export is an instance of it.
 //
-// A kernel is a struct K that has
+// A kernel is a struct
 //
-//     using signature = one_argument<float>;              which lanes come in and go out (calling.h)
-//     static constexpr auto& block = ...;                 its constant block, or no_block
-//     static constexpr double spare = 0.75;               lane 3 of every input of a 3-wide vector
-//     static constexpr auto& slow_path = ...;             only if it can have special lanes
+//     struct K : kernel<one_argument<float>, block, slow_path> {
+//         template <int W> static auto vector_path(block, x...)
 //
-//     template <int W> static auto vector_path(block, x...)
-//
-// where the formula runs on W lanes of each argument and returns an `answer`: the result, a second result or
-// out-lane, and the special lanes, each marked by its sign (by a lane of ones, say). The rest of an instance is here:
-// spare lane, copy-up of low lanes, the formula register by register, the one branch of the ordinary path, the
-// callout, results in their places.
+// of a signature (which lanes come in and go out: calling.h), its constant block if it has one, and its slow path if it
+// can have special lanes (the block is no_block where there is none before it). The formula runs on W lanes of each
+// argument and returns an `answer`: the result, a second result or out-lane, and the special lanes, each marked by its
+// sign (by a lane of ones, say). The rest of an instance is here: spare lane, copy-up of low lanes, the formula register
+// by register, the one branch of the ordinary path, the callout, results in their places.
 //
 // A kernel may have more:
 //
+//     static constexpr double spare = 1;                              lane 3 of every input of a 3-wide vector, 0.75
+//                                                                      where none is named
 //     template <int W> static auto settle(block, x..., answer)        finishes special lanes with no slow path: gives
 //                                                                      the answer with those lanes out of `special`
 //     template <int W> static auto large_path(block, x..., answer)    an inline path for the lanes that the formula
@@ -61,11 +60,14 @@ template <class First, class Second> struct results {
 struct no_block_type {};
 inline constexpr no_block_type no_block{};
 
-// Defaults of most kernels.
-template <class S> struct kernel {
+// What every kernel has by its bases.
+template <class S, const auto& Block = no_block, auto&... SlowPath> struct kernel {
     using signature = S;
-    static constexpr auto& block = no_block;
+    static constexpr auto& block = Block;
     static constexpr double spare = 0.75;
+};
+template <class S, const auto& Block, auto& SlowPath> struct kernel<S, Block, SlowPath> : kernel<S, Block> {
+    static constexpr auto& slow_path = SlowPath;
 };
 
 namespace detail {
@@ -127,10 +129,11 @@ template <class A, int C, size_t N> struct answers {
         return m;
     }
     static constexpr unsigned live = C < 4 ? (1u << C) - 1 : ~0u;
-    // A chunk's answer for the steps behind the branch, its special lanes made from their bits.
+    // A chunk's answer for the steps behind the branch, its special lanes made from their bits where these alone were
+    // kept.
     ORVANE_INLINE A again(auto i) const {
         A a = chunk[i];
-        a.special = decltype(a.special)::of_bits(special[i]);
+        if constexpr (N > 1) a.special = decltype(a.special)::of_bits(special[i]);
         return a;
     }
 };

@@ -193,12 +193,13 @@ template <class T, int W> struct lanes {
     friend ORVANE_INLINE mask ordered(lanes a, lanes b) requires is_floating<T> { return compare<ORD>(a, b); }
     friend ORVANE_INLINE mask is_nan(lanes a) requires is_floating<T> { return compare<UNORD>(a, a); }
 
-    // a where the sign bit of m is set, else b.
+    // a where the sign bit of m is set, else b. The instruction itself: from two selections by one mask the compiler
+    // would make a comparison of the mask with 0 first.
     friend ORVANE_INLINE lanes select(mask m, lanes a, lanes b) {
-        if constexpr (sizeof(T) == 4 && is_wide) return (raw)_mm256_blendv_ps((__m256)b.v, (__m256)a.v, (__m256)m.v);
-        else if constexpr (sizeof(T) == 4) return (raw)_mm_blendv_ps((__m128)b.v, (__m128)a.v, (__m128)m.v);
-        else if constexpr (is_wide) return (raw)_mm256_blendv_pd((__m256d)b.v, (__m256d)a.v, (__m256d)m.v);
-        else return (raw)_mm_blendv_pd((__m128d)b.v, (__m128d)a.v, (__m128d)m.v);
+        raw chosen;
+        if constexpr (sizeof(T) == 4) asm("vblendvps %3, %2, %1, %0" : "=x"(chosen) : "x"(b.v), "xm"(a.v), "x"(m.v));
+        else asm("vblendvpd %3, %2, %1, %0" : "=x"(chosen) : "x"(b.v), "xm"(a.v), "x"(m.v));
+        return chosen;
     }
     // a where m is all ones, else +0: an AND.
     friend ORVANE_INLINE lanes keep(mask m, lanes a) { return lanes((raw)m.v) & a; }
@@ -332,6 +333,12 @@ template <class U, class T, int W> ORVANE_INLINE lanes<U, W> as(lanes<T, W> a) {
 }
 template <class T, int W> ORVANE_INLINE lanes<uint_of<T>, W> bits(lanes<T, W> a) { return as<uint_of<T>>(a); }
 template <class T, int W> ORVANE_INLINE lanes<int_of<T>, W> signed_bits(lanes<T, W> a) { return as<int_of<T>>(a); }
+
+// y under the sign of x, by an OR: -0 for x = -0. The mask is read here, where one that a kernel reads for other steps
+// too would stay in a register in between.
+template <class T, int W> ORVANE_INLINE lanes<T, W> with_sign_of(lanes<T, W> y, lanes<T, W> x) {
+    return y | (x & lanes<T, W>(T(-0.0)));
+}
 
 // Halves of a full 256-bit register, and back.
 template <class T, int W> ORVANE_INLINE lanes<T, W / 2> low_half(lanes<T, W> a) {
@@ -476,6 +483,14 @@ template <class F, class A, int W, class... B> ORVANE_INLINE auto by_halves(F f,
     } else return f(a, b...);
 }
 
+// The same where the 64-bit lanes are wanted as they are: at W = 8 in two registers.
+template <class F, class A, int W, class... B> ORVANE_INLINE auto widened(F f, lanes<A, W> a, lanes<B, W>... b) {
+    if constexpr (W == 8) {
+        auto low = finished(f(low_half(a), low_half(b)...));
+        return two_registers<typename decltype(low)::element, 8>{low, f(high_half(a), high_half(b)...)};
+    } else return f(a, b...);
+}
+
 // Table lookups from memory, a scalar load a live lane, assembled in a register; the index counts entries.
 namespace detail {
 template <class T> ORVANE_INLINE T load(const void* at) {
@@ -561,6 +576,36 @@ template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(con
     return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return (const char*)base + offsets[i]; });
 }
 
+// Four floats that stand side by side: one load of all a lane, and a transposition.
+template <int W> struct lane_four { lanes<float, W> first, second, third, fourth; };
+namespace detail {
+template <int W, class At> ORVANE_INLINE lane_four<W> assemble_four(At at) {
+    using raw = typename lanes<float, W>::raw;
+    if constexpr (W == 1) {
+        auto word = [&](int i) ORVANE_LAMBDA { return lanes<float, W>(load<float>(at(0) + 4 * i)); };
+        return {word(0), word(1), word(2), word(3)};
+    } else {
+        auto row = [&](int i) ORVANE_LAMBDA { return _mm_loadu_ps((const float*)at(i)); };
+        // The rows of one half of a register each, two and two interleaved, and these once more.
+        auto four = [](auto r0, auto r1, auto r2, auto r3, auto low, auto high) ORVANE_LAMBDA {
+            const auto l02 = low(r0, r2), l13 = low(r1, r3), h02 = high(r0, r2), h13 = high(r1, r3);
+            return lane_four<W>{(raw)low(l02, l13), (raw)high(l02, l13), (raw)low(h02, h13), (raw)high(h02, h13)};
+        };
+        if constexpr (W == 8) {
+            auto two = [&](int i) ORVANE_LAMBDA { return _mm256_set_m128(row(i + 4), row(i)); };
+            return four(
+                two(0), two(1), two(2), two(3),
+                [](auto a, auto b) ORVANE_LAMBDA { return _mm256_unpacklo_ps(a, b); },
+                [](auto a, auto b) ORVANE_LAMBDA { return _mm256_unpackhi_ps(a, b); });
+        } else
+            return four(
+                row(0), row(1), row(W == 2 ? 0 : 2), row(W == 2 ? 1 : 3),
+                [](auto a, auto b) ORVANE_LAMBDA { return _mm_unpacklo_ps(a, b); },
+                [](auto a, auto b) ORVANE_LAMBDA { return _mm_unpackhi_ps(a, b); });
+    }
+}
+} // namespace detail
+
 // A row of a table for each lane, found by its byte offset: the addresses once, then entries or pairs of them, whose
 // numbers count entries of T.
 template <int W> struct row_addresses {
@@ -583,6 +628,9 @@ template <int W> struct row_addresses {
     }
     template <class T, class Row> ORVANE_INLINE lane_pair<T, W> pair(T Row::*first) const {
         return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return at(i, first); });
+    }
+    template <class Row> ORVANE_INLINE lane_four<W> four(float Row::*first) const {
+        return detail::assemble_four<W>([&](int i) ORVANE_LAMBDA { return at(i, first); });
     }
 
 private:

@@ -324,10 +324,8 @@ template <class V> ORVANE_INLINE root<V> root_of(const auto& c, V sh, V sl) {
 
 // ---- The kernels.
 
-template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, tier Tier, const auto& Block, auto& Rare>
+struct asinh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         auto ax = x & c.abs_mask;
@@ -357,13 +355,13 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel
     }
 };
 
-template <class T, tier Tier, const auto& Block, auto& Rare> struct acosh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, tier Tier, const auto& Block, auto& Rare>
+struct acosh_kernel : kernel<one_argument<T>, Block, Rare> {
     static constexpr double spare = 2.0;
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
+        const lane_bits<W> special = not_less_equal(x, V(c.max_finite)) | not_less(V(c.one), x);
         auto t = fma(x, x, -V(c.one));
         auto sh = t & c.sqrt_mask, sl = t - sh;
         auto [h, l, d] = root_of(c, sh, sl);
@@ -372,18 +370,16 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct acosh_kernel
         else w = d * root_polynomial(c, d);
         auto s = h + l;
         auto [Wh, Wl] = one_and<Tier>(c, (x - c.one) + fma(w, s, s));
-        auto y = log_or_large<Tier, rest_of_r::kept>(c, x, Wh, Wl);
-        return answer{y, not_less_equal(x, V(c.max_finite)) | not_less(V(c.one), x)};
+        return answer{log_or_large<Tier, rest_of_r::kept>(c, x, Wh, Wl), special};
     }
 };
 
-template <class T, tier Tier, const auto& Block, auto& Rare> struct atanh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, tier Tier, const auto& Block, auto& Rare>
+struct atanh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         auto ax = x & c.abs_mask;
+        const lane_bits<W> special = not_less(ax, V(c.one));
         auto D = c.one - ax, Dl = (c.one - D) - ax;
         auto N = ax + ax;
         V y, v;
@@ -405,7 +401,7 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct atanh_kernel
         auto sign = x & c.sign_mask;
         v = v * (sign ^ c.half);
         v = select(ax < V(c.tiny_limit), fma(x, x, x) | sign, v);
-        return answer{v, not_less(ax, V(c.one))};
+        return answer{v, special};
     }
     // N / (D + Dl) = (Qh + Ql) / (1 - e), Qh the exact product of the cut numerator Nh and the estimate y.
     template <class V> struct estimated { V Qh, Ql, e; };

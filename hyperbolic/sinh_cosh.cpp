@@ -189,33 +189,26 @@ template <class V> ORVANE_INLINE V combined(const auto& c, const leading<V>& f, 
     }
 }
 
-// Near the ends of the range and beyond, and NaN: in one comparison of patterns, of double in their high words alone.
-template <int W> ORVANE_INLINE auto beyond_limit(const auto& c, lanes<double, W> ax) {
-    return pairs_in_place<int64_t>(words_in_place<int32_t>(ax) > c.large_limit);
-}
-
-template <class T, const auto& Block, auto& Rare> struct sinh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+// Special are lanes near the ends of the range and beyond, and NaN: in one comparison of patterns, of double in their
+// high words alone.
+template <class T, const auto& Block, auto& Rare> struct sinh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
-        auto ax = andnot(lanes<T, W>(c.sign_mask), x);
+        using V = lanes<T, W>;
+        auto ax = andnot(V(c.sign_mask), x);
+        const lane_bits<W> special = marked<T, W>(words(ax) > c.large_limit);
         auto [t, r] = split_by_ln2(c, ax);
-        auto y = combined(c, with_lead(true, of_power(c, t)), r) | (x & c.sign_mask);
-        if constexpr (sizeof(T) == 8) return answer{y, beyond_limit(c, ax)};
-        else return answer{y, signed_bits(ax) > c.large_limit};
+        auto y = combined(c, with_lead(true, of_power(c, t)), r);
+        return answer{with_sign_of(y, x), special};
     }
 };
-template <class T, const auto& Block, auto& Rare> struct cosh_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct cosh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto ax = andnot(lanes<T, W>(c.sign_mask), x);
+        lane_bits<W> special;
+        if constexpr (sizeof(T) == 8) special = marked<T, W>(words(ax) > c.large_limit);
+        else special = signed_bits(ax) >= c.large_limit;
         auto [t, r] = split_by_ln2(c, ax);
-        auto y = combined(c, with_lead(false, of_power(c, t)), r);
-        if constexpr (sizeof(T) == 8) return answer{y, beyond_limit(c, ax)};
-        else return answer{y, signed_bits(ax) >= c.large_limit};
+        return answer{combined(c, with_lead(false, of_power(c, t)), r), special};
     }
 };
 

@@ -50,10 +50,7 @@ ORVANE_BLOCK(stanh_native_block, __orvane_stanh_native_data_avx2)
 
 // A polynomial in y = abs(x) - c, its coefficients and the centre c in a row for each eighth of a binade, which the
 // high word of x numbers; below 0.125 and from 18 on one row serves all.
-struct tanh_by_rows : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_dtanh_data;
-    static constexpr auto& slow_path = __orvane_dtanh_cout_rare;
-
+struct tanh_by_rows : kernel<one_argument<double>, __orvane_dtanh_data, __orvane_dtanh_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const dtanh_block& c, lanes<double, W> x) {
         using words = lanes<int32_t, W>;
         auto hw = as<int32_t>(high_words(x)) & c.hw_mask;
@@ -82,9 +79,7 @@ template <class V> ORVANE_INLINE V saturated(const auto& c, V x, V ax, V v) {
 }
 
 // x P(x^2) / Q(x^2), the steps that weigh most in double.
-struct tanhf_mixed : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_stanh_data_avx2;
-
+struct tanhf_mixed : kernel<one_argument<float>, __orvane_stanh_data_avx2> {
     template <int W> static ORVANE_INLINE auto vector_path(const stanh_block& c, lanes<float, W> x) {
         auto ax = x & c.abs_mask;
         auto z = ax * ax;
@@ -99,9 +94,7 @@ struct tanhf_mixed : kernel<one_argument<float>> {
         return saturated(c, x, ax, by_halves(quotient, ax, qf, pf));
     }
 };
-struct tanhf_short : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_stanh_native_data_avx2;
-
+struct tanhf_short : kernel<one_argument<float>, __orvane_stanh_native_data_avx2> {
     template <int W> static ORVANE_INLINE auto vector_path(const stanh_native_block& c, lanes<float, W> x) {
         auto ax = x & c.abs_mask;
         auto z = ax * ax;

@@ -76,22 +76,19 @@ template <class I, int W> ORVANE_INLINE lanes<I, W> remainder(lanes<I, W> a, lan
     return as<I>(bits(a) - bits(q) * bits(b));
 }
 
-template <class I> struct division : kernel<integer<I>> {
-    static constexpr auto& block = __orvane_intdiv_pool;
+template <class I> struct division : kernel<integer<I>, __orvane_intdiv_pool> {
     static constexpr double spare = 1;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<I, W> a, lanes<I, W> b) {
         return quotient(c, a, b);
     }
 };
-template <class I> struct modulo : kernel<integer<I>> {
-    static constexpr auto& block = __orvane_intdiv_pool;
+template <class I> struct modulo : kernel<integer<I>, __orvane_intdiv_pool> {
     static constexpr double spare = 1;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<I, W> a, lanes<I, W> b) {
         return remainder(a, b, quotient(c, a, b));
     }
 };
-template <class I> struct division_and_modulo : kernel<integer_pair<I>> {
-    static constexpr auto& block = __orvane_intdiv_pool;
+template <class I> struct division_and_modulo : kernel<integer_pair<I>, __orvane_intdiv_pool> {
     static constexpr double spare = 1;
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<I, W> a, lanes<I, W> b) {
         auto q = quotient(c, a, b);

@@ -243,9 +243,7 @@ template <bool Native, class V> ORVANE_INLINE V J_of(const auto& c, V t) {
 }
 
 // asin and asinpi: R = |x| or -2 sqrt(w), and a quarter of a turn beside the latter.
-template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         V ax = x & c.sign_or_abs;
@@ -253,12 +251,17 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
         auto big = not_less(ax, V(c.half));
         V w = fma(-ax, V(c.half), V(c.half));
         V t = min(ax * ax, w);
-        V R = select(big, two_roots<Native, false>(c, w), ax);
+        V R = finished(select(big, two_roots<Native, false>(c, w), ax));
         V y;
-        if constexpr (requires { c.pi_half; }) y = keep(big, V(c.pi_half)) + fma_in_order(R, Q_of<Native>(c, t), R);
-        else if constexpr (Native) y = fma_in_order(R, J_of<Native>(c, t), keep(big, V(c.half)));
-        else y = fma_in_order(Q_of<Native>(c, t), R, fma(R, V(c.inv_pi), keep(big, V(c.half))));
-        return answer{y ^ (x & c.neg_zero), special};
+        if constexpr (requires { c.pi_half; }) {
+            V offset = finished(keep(big, V(c.pi_half)));
+            y = offset + fma_in_order(R, Q_of<Native>(c, t), R);
+        } else {
+            V offset = finished(keep(big, V(c.half)));
+            if constexpr (Native) y = fma_in_order(R, J_of<Native>(c, t), offset);
+            else y = fma_in_order(Q_of<Native>(c, t), R, fma(R, V(c.inv_pi), offset));
+        }
+        return answer{y ^ (x & V(T(-0.0))), special}; // a mask of its own: neg_zero would stay in a register till here
     }
     // The pi forms leave +-1 to the slow path as well.
     template <class V> static ORVANE_INLINE auto is_special(const auto& c, V ax) {
@@ -268,9 +271,8 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
 };
 
 // acos and acospi: R = -x or +-2 sqrt(w), and beside them a quarter of a turn, nothing, or a half for x <= -1/2.
-template <class T, const auto& Block, auto& Rare, bool Native> struct arc_cosine : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, const auto& Block, auto& Rare, bool Native>
+struct arc_cosine : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         V nx = x | c.sign_or_abs; // -|x|
@@ -279,14 +281,15 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_cosine
         V t = min(nx * nx, w);
         auto big = not_less(t, w);  // w <= x^2 just where |x| >= 1/2
         auto below = big & (x < t); // t <= 1/4, so x is negative
-        V R = select(big, two_roots<Native, true>(c, w), nx) ^ (x & c.sign_or_abs);
-        if constexpr (requires { c.pi_half; }) {
-            V offset = andnot(V(as<T>(big)), V(c.pi_half)) + keep(below, V(c.pi_full));
-            return answer{offset + fma_in_order(R, Q_of<Native>(c, t), R), special};
-        } else {
-            V offset = andnot(V(as<T>(big)), V(c.half)) + keep(below, V(c.unit));
-            return answer{fma_in_order(R, J_of<Native>(c, t), offset), special};
-        }
+        V offset;
+        if constexpr (requires { c.pi_half; }) offset = andnot(V(as<T>(big)), V(c.pi_half)) + keep(below, V(c.pi_full));
+        else offset = andnot(V(as<T>(big)), V(c.half)) + keep(below, V(c.unit));
+        offset = finished(offset);
+        V R = select(big, two_roots<Native, true>(c, w), nx);
+        in_turn(R, x); // the sign after the roots
+        R = finished(R ^ (x & c.sign_or_abs));
+        if constexpr (requires { c.pi_half; }) return answer{offset + fma_in_order(R, Q_of<Native>(c, t), R), special};
+        else return answer{fma_in_order(R, J_of<Native>(c, t), offset), special};
     }
     template <class V> static ORVANE_INLINE auto is_special(const auto& c, V nx) {
         if constexpr (requires { c.pi_half; }) return not_less_equal(V(c.domain), nx);

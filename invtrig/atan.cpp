@@ -113,8 +113,7 @@ ORVANE_BLOCK(satanpi_native_block, __orvane_satanpi_native_data)
 
 // atan x = atan c + atan((x - c) / (1 + c x)), c the multiple of 1/4 nearest to |x|; from 7.875 up pi/2 - atan(1 /
 // x). Every lane comes out right: at 2^128 and above, where 1 / x no longer counts, x is capped.
-struct atan_table_kernel : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_datan_data_avx512;
+struct atan_table_kernel : kernel<one_argument<double>, __orvane_datan_data_avx512> {
     template <int W> static ORVANE_INLINE auto vector_path(const datan_block& c, lanes<double, W> x) {
         using V = lanes<double, W>;
         V ax = x & c.abs_mask;
@@ -129,9 +128,9 @@ struct atan_table_kernel : kernel<one_argument<double>> {
 
         const auto& p = c.poly;
         V y = r * r;
-        V A = fma(V(p[0]), y, p[1]), B = fma(V(p[2]), y, p[3]), C = fma(V(p[4]), y, p[5]);
         V y2 = y * y;
-        V P = fma(fma(fma(y2, A, B), y2, C), r * y, r);
+        V A = fma(V(p[0]), y, p[1]), B = finished(fma(y2, A, fma(V(p[2]), y, p[3])));
+        V P = fma(fma(B, y2, fma(V(p[4]), y, p[5])), r * y, r);
         return (T + P) ^ (x ^ ax);
     }
 };
@@ -149,8 +148,7 @@ template <int W> ORVANE_INLINE auto reciprocal(const datan_native_block& c, lane
     return fma_in_order(e, r, r);
 }
 
-template <class T, const auto& Block> struct atan_settled : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
+template <class T, const auto& Block> struct atan_settled : kernel<one_argument<T>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         V ax = x & c.abs_mask, sgn = x & c.sign_mask;
@@ -164,9 +162,7 @@ template <class T, const auto& Block> struct atan_settled : kernel<one_argument<
     }
 };
 // The estimate of 1 / x times an infinite x is no number.
-template <class T, const auto& Block, auto& Rare> struct atan_estimated : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, const auto& Block, auto& Rare> struct atan_estimated : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         return answer{atan_settled<T, Block>::template vector_path<W>(c, x), (x & c.abs_mask) == V(c.inf)};
@@ -182,9 +178,7 @@ ORVANE_EXPORT_SETTLED(atanf, , atanf_default)
 ORVANE_EXPORT(atanf, _native, atanf_native)
 
 template <class T, const auto& Block, auto& Rare, class Quotient, bool Native> struct atanpi_kernel
-    : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+    : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         V ax = x & c.abs_mask, sx = x & c.sign_mask;

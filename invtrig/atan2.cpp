@@ -132,9 +132,7 @@ struct four_chains {
 
 // Octant and quadrant; Ties says whether |y| = |x| is turned round. All lanes out of range are special.
 template <class T, const auto& Block, auto& Rare, class Quotient, class Polynomial, bool Ties> struct atan2_in_range
-    : kernel<two_arguments<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+    : kernel<two_arguments<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> y, lanes<T, W> x) {
         using V = lanes<T, W>;
         V ax = x & c.abs_mask, ay = y & c.abs_mask;

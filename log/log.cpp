@@ -81,10 +81,7 @@ struct sln_half_block {
 ORVANE_BLOCK(sln_half_block, __orvane_sln_half_data)
 
 // ln x = E ln 2 + ln(2^10 / c) - 1023 ln 2 + ln(1 + r): h and l the first three in hi and lo, summed with the error.
-struct log_compensated : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_dln_data;
-    static constexpr auto& slow_path = __orvane_dln_cout_rare;
-
+struct log_compensated : kernel<one_argument<double>, __orvane_dln_data, __orvane_dln_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const dln_block& c, lanes<double, W> x) {
         auto m = significand(c, x, c.m_exponent);
         auto integer = round_to<to_nearest>(reciprocal(m)); // 512 to 1024
@@ -104,10 +101,7 @@ struct log_compensated : kernel<one_argument<double>> {
     }
 };
 
-struct log_plain : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_dln_data;
-    static constexpr auto& slow_path = __orvane_dln_cout_rare;
-
+struct log_plain : kernel<one_argument<double>, __orvane_dln_data, __orvane_dln_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const dln_block& c, lanes<double, W> x) {
         auto [r, k, integer] = fast_log(c, x);
         auto U = single_of_bits<40, 0x405FC0>(c, integer);
@@ -129,10 +123,7 @@ template <class V> ORVANE_INLINE V ln_polynomial(const auto& c, V r) {
     else if constexpr (requires { c.c6; }) return horner(r, c.c6, c.c5, c.c4, c.c3, c.c2, c.c1, c.c0);
     else return horner(r, c.c3, c.c2, c.c1, c.c0);
 }
-template <const auto& Block> struct logf_polynomial : kernel<one_argument<float>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = __orvane_sln_cout_rare;
-
+template <const auto& Block> struct logf_polynomial : kernel<one_argument<float>, Block, __orvane_sln_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         auto [r, K, d] = cut_at_two_thirds(c, c.mantissa_mask, signed_bits(x));
         auto q = r * ln_polynomial(c, r);

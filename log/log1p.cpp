@@ -72,9 +72,6 @@ ORVANE_BLOCK(slog1p_native_block, __orvane_slog1p_native_data)
 // The larger and the smaller of 1 and x.
 template <class V> struct ordered_pair { V big, small; };
 template <class V> ORVANE_INLINE ordered_pair<V> order(V one, V x) { return {max(one, x), min(one, x)}; }
-template <class T, int W> ORVANE_INLINE auto with_sign_of(lanes<T, W> y, lanes<T, W> x) {
-    return y | (x & lanes<T, W>(T(-0.0))); // keeps -0
-}
 template <class V> ORVANE_INLINE auto outside_limits(const auto& c, V x) {
     return not_less_equal(x, V(c.upper_limit)) | (x < V(c.lower_limit));
 }
@@ -83,18 +80,15 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> scale_to_significand(const a
     return as<T>(lanes<uint_of<T>, W>(c.scale_base) - (bits(z) & c.exponent_field));
 }
 
-template <class T, const auto& Block, auto& Rare> struct log1p_compensated : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct log1p_compensated : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         const V one = c.one;
-        auto [big, small] = order(one, x);
         auto z = x + one;
         // Low bits of z are cleared, so that err has room; where x is tiny z is 1 and err x itself.
-        auto zz = z & as<T>(((x & c.abs_mask) < V(c.tiny_limit)) | signed_bits(V(c.z_mask)));
-        auto err = (big - zz) + small; // 1 + x = zz + err exactly
+        auto zz = finished(z & as<T>(((x & c.abs_mask) < V(c.tiny_limit)) | signed_bits(V(c.z_mask))));
+        auto [big, small] = order(one, x);
+        auto err = finished((big - zz) + small); // 1 + x = zz + err exactly
 
         auto m = significand(c, zz, c.m_exponent);
         auto integer = round_to<to_nearest>(reciprocal(m));
@@ -112,7 +106,8 @@ template <class T, const auto& Block, auto& Rare> struct log1p_compensated : ker
         if constexpr (sizeof(T) == 8) t = pair_of_bits<39, 0x810000>(c, integer);
         else t = pair_of_bits<13, 0x21800>(c, integer);
         auto h = fma(E, c.ln2_hi, t.first);
-        auto l = fma(E, c.ln2_lo, t.second);
+        auto l = finished(fma(E, c.ln2_lo, t.second));
+        in_turn(l, R);
 
         auto R2 = R * R;
         auto [u, e] = add_exactly(R, h);
@@ -126,10 +121,7 @@ template <class T, const auto& Block, auto& Rare> struct log1p_compensated : ker
     }
 };
 
-struct log1p_plain : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_dlog1p_data;
-    static constexpr auto& slow_path = __orvane_dlog1p_cout_rare;
-
+struct log1p_plain : kernel<one_argument<double>, __orvane_dlog1p_data, __orvane_dlog1p_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const dlog1p_block& c, lanes<double, W> x) {
         const lanes<double, W> one = c.one;
         auto [big, small] = order(one, x);
@@ -144,10 +136,7 @@ struct log1p_plain : kernel<one_argument<double>> {
     }
 };
 
-struct log1pf_polynomial : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_slog1p_native_data;
-    static constexpr auto& slow_path = __orvane_slog1p_cout_rare;
-
+struct log1pf_polynomial : kernel<one_argument<float>, __orvane_slog1p_native_data, __orvane_slog1p_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const slog1p_native_block& c, lanes<float, W> x) {
         const lanes<float, W> one = c.one;
         auto [big, small] = order(one, x);

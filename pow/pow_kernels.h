@@ -15,10 +15,7 @@ template <class T, int W, int N> ORVANE_INLINE lanes<T, W> in_lanes(lanes<int32_
 // log2 x = H + L by one table: x = 2^e z, r about 1 / z to nine bits, log2 z = log2(1 + u) - log2 r with u = r z - 1
 // exact. H is exact but for one rounding, whose error L takes up. Then y H is a pair too, and 2^ of it a table of 256
 // entries and a polynomial.
-template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_arguments<double>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_arguments<double>, Block, Rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const dpow_block& c, lanes<double, W> x, lanes<double, W> y) {
         auto z = (x & c.mant_mask) | c.one;
@@ -94,10 +91,7 @@ template <int W> ORVANE_INLINE lanes<int64_t, W> no_positive_normal(const auto& 
     return in_lanes<int64_t, W>((words_in_place<int32_t>(x) + c.x_bias) < c.x_limit);
 }
 
-template <const auto& Block, auto& Rare> struct pow_by_chords : kernel<two_arguments<double>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <const auto& Block, auto& Rare> struct pow_by_chords : kernel<two_arguments<double>, Block, Rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const dpow_rm_block& c, lanes<double, W> x, lanes<double, W> y) {
         auto P = y * reduced_ln<4>(c, x);
@@ -142,10 +136,7 @@ template <int W> ORVANE_INLINE lanes<float, W> float_exp(const auto& c, lanes<fl
     return as<float>(bits(q) + (bits(a) << 23));
 }
 
-template <const auto& Block, auto& Rare> struct powf_by_polynomials : kernel<two_arguments<float>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <const auto& Block, auto& Rare> struct powf_by_polynomials : kernel<two_arguments<float>, Block, Rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const spow_rm_block& c, lanes<float, W> x, lanes<float, W> y) {
         auto P = y * float_ln(c, x);

@@ -7,10 +7,7 @@ ORVANE_SLOW_PATH(__orvane_spow_cout_rare, const float* x, const float* y, float*
 
 // The reduced double kernel on widened lanes, with a shorter polynomial. Overflow and underflow come from the
 // narrowing.
-struct powf_in_double : kernel<two_arguments<float>> {
-    static constexpr auto& block = __orvane_spow_data;
-    static constexpr auto& slow_path = __orvane_spow_cout_rare;
-
+struct powf_in_double : kernel<two_arguments<float>, __orvane_spow_data, __orvane_spow_cout_rare> {
     template <int W> struct widened {
         lanes<float, W> y;
         lane_bits<W> special;

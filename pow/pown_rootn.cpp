@@ -67,10 +67,8 @@ ORVANE_BLOCK_TWIN(__orvane_drootn_native_data, __orvane_dpown_native_data)
 
 // log2 |x| = L1 + llo: x = 2^k m, r = c / (1 + i/1024), u = r m - c as an exact pair u0 + ulo. L1 takes part in exact
 // sums; the factor c makes the linear term of the logarithm u itself. Then 2^ of the product H + B.
-template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs : kernel<with_integer<double>> {
-    static constexpr auto& block = Block;
+template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs : kernel<with_integer<double>, Block, Rare> {
     static constexpr double spare = 1.0;
-    static constexpr auto& slow_path = Rare;
 
     template <int W>
     static ORVANE_INLINE auto vector_path(const dpown_block& c, lanes<double, W> x, lanes<int32_t, W> n) {
@@ -117,10 +115,9 @@ template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs : ker
 };
 
 // e^(f ln |x|) with f the rounded exponent.
-template <class Front, auto& Rare> struct pown_by_chords : kernel<with_integer<double>> {
-    static constexpr auto& block = __orvane_dpown_native_data;
+template <class Front, auto& Rare>
+struct pown_by_chords : kernel<with_integer<double>, __orvane_dpown_native_data, Rare> {
     static constexpr double spare = 1.0;
-    static constexpr auto& slow_path = Rare;
 
     template <int W>
     static ORVANE_INLINE auto vector_path(const dpown_native_block& c, lanes<double, W> x, lanes<int32_t, W> n) {

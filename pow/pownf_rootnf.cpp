@@ -90,10 +90,8 @@ ORVANE_BLOCK_TWIN(__orvane_srootn_native_data, __orvane_spown_native_data)
 
 // ln |x| = Lh + Ll: x = 2^k m, r = 1 / (1 + i/64) short, so that m's leading part times r is exact. Around 1, where
 // the entry is 0, the rest t3 of the product belongs to the head.
-template <class Front, const auto& Block, auto& Rare> struct pownf_in_pairs : kernel<with_integer<float>> {
-    static constexpr auto& block = Block;
+template <class Front, const auto& Block, auto& Rare> struct pownf_in_pairs : kernel<with_integer<float>, Block, Rare> {
     static constexpr double spare = 1.0;
-    static constexpr auto& slow_path = Rare;
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x, lanes<int32_t, W> n) {
         auto ax = x & c.f_abs;
@@ -140,10 +138,9 @@ private:
     }
 };
 
-template <class Front, auto& Rare> struct pownf_by_polynomials : kernel<with_integer<float>> {
-    static constexpr auto& block = __orvane_spown_native_data;
+template <class Front, auto& Rare>
+struct pownf_by_polynomials : kernel<with_integer<float>, __orvane_spown_native_data, Rare> {
     static constexpr double spare = 1.0;
-    static constexpr auto& slow_path = Rare;
 
     template <int W>
     static ORVANE_INLINE auto vector_path(const spown_native_block& c, lanes<float, W> x, lanes<int32_t, W> n) {

@@ -40,10 +40,7 @@ ORVANE_BLOCK(spowr_block, __orvane_spowr_data_avx2)
 
 // pow's steps in pairs of floats. The reciprocal r of x itself, rounded to three bits, has the exponent and the table
 // index in it, and the tables lie in registers.
-struct powrf_in_pairs : kernel<two_arguments<float>> {
-    static constexpr auto& block = __orvane_spowr_data_avx2;
-    static constexpr auto& slow_path = __orvane_spowr_cout_rare;
-
+struct powrf_in_pairs : kernel<two_arguments<float>, __orvane_spowr_data_avx2, __orvane_spowr_cout_rare> {
     template <int W>
     static ORVANE_INLINE auto vector_path(const spowr_block& c, lanes<float, W> x, lanes<float, W> y) {
         auto low = x < c.min_normal;

@@ -82,9 +82,7 @@ struct short_series {
     }
 };
 
-template <class Series> struct erf_kernel : kernel<one_argument<double>> {
-    static constexpr auto& block = __orvane_derf_data;
-
+template <class Series> struct erf_kernel : kernel<one_argument<double>, __orvane_derf_data> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         auto A = x & c.abs_mask, sg = x ^ A;
         auto X = min(A, lanes<double, W>(c.x_cap)); // the cap for a NaN
@@ -103,9 +101,7 @@ using derf_native_kernel = erf_kernel<short_series>;
 ORVANE_EXPORT_SETTLED(erf, , derf_kernel)
 ORVANE_EXPORT_SETTLED(erf, _native, derf_native_kernel)
 
-struct serf_kernel : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_serf_data;
-
+struct serf_kernel : kernel<one_argument<float>, __orvane_serf_data> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         auto A = x & c.abs_mask, sg = x ^ A;
         auto X = min(A, lanes<float, W>(c.x_cap));
@@ -121,9 +117,7 @@ struct serf_kernel : kernel<one_argument<float>> {
 ORVANE_EXPORT_SETTLED(erff, , serf_kernel)
 
 // x p(x^2)^2 below the limit, 1 above.
-struct serf_native_kernel : kernel<one_argument<float>> {
-    static constexpr auto& block = __orvane_serf_data;
-
+struct serf_native_kernel : kernel<one_argument<float>, __orvane_serf_data> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         auto z = x * x;
         auto p = horner(z, c.p5, c.p4, c.p3, c.p2, c.p1, c.p0);

@@ -138,10 +138,8 @@ struct serfc_native_step {
     }
 };
 
-template <class T, const auto& Block, auto& Rare, class Step> struct erfc_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare, class Step>
+struct erfc_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         lane_bits<W> special = not_less(x, lanes<T, W>(c.limit)); // or NaN
         auto X = min(x & c.abs_mask, lanes<T, W>(c.x_cap));

@@ -10,8 +10,7 @@ ORVANE_SLOW_PATH(__orvane_slgamma_cout_rare, const float* x, float* result);
 ORVANE_SLOW_PATH(__orvane_dlgammar_cout_rare, const double* x, double* result, int* sign);
 ORVANE_SLOW_PATH(__orvane_slgammar_cout_rare, const float* x, float* result, int* sign);
 
-template <class Signature, auto& Rare> struct lgamma_kernel : kernel<Signature> {
-    static constexpr auto& slow_path = Rare;
+template <class Signature, auto& Rare> struct lgamma_kernel : kernel<Signature, no_block, Rare> {
     static constexpr bool all_lanes = true;
 };
 using dlgamma_kernel = lgamma_kernel<one_argument<double>, __orvane_dlgamma_cout_rare>;

@@ -7,8 +7,7 @@ namespace orvane {
 ORVANE_SLOW_PATH(__orvane_dtgamma_cout_rare, const double* x, double* result);
 ORVANE_SLOW_PATH(__orvane_stgamma_cout_rare, const float* x, float* result);
 
-template <class T, auto& Rare> struct tgamma_kernel : kernel<one_argument<T>> {
-    static constexpr auto& slow_path = Rare;
+template <class T, auto& Rare> struct tgamma_kernel : kernel<one_argument<T>, no_block, Rare> {
     static constexpr bool all_lanes = true;
 };
 using dtgamma_kernel = tgamma_kernel<double, __orvane_dtgamma_cout_rare>;

@@ -109,9 +109,7 @@ ORVANE_BLOCK(dsin_ha_block, __orvane_dsin_data_ha)
 ORVANE_BLOCK(dcos_ha_block, __orvane_dcos_data_ha)
 
 // sin(x) = (-1)^n sin(|x| - n pi) under the sign of x.
-template <const auto& Block> struct dsin_short : kernel<one_argument<double>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = __orvane_dsin_cout_rare;
+template <const auto& Block> struct dsin_short : kernel<one_argument<double>, Block, __orvane_dsin_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         auto ax = x & c.abs_mask;
         auto t = fma(ax, c.inv_pi, c.shifter); // n in the low bits
@@ -129,15 +127,13 @@ template <const auto& Block> struct dsin_short : kernel<one_argument<double>> {
 struct dsin : dsin_short<__orvane_dsin_data> {
     template <int W> static ORVANE_INLINE auto large_path(const dsin_block& c, lanes<double, W> x, auto ordinary) {
         const auto& ha = __orvane_dsin_data_ha;
-        auto y = eval_large_f64(ha, reduce_large_f64(x & c.abs_mask)) ^ andnot(lanes<double, W>(c.abs_mask), x);
+        auto y = eval_large_f64(ha, reduce_large_f64<not_negative>(x & c.abs_mask)) ^ andnot(lanes<double, W>(c.abs_mask), x);
         return answer{select(ordinary.special, y, ordinary.first), not_finite(ha, x)};
     }
 };
 
 // cos(x) = sin(pi/2 - |x|), with n and the limit counted from the shifted argument: r = (1/2 - n) pi - |x|.
-template <const auto& Block> struct dcos_short : kernel<one_argument<double>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = __orvane_dcos_cout_rare;
+template <const auto& Block> struct dcos_short : kernel<one_argument<double>, Block, __orvane_dcos_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         using V = lanes<double, W>;
         auto ax = x & c.abs_mask;
@@ -161,7 +157,7 @@ template <const auto& Block> struct dcos_short : kernel<one_argument<double>> {
 struct dcos : dcos_short<__orvane_dcos_data> {
     template <int W> static ORVANE_INLINE auto large_path(const dcos_block&, lanes<double, W> x, auto ordinary) {
         const auto& ha = __orvane_dcos_data_ha;
-        auto y = eval_large_f64(ha, reduce_large_f64(x)); // the sign travels through the reduction
+        auto y = eval_large_f64(ha, reduce_large_f64<of_any_sign>(x));
         return answer{select(ordinary.special, y, ordinary.first), not_finite(ha, x)};
     }
 };

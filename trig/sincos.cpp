@@ -74,9 +74,7 @@ template <int W> ORVANE_INLINE auto odd_sine(const auto& c, lanes<double, W> z) 
     return fma(z2 * sine_polynomial(c, z2), z, z);
 }
 
-template <class Signature, const auto& Block, auto& Rare> struct dsincos_short : kernel<Signature> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class Signature, const auto& Block, auto& Rare> struct dsincos_short : kernel<Signature, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         using V = lanes<double, W>;
         const V sign_mask = c.sign_mask;
@@ -122,7 +120,7 @@ template <class Signature, const auto& Block, auto& Rare>
 struct dsincos_large : dsincos_short<Signature, Block, Rare> {
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<double, W> x, auto ordinary) {
         const auto& ha = __orvane_dsincos_data_ha;
-        auto [S, r, rl] = reduce_large_f64(andnot(lanes<double, W>(c.sign_mask), x));
+        auto [S, r, rl] = reduce_large_f64<not_negative>(andnot(lanes<double, W>(c.sign_mask), x));
         auto j = S & ha.row_mask;
         auto j2 = (j + ha.quarter) & ha.row_mask;
         auto r2 = r * r;

@@ -64,9 +64,7 @@ template <int W> ORVANE_INLINE quadrant_f32<W> large_quadrant(const ssincos_bloc
     return {convert<float>(c.d_half_pi * f), low_words(T)};
 }
 
-template <class Signature> struct ssincos_kernel : kernel<Signature> {
-    static constexpr auto& block = __orvane_ssincos_data_avx2;
-
+template <class Signature> struct ssincos_kernel : kernel<Signature, __orvane_ssincos_data_avx2> {
     template <int W> static ORVANE_INLINE auto reduce(const ssincos_block& c, lanes<float, W> x) {
         auto ax = x & c.abs_mask;
         auto t = fma(ax, c.two_over_pi, c.shifter); // n in the low bits

@@ -7,31 +7,17 @@
 
 namespace orvane {
 
-// v - n pi with pi in two pieces, in the more accurate tiers three.
-template <class V> ORVANE_INLINE V less_multiples_of_pi(const auto& c, V n, V v) {
-    v = fma(-n, c.pi_1, v);
-    v = fma(-n, c.pi_2, v);
-    if constexpr (requires { c.pi_3; }) v = fma(-n, c.pi_3, v);
-    return v;
-}
 // (sin(r) / r - 1) / r^2 in r^2, of degree 6 or 3.
 template <class V> ORVANE_INLINE V sine_polynomial(const auto& c, V r2) {
     if constexpr (requires { c.s7; }) return horner(r2, c.s7, c.s6, c.s5, c.s4, c.s3, c.s2, c.s1);
     else return horner(r2, c.s4, c.s3, c.s2, c.s1);
 }
 
-// Infinities and NaN.
-template <class T, int W> ORVANE_INLINE auto not_finite(const auto& c, lanes<T, W> x) {
-    const lanes<uint_of<T>, W> exponent = c.exp_mask;
-    return (bits(x) & exponent) == exponent;
-}
-
 // sin(2 pi j/256 + rh + rl), c the block with the row table.
 template <int W> ORVANE_INLINE lanes<float, W> eval_large_f32(const auto& c, const reduced_angle<float, W>& angle) {
     auto [S, r, rl] = angle;
     const row_addresses<W> row(c.rows.entry, (S & lanes<uint32_t, W>(255u)) << 4);
-    auto [ct, sh] = row.pair(&angle_row<float>::cos_tail);
-    auto [sl, ch] = row.pair(&angle_row<float>::sin_lo);
+    auto [ct, sh, sl, ch] = row.four(&angle_row<float>::cos_tail);
 
     auto cosine = ch + ct;
     auto v = fma(-sh, r, cosine);

@@ -105,11 +105,9 @@ ORVANE_BLOCK_TWIN(__orvane_scos_native_data, __orvane_scos_rm_data)
 ORVANE_BLOCK_TWIN(__orvane_scos_half_data, __orvane_scos_rm_data)
 
 // The lanes that the short path does not reach, and what is left to the slow path.
-template <const auto& Block, auto& Rare> struct with_large_f32 : kernel<one_argument<float>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <const auto& Block, auto& Rare> struct with_large_f32 : kernel<one_argument<float>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<float, W> x, auto ordinary) {
-        auto y = eval_large_f32(c, reduce_large_f32(x)); // the sign travels through the reduction
+        auto y = eval_large_f32(c, reduce_large_f32<of_any_sign>(x));
         return answer{select(ordinary.special, y, ordinary.first), not_finite(c, x)};
     }
 };

@@ -104,8 +104,7 @@ template <int W> ORVANE_INLINE auto signed_sine(const auto& c, lanes<double, W> 
 }
 
 // sin(pi x) = (-1)^n sin(pi f); an integer gives a zero of its own sign.
-template <class T, const auto& Block> struct sinpi_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
+template <class T, const auto& Block> struct sinpi_kernel : kernel<one_argument<T>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto [f, parity] = without_integer(c, x);
         auto s = select(f != c.zero, parity, x & c.sign_mask);
@@ -114,8 +113,7 @@ template <class T, const auto& Block> struct sinpi_kernel : kernel<one_argument<
 };
 
 // cos(pi x) = (-1)^n sin(pi (1/2 - abs(f))); half an odd integer gives +0.
-template <class T, const auto& Block> struct cospi_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
+template <class T, const auto& Block> struct cospi_kernel : kernel<one_argument<T>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto [f, parity] = without_integer(c, x);
         auto g = lanes<T, W>(c.half) - (f & c.abs_mask);

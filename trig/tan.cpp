@@ -144,9 +144,7 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> ordinary_tan(const auto& c, 
     auto ax = x & c.abs_mask;
     auto t = fma(ax, c.two_over_pi, c.shifter);
     auto n = t - c.shifter;
-    auto r = fma(-n, c.pi_1, ax);
-    r = fma(-n, c.pi_2, r);
-    if constexpr (requires { c.pi_3; }) r = fma(-n, c.pi_3, r);
+    auto r = less_multiples_of_pi(c, n, ax);
 
     auto [N, D] = quotient_of(c, r);
     auto odd = signed_bits(t) << (8 * sizeof(T) - 1);
@@ -165,7 +163,7 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_block& c, cons
     const row_addresses<W> row(c.rows.entry, (j << 5) + (j << 3));
     auto R = angle.rl + angle.rh;
 
-    auto [pb_hi, pb_lo] = row.pair(&fields::pb_hi);
+    auto [pb_hi, pb_lo, pole, c0_hi] = row.four(&fields::pb_hi);
     auto d = pb_hi - R;
     auto dh = d & cut;
     auto dl = ((pb_hi - d) - R) + ((d - dh) + pb_lo);
@@ -176,8 +174,7 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_block& c, cons
     auto v = fma(u, u, V(-(u - e)));
     auto cr = v * y1;
 
-    auto [pole, c0_hi] = row.pair(&fields::pole);
-    auto [c0_lo, c1_head] = row.pair(&fields::c0_lo);
+    auto [c0_lo, c1_head, c1_tail, c2] = row.four(&fields::c0_lo);
     auto H = fma(c1_head, R, c0_hi);
     auto L = fma(c1_head, R, c0_hi - H);
     L = fma(pole, cr, L);
@@ -185,7 +182,6 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_block& c, cons
     auto E = fma(pole, y0, V(-P));
     auto s = ((E + H) + L) + c0_lo;
 
-    auto [c1_tail, c2] = row.pair(&fields::c1_tail);
     auto [c3, c4] = row.pair(&fields::c3);
     auto Q = fma(R * R, fma(c4, R, c3), fma(c2, R, c1_tail));
     return P + fma(Q, R, s);
@@ -197,11 +193,9 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_rm_block& c, c
     const row_addresses<W> row(c.rows.entry, (j << 5) + (j << 3));
     auto R = angle.rl + angle.rh;
 
-    auto [c3, c4] = row.pair(&fields::c3);
-    auto [c1_tail, c2] = row.pair(&fields::c1_tail);
+    auto [c1_tail, c2, c3, c4] = row.four(&fields::c1_tail);
     auto Q = fma(R * R, fma(c4, R, c3), fma(c2, R, c1_tail));
-    auto [pole, c0_hi] = row.pair(&fields::pole);
-    auto c1_head = row.entry(&fields::c1_head);
+    auto [pole, c0_hi, c0_lo, c1_head] = row.four(&fields::pole);
     auto A = fma(R, Q, fma(c1_head, R, c0_hi));
 
     auto d = row.entry(&fields::pb_hi) - R;
@@ -244,24 +238,19 @@ template <int W> ORVANE_INLINE lanes<double, W> row_tan(const auto& c, const red
 }
 template <int W> ORVANE_INLINE lanes<float, W> large_tan(const auto& c, lanes<float, W> x) {
     auto ax = x & c.abs_mask;
-    return row_tan(c, reduce_large_f32(ax)) ^ andnot(lanes<float, W>(c.abs_mask), x);
+    return row_tan(c, reduce_large_f32<not_negative>(ax)) ^ andnot(lanes<float, W>(c.abs_mask), x);
 }
 template <int W> ORVANE_INLINE lanes<double, W> large_tan(const auto& c, lanes<double, W> x) {
-    return row_tan(c, reduce_large_f64(x)); // the sign travels through the reduction
+    return row_tan(c, reduce_large_f64<of_any_sign>(x));
 }
 
-template <class T, const auto& Block, auto& Rare> struct tan_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
+template <class T, const auto& Block, auto& Rare> struct tan_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto y = ordinary_tan(c, x);
         return answer{y, not_less_equal(x & c.abs_mask, lanes<T, W>(c.large_limit))};
     }
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<T, W> x, auto ordinary) {
-        auto y = select(ordinary.special, large_tan(c, x), ordinary.first);
-        constexpr auto exp_mask = sizeof(T) == 8 ? uint_of<T>(0x7FF0000000000000) : uint_of<T>(0x7F800000);
-        const lanes<uint_of<T>, W> exponent(exp_mask);
-        return answer{y, (bits(x) & exponent) == exponent};
+        return answer{select(ordinary.special, large_tan(c, x), ordinary.first), not_finite(c, x)};
     }
 };
 

@@ -92,10 +92,7 @@ template <class T, int W> ORVANE_INLINE quotient<T, W> tangent_quotient(const au
     else return {f * horner(z, c.p1, c.p0), horner(z, c.q1, c.q0)};
 }
 
-template <class T, const auto& Block, auto& Rare> struct tanpi_kernel : kernel<one_argument<T>> {
-    static constexpr auto& block = Block;
-    static constexpr auto& slow_path = Rare;
-
+template <class T, const auto& Block, auto& Rare> struct tanpi_kernel : kernel<one_argument<T>, Block, Rare> {
     // tan(pi x) from a, abs(x) less a multiple of 2, up to large_limit.
     template <int W> static ORVANE_INLINE lanes<T, W> tangent(const auto& c, lanes<T, W> a, lanes<T, W> x) {
         // The last place of t is 1/2: its low bits count the halves taken out, the lowest the quarter turns.

@@ -26,8 +26,7 @@ template <class T> struct probe_out_settled : kernel<pointer_out<T>> {
         return results{plus(x, T(1)), plus(x, T(2))};
     }
 };
-template <class T> struct probe_pair : kernel<pair_result<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::one_to_two;
+template <class T> struct probe_pair : kernel<pair_result<T>, no_block, probe_rare<T>::one_to_two> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x) {
         return answer{plus(x, T(1)), plus(x, T(2)), beyond(x)};
     }
@@ -37,20 +36,17 @@ template <class T> struct probe_out : probe_pair<T> { using signature = pointer_
 // Integers: lanes out, an out-lane through a pointer, lanes in, and all of 64 bits.
 template <int W, class T> ORVANE_INLINE auto whole(lanes<T, W> x) { return truncate<int32_t>(x); }
 
-template <class T> struct probe_to_integer : kernel<to_integer<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::to_integer;
+template <class T> struct probe_to_integer : kernel<to_integer<T>, no_block, probe_rare<T>::to_integer> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x) {
         return answer{whole(x), beyond(x)};
     }
 };
-template <class T> struct probe_integer_out : kernel<pointer_out<T, int32_t>> {
-    static constexpr auto& slow_path = probe_rare<T>::integer_out;
+template <class T> struct probe_integer_out : kernel<pointer_out<T, int32_t>, no_block, probe_rare<T>::integer_out> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x) {
         return answer{plus(x, T(1)), whole(x), beyond(x)};
     }
 };
-template <class T> struct probe_with_integer : kernel<with_integer<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::with_integer;
+template <class T> struct probe_with_integer : kernel<with_integer<T>, no_block, probe_rare<T>::with_integer> {
     static constexpr double spare = 1.0;
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<int32_t, W> n) {
         return answer{x + convert<T>(n), beyond(x)};
@@ -58,32 +54,27 @@ template <class T> struct probe_with_integer : kernel<with_integer<T>> {
 };
 
 // Two and three arguments; two with an out-lane behind a pointer (four arrays).
-template <class T> struct probe_two : kernel<two_arguments<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::two;
+template <class T> struct probe_two : kernel<two_arguments<T>, no_block, probe_rare<T>::two> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<T, W> y) {
         return answer{x - y, beyond(x) | beyond(y)};
     }
 };
-template <class T> struct probe_two_out : kernel<two_pointer_out<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::two_out;
+template <class T> struct probe_two_out : kernel<two_pointer_out<T>, no_block, probe_rare<T>::two_out> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<T, W> y) {
         return answer{x - y, whole(y), beyond(x) | beyond(y)};
     }
 };
-template <class T> struct probe_three : kernel<three_arguments<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::three;
+template <class T> struct probe_three : kernel<three_arguments<T>, no_block, probe_rare<T>::three> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<T, W> y, lanes<T, W> z) {
         return answer{fma(x, y, z), beyond(x) | beyond(y) | beyond(z)};
     }
 };
 
 // No vector formula.
-template <class T> struct probe_all : kernel<one_argument<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::one;
+template <class T> struct probe_all : kernel<one_argument<T>, no_block, probe_rare<T>::one> {
     static constexpr bool all_lanes = true;
 };
-template <class T> struct probe_all_out : kernel<pointer_out<T, int32_t>> {
-    static constexpr auto& slow_path = probe_rare<T>::integer_out;
+template <class T> struct probe_all_out : kernel<pointer_out<T, int32_t>, no_block, probe_rare<T>::integer_out> {
     static constexpr bool all_lanes = true;
 };
 
@@ -114,8 +105,7 @@ template <int W, class T> ORVANE_INLINE auto not_finite(lanes<T, W> x) {
     const auto difference = x - x;
     return is_nan(difference);
 }
-template <class T> struct probe_large_after : kernel<one_argument<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::one;
+template <class T> struct probe_large_after : kernel<one_argument<T>, no_block, probe_rare<T>::one> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x) {
         return answer{plus(x, T(1)), beyond(x)};
     }
@@ -123,8 +113,7 @@ template <class T> struct probe_large_after : kernel<one_argument<T>> {
         return answer{select(ordinary.special, plus(x, T(-64)), ordinary.first), not_finite(x)};
     }
 };
-template <class T> struct probe_large_before : kernel<one_argument<T>> {
-    static constexpr auto& slow_path = probe_rare<T>::one;
+template <class T> struct probe_large_before : kernel<one_argument<T>, no_block, probe_rare<T>::one> {
     template <int W> static ORVANE_INLINE auto reduce(const auto&, lanes<T, W> x) {
         return answer{plus(x, T(1)), beyond(x)};
     }
