@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <sstream>
 
 namespace orvane {
 
@@ -63,6 +64,22 @@ private:
     std::vector<lane> top;
 };
 
+// The errors that a kernel may show: up to what was measured, rounded up, and not down to where another kernel must
+// have run: the fast ones are hundreds of times as far off as the others.
+struct allowed {
+    allowed(double measured) : most(measured), least(std::max(0.4, measured / 4)) {}
+    allowed(double most, double least) : most(most), least(least) {}
+    double most, least; // ulps
+};
+// Fed by the processor's 12-bit estimates, which differ from one processor to another.
+inline allowed fed(double measured) { return {1.1 * measured, std::max(0.4, std::sqrt(measured) / 4)}; }
+inline void expect_error(const std::string& of, const allowed& a, const worst& w) {
+    EXPECT_LE(w.ulps, a.most) << of << std::hex << " at " << w.argument << ", " << w.second;
+    EXPECT_GE(w.ulps, a.least) << of << ": nothing was measured";
+    printf("%-36s largest error %.5g ulp at %llx, %llx\n", of.c_str(), w.ulps, (unsigned long long)w.argument,
+           (unsigned long long)w.second);
+}
+
 inline worst sampled_error(sweep& f, truth& t, const words& x, extended_function reference) {
     const lane_type type = f.row().in;
     const auto& y = f({x});
@@ -98,7 +115,7 @@ void over_all_floats(sweep& f, int result, visitor visit) {
 // double function; the worst thousand are decided against the truth.
 struct float_accuracy {
     const char *name, *tier;
-    double bound; // ulps, as measured
+    allowed bound;
     double (*reference)(double);
     int result = 0;
     float from = 0;
@@ -115,10 +132,7 @@ inline void check_all_floats(const float_accuracy& a) {
             top.offer(approximate_ulps(lane_type::f32, std::bit_cast<uint32_t>(y), z), std::bit_cast<uint32_t>(y),
                       std::bit_cast<uint32_t>(x));
     });
-    const auto w = top.decided(f.row(), t, a.result);
-    EXPECT_LE(w.ulps, a.bound) << a.name << " " << a.tier << std::hex << " at " << w.argument;
-    EXPECT_GT(w.ulps, 0) << a.name << ": every float was the nearest";
-    printf("%-8s %-8s over all floats: %.4f ulp at %08x\n", a.name, a.tier, w.ulps, (unsigned)w.argument);
+    expect_error(std::string(a.name) + " " + a.tier + " over all floats", a.bound, top.decided(f.row(), t, a.result));
 }
 
 // Of results whose bits are a promise: FNV-1a over the words.
@@ -142,7 +156,7 @@ inline words spread(lane_type t, double lo, double hi, int n, bool by_exponent, 
 // One kernel's bound over ranges of its domain.
 struct accuracy {
     const char *name, *tier;
-    double bound; // ulps, as measured; kernels fed by the processor's estimate get a tenth more
+    allowed bound;
     double lo, hi;
     extended_function reference;
     bool by_exponent = false;
@@ -152,19 +166,17 @@ inline void check_accuracy(const accuracy& a) {
     sweep f(a.name, a.tier, 8);
     const lane_type type = f.row().in;
     worst w = sampled_error(f, t, spread(type, a.lo, a.hi, 1'000'000, a.by_exponent, 21), a.reference);
-    if (!a.by_exponent) { // and small ones of both signs
+    if (!a.by_exponent && a.lo <= 0 && a.hi > 0) { // and small ones of both signs
         for (double sign : {1.0, -1.0}) {
+            if (-a.lo < 1e-9 && sign < 0) continue;
             auto x = spread(type, 1e-9, std::min(1.0, a.hi), 100'000, true, 22);
             for (auto& v : x)
                 v = word_of(type, sign * value_of(type, v));
-            if (-a.lo < 1e-9 && sign < 0) continue;
             const auto s = sampled_error(f, t, x, a.reference);
             if (s.ulps > w.ulps) w = s;
         }
     }
-    EXPECT_LE(w.ulps, a.bound) << a.name << " " << a.tier << " at " << std::hex << w.argument;
-    EXPECT_GT(w.ulps, 0.4) << a.name << ": nothing was measured";
-    printf("%-8s %-8s largest error %.4g ulp\n", a.name, a.tier, w.ulps);
+    expect_error((std::stringstream() << a.name << " " << a.tier << " from " << a.lo).str(), a.bound, w);
 }
 
 } // namespace orvane

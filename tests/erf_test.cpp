@@ -61,23 +61,18 @@ TEST(ErrorFunctionsSlowPath, StatusAndResult) {
 // the unit is that of subnormals.
 TEST(ErrorFunctionsAccuracy, Accuracy) {
     for (const accuracy& a : {
-             accuracy{"erf", "default", 2.48, 0, 6, erfl},
-             {"erf", "native", 3.3e5, 0, 6, erfl},
-             {"erff", "default", 1.92, 0, 4, erfl},
-             {"erff", "native", 4100, 0, 4, erfl},
-             {"erfc", "default", 2.08, -6, 26.5, erfcl},
-             {"erfc", "native", 6.9e6, -6, 26.5, erfcl},
-             {"erfcf", "default", 1.62, -4, 9.19, erfcl},
-             {"erfcf", "native", 406, -4, 9.19, erfcl},
+             accuracy{"erf", "default", 2.4, 0, 6, erfl},
+             {"erf", "native", 3.15e5, 0, 6, erfl},
+             {"erff", "default", 1.91, 0, 4, erfl},
+             {"erff", "native", 4097, 0, 4, erfl},
+             {"erfc", "default", 2.03, -6, 26.5, erfcl},
+             {"erfc", "native", 6.81e6, -6, 26.5, erfcl},
+             {"erfcf", "default", 1.6, -4, 9.19, erfcl},
+             {"erfcf", "native", 403, -4, 9.19, erfcl},
+             {"erfc", "default", 0.839, 26.55, 27.2260171, erfcl}, // subnormal results
+             {"erfcf", "default", 1.02, 9.2, 10.0541944, erfcl},
          })
         check_accuracy(a);
-    truth t;
-    for (auto [name, lo, hi, bound] : {std::tuple{"erfc", 26.55, 27.2260171, 0.9}, {"erfcf", 9.2, 10.0541944, 1.1}}) {
-        sweep f(name);
-        const auto w = sampled_error(f, t, spread(f.row().in, lo, hi, 100'000, false, 23), erfcl);
-        EXPECT_LE(w.ulps, bound) << name << " at " << std::hex << w.argument;
-        printf("%-8s subnormal largest error %.4g ulp\n", name, w.ulps);
-    }
 }
 
 TEST(ErrorFunctionsAccuracy, LongEveryFloat) {

@@ -9,10 +9,6 @@ namespace {
 template <class T> class Manipulation : public testing::Test {};
 TYPED_TEST_SUITE(Manipulation, floating_types);
 
-template <class T> constexpr uint64_t infinity_word = sizeof(T) == 8 ? 0x7FF0000000000000 : 0x7F800000;
-template <class T> constexpr uint64_t quiet_bit = sizeof(T) == 8 ? 0x0008000000000000 : 0x00400000;
-template <class T> constexpr uint64_t sign_word = sizeof(T) == 8 ? 0x8000000000000000 : 0x80000000;
-
 // Every power of two with its neighbours, of both signs, and random patterns.
 template <class T> words telling(const kernel_row& row, rng& r) {
     using limits = std::numeric_limits<T>;
@@ -72,7 +68,8 @@ TYPED_TEST(Manipulation, LdexpRoundsOnce) {
     const T third = T(1) / 3, least = std::numeric_limits<T>::denorm_min();
     const int down_there = std::ilogb(least) + 1;
     for (auto [mode, steps] : {std::pair{to_even, 1}, {down, 0}, {up, 1}, {to_zero, 0}}) {
-        const auto z = by_single_lanes({&f.row(), &library_under_test()}, {{word(third)}, {(uint32_t)down_there}}, mode);
+        const words lane = {word(third)}, by = {(uint32_t)down_there};
+        const auto z = by_single_lanes({&f.row(), &library_under_test()}, {lane, by}, mode);
         EXPECT_EQ(number<T>(z[0][0]), steps * least);
     }
 }

@@ -8,9 +8,6 @@ namespace {
 template <class T> class Remainder : public testing::Test {};
 TYPED_TEST_SUITE(Remainder, floating_types);
 
-template <class T> constexpr uint64_t infinity_word = sizeof(T) == 8 ? 0x7FF0000000000000 : 0x7F800000;
-template <class T> constexpr uint64_t invalid_word = sizeof(T) == 8 ? 0x7FF8000000000000 : 0x7FC00000;
-template <class T> constexpr uint64_t sign_word = sizeof(T) == 8 ? 0x8000000000000000 : 0x80000000;
 template <class T> constexpr int path_limit = sizeof(T) == 8 ? 25 : 11; // exponents further apart: the slow path
 
 // MPFR's results, every one of which is a number of the type.
@@ -113,7 +110,7 @@ TYPED_TEST(Remainder, InNumbers) {
 // invalid.
 TYPED_TEST(Remainder, WithoutARemainder) {
     using T = TypeParam;
-    const uint64_t infinity = infinity_word<T>, sign = sign_word<T>, quiet = invalid_word<T>, one = word(T(1));
+    const uint64_t infinity = infinity_word<T>, sign = sign_word<T>, quiet = infinity | quiet_bit<T>, one = word(T(1));
     const uint64_t nan = infinity | 5 | sign, other_nan = infinity | 9;
     const uint64_t by_division = sizeof(T) == 8 ? quiet | sign : quiet;
     struct expectation {

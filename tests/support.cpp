@@ -147,7 +147,27 @@ subject subject_of(std::string_view name, std::string_view tier) {
     if (!row || !row->built) throw std::runtime_error("not built: " + std::string(name));
     return {row, &library_under_test()};
 }
+std::vector<uint64_t> lane_of(const kernel_row& row, double x, double y) {
+    std::vector<uint64_t> lane{word_of(row.argument(0), x)};
+    if (row.arguments() > 1) lane.push_back(word_of(row.argument(1), y));
+    return lane;
+}
 } // namespace
+
+uint64_t word_for(std::string_view name, std::string_view tier, double x, double y) {
+    const subject s = subject_of(name, tier);
+    std::vector<words> arguments;
+    for (uint64_t w : lane_of(*s.row, x, y))
+        arguments.push_back({w});
+    return by_single_lanes(s, arguments)[0][0];
+}
+double value_for(std::string_view name, std::string_view tier, double x, double y) {
+    return value_of(subject_of(name, tier).row->result(0), word_for(name, tier, x, y));
+}
+int status_for(std::string_view name, std::string_view tier, double x, double y) {
+    const kernel_row& row = *subject_of(name, tier).row;
+    return call_slow_path(library_under_test(), row, lane_of(row, x, y)).status;
+}
 
 sweep::sweep(std::string_view name, std::string_view tier, int width)
     : s(subject_of(name, tier)), call(s.caller(width)) {}

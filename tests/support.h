@@ -62,6 +62,25 @@ struct slow_result {
 slow_result call_slow_path(object& in, const kernel_row& row, const std::vector<uint64_t>& lane,
                            uint64_t result_before = 0);
 
+// One lane by its values, which are rounded to the types of the arguments: the first result's word or value, and the
+// status that the slow path tells. A kernel of one argument does not look at y.
+uint64_t word_for(std::string_view name, std::string_view tier, double x, double y = 0);
+double value_for(std::string_view name, std::string_view tier, double x, double y = 0);
+int status_for(std::string_view name, std::string_view tier, double x, double y = 0);
+inline uint64_t quiet_nan(lane_type t, bool negative = false) {
+    return t == lane_type::f64 ? 0x7FF8000000000000 | uint64_t(negative) << 63
+                               : 0x7FC00000 | uint64_t(negative) << 31;
+}
+
+// f(tier) for the tiers that a function has.
+template <class F> void each_tier(std::string_view name, F f) {
+    for (auto tier : {"default", "rm", "native", "half"})
+        if (find_row(library_rows(), name, tier)) {
+            SCOPED_TRACE(std::string(name) + " " + tier);
+            f(tier);
+        }
+}
+
 // All lanes of an export at width 8 or 16, for sweeps: arguments and results lane by lane.
 class sweep {
 public:

@@ -19,6 +19,10 @@ template <class T> T number(uint64_t w) {
     if constexpr (sizeof(T) == 4) return std::bit_cast<T>((uint32_t)w);
     else return std::bit_cast<T>(w);
 }
+template <class T> constexpr uint64_t infinity_word = sizeof(T) == 8 ? 0x7FF0000000000000 : 0x7F800000;
+template <class T> constexpr uint64_t quiet_bit = sizeof(T) == 8 ? 0x0008000000000000 : 0x00400000;
+template <class T> constexpr uint64_t sign_word = sizeof(T) == 8 ? 0x8000000000000000 : 0x80000000;
+
 // One lane through width 1, with values instead of words.
 template <class T, class... A> std::vector<uint64_t> words_of(const std::string& base, uint32_t mxcsr, A... a) {
     const kernel_row* row = find_row(library_rows(), member<T>(base), "default");
