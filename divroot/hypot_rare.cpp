@@ -29,11 +29,9 @@ double scaled_hypot(double x, double y) {
 }
 
 template <class T> int hypot_rare(T x, T y, T* result) {
-    const bool x_not_finite = biased_exponent(x) == top_exponent<T>,
-               y_not_finite = biased_exponent(y) == top_exponent<T>;
     // An infinity wins over a NaN, the first NaN over the second.
-    if (x_not_finite && (x == x || y != y || !y_not_finite)) *result = x * x;
-    else if (y_not_finite) *result = y * y;
+    if (is_infinite(x) || is_infinite(y)) *result = T(__builtin_inf());
+    else if (is_nan(x) || is_nan(y)) *result = nan_of(x, y);
     else if (x == 0 && y == 0) *result = 0;
     else *result = T(scaled_hypot(x, y));
     return ordinary;

@@ -44,11 +44,14 @@ inline double tiny_sine(double x) {
 }
 inline double tiny_cosine(double x) { return 1.0 - __builtin_fabs(x); }
 
-// Infinities and NaN, of which all circular functions make a NaN; false for finite x.
+// Infinities and NaN, of which all circular functions make a NaN; false for finite x. Of a quiet NaN without the invalid
+// flag.
 template <class T> bool circular_of_not_finite(T x, T* result, int* code) {
-    if (x - x == 0) return false;
-    *code = x != x ? ordinary : domain_error;
-    *result = x != x ? x * x : x * T(0);
+    if (biased_exponent(x) != top_exponent<T>) return false;
+    if (is_nan(x))
+        *result = x * x, *code = ordinary;
+    else
+        *result = x * T(0), *code = domain_error;
     return true;
 }
 
