@@ -233,7 +233,7 @@ struct dcbrt_kernel : kernel<one_argument<double>, Block, Rare> {
         auto sign_and_base = (top & long_lanes<W>(c.sign_word)) | long_lanes<W>(c.exp_base);
         auto scale = as<double>((Reciprocal ? sign_and_base - q : sign_and_base + q) << 52);
         if constexpr (requires { c.root_pairs; }) {
-            auto [hi, lo] = lookup_pair<double>(&c.root_pairs, (rem << 9) + (i >> 43));
+            auto [hi, lo] = lookup_pair_bytes<double>(&c.root_pairs, (rem << 9) + (i >> 43));
             V TS = hi * scale, LS = lo * scale;
             return answer{TS + (LS + TS * u * root_polynomial(c, u)), special};
         } else {
@@ -282,7 +282,7 @@ template <const auto& Block> struct scbrt_kernel : kernel<one_argument<float>, B
         lane_bits<W> special_bits = special;
         auto scale = as<float>(((q + c.exp_base_f) | sign) << 23);
         if constexpr (requires { c.root_pairs_f; }) {
-            auto [hi, lo] = lookup_pair<float>(&c.root_pairs_f, offset);
+            auto [hi, lo] = lookup_pair_bytes<float>(&c.root_pairs_f, offset);
             V TS = hi * scale, LS = lo * scale;
             return answer{TS + (LS + root_polynomial(c, u) * (u * TS)), special_bits};
         } else {
@@ -312,7 +312,7 @@ template <const auto& Block> struct sinvcbrt_kernel : kernel<one_argument<float>
         lane_bits<W> special_bits = special;
         auto scale = as<float>(((sign | c.exp_base_f) - q) << 23);
         if constexpr (requires { c.root_pairs_f; }) {
-            auto [hi, lo] = lookup_pair<float>(&c.root_pairs_f, offset);
+            auto [hi, lo] = lookup_pair_bytes<float>(&c.root_pairs_f, offset);
             V HS = hi * scale, LS = lo * scale;
             return answer{HS + fma(root_polynomial(c, u), u * HS, LS), special_bits};
         } else {

@@ -52,7 +52,7 @@ struct exp_pairs : kernel<one_argument<double>, __orvane_dexp_data, __orvane_dex
         // The last place of u is 2^-4: its pattern holds 16 n, the byte offset of entry n mod 64 and above it floor(n
         // / 64).
         auto u = bits(n + c.index_shifter);
-        auto [hi, lo] = lookup_pair<double>(&c.exp2_pairs, u & c.offset_mask);
+        auto [hi, lo] = lookup_pair_bytes<double>(&c.exp2_pairs, u & c.offset_mask);
         auto exponent = andnot(lanes<uint64_t, W>(c.offset_mask), u) << 42;
 
         auto r = fma(-n, c.ln2_64_hi, x);

@@ -73,7 +73,7 @@ template <class T, const auto& Block, auto& Rare> struct exp10_by_table : kernel
         auto n = t - c.shifter;
         auto r = fma(-n, c.log10_2_hi, x);
         r = fma(-n, c.log10_2_lo, r);
-        auto [hi, lo] = lookup_pair<T>(&c.exp2_pairs, pair_offset(c, t));
+        auto [hi, lo] = lookup_pair<T>(&c.exp2_pairs, pair_index(c, t));
         auto q = r * table_polynomial(c, r);
         auto y = hi + fma(q, hi, lo);
         return answer{add_exponent(y, exponent(c, bits(t))), beyond_limit(c, x)};

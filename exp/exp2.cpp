@@ -65,7 +65,7 @@ template <class T, const auto& Block, auto& Rare> struct exp2_by_table : kernel<
         auto t = x + c.shifter;
         auto n = t - c.shifter;
         auto r = x - n;
-        auto [hi, lo] = lookup_pair<T>(&c.exp2_pairs, pair_offset(c, t));
+        auto [hi, lo] = lookup_pair<T>(&c.exp2_pairs, pair_index(c, t));
         auto q = r * table_polynomial(c, r);
         auto y = hi + fma(q, hi, lo);
         auto exponent = (bits(t) << (sizeof(T) == 8 ? 46 : 17)) & c.exponent_mask;

@@ -31,12 +31,12 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> add_exponent(lanes<T, W> y, 
     return as<T>(bits(y) + exponent);
 }
 
-// The byte offset of the pair (hi, lo) whose number the low bits of t are.
-template <class Block, int W> ORVANE_INLINE auto pair_offset(const Block& c, lanes<double, W> t) {
-    return (low_words(t) & c.index_mask) << 4;
+// The number of the pair (hi, lo): the low bits of t.
+template <class Block, int W> ORVANE_INLINE auto pair_index(const Block& c, lanes<double, W> t) {
+    return low_words(t) & c.index_mask;
 }
-template <class Block, int W> ORVANE_INLINE auto pair_offset(const Block& c, lanes<float, W> t) {
-    return (bits(t) & c.index_mask) << 3;
+template <class Block, int W> ORVANE_INLINE auto pair_index(const Block& c, lanes<float, W> t) {
+    return bits(t) & c.index_mask;
 }
 
 // (b^r - 1) / r, of degree 4 in double and 1 in float.

@@ -106,7 +106,7 @@ template <class T, const auto& Block, auto& Rare> struct expm1_compensated : ker
 
         in_turn(R, n); // the polynomial's registers are free again
         auto u = n + c.index_shifter;
-        auto [m, lo] = lookup_pair<T>(&c.exp2_split, entry_offset(c, u));
+        auto [m, lo] = lookup_pair_bytes<T>(&c.exp2_split, entry_offset(c, u));
         auto power = as<T>(power_of_two_bits < sizeof(T) == 8 ? 41 : 14 > (c, u));
         auto A = power | m;
         auto B = finished(lo * power);

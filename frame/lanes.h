@@ -507,6 +507,26 @@ template <class T> ORVANE_INLINE T load(const void* at) {
     __builtin_memcpy(&x, at, sizeof x);
     return x;
 }
+// Where the entries of the lanes lie: `Scale` times the index above a base.
+struct two_addresses { const char *first, *second; };
+template <int Scale, class I, int W> struct addresses {
+    const char* base;
+    typename lanes<I, W>::raw index;
+
+    ORVANE_INLINE addresses(const void* base, lanes<I, W> index)
+        : base((const char*)base), index(in_register(index.v)) {} // elements of a variable would keep it in memory
+    ORVANE_INLINE const char* operator()(int i) const { return base + Scale * int64_t(index[i]); }
+    // Of lanes i and i + 1. Short indices leave their register two at a time: the way to a general register is narrow.
+    ORVANE_INLINE two_addresses two(int i) const {
+        if constexpr (W >= 3 && sizeof(I) == 4) {
+            using word = std::conditional_t<std::is_signed_v<I>, int64_t, uint64_t>;
+            using words = std::conditional_t<W == 8, __v4di, __v2di>;
+            word both = ((words)index)[i / 2];
+            asm("" : "+r"(both));
+            return {base + Scale * int64_t(I(both)), base + Scale * int64_t(both >> 32)};
+        } else return {(*this)(i), (*this)(i + 1)};
+    }
+};
 // Each entry goes from memory to its lane: left to itself the compiler takes some through further registers.
 template <class T, int W, class At> ORVANE_INLINE lanes<T, W> assemble(At at) {
     using V = lanes<T, W>;
@@ -514,16 +534,21 @@ template <class T, int W, class At> ORVANE_INLINE lanes<T, W> assemble(At at) {
     if constexpr (W == 1) return V(load<T>(at(0)));
     else if constexpr (sizeof(T) == 8) {
         auto two = [&](int i) ORVANE_LAMBDA {
-            return _mm_loadh_pd(_mm_load_sd((const double*)at(i)), (const double*)at(i + 1));
+            const auto [p, q] = at.two(i);
+            return _mm_loadh_pd(_mm_load_sd((const double*)p), (const double*)q);
         };
         const __m128d low = two(0);
         if constexpr (V::is_wide) return V((raw)_mm256_set_m128d(two(2), low));
         else return V((raw)low);
     } else {
-        auto word = [&](int i) ORVANE_LAMBDA { return load<int32_t>(at(i)); };
-        auto two = [&](int i) ORVANE_LAMBDA { return _mm_insert_epi32(_mm_cvtsi32_si128(word(i)), word(i + 1), 1); };
+        auto two = [&](int i) ORVANE_LAMBDA {
+            const auto [p, q] = at.two(i);
+            return _mm_insert_epi32(_mm_cvtsi32_si128(load<int32_t>(p)), load<int32_t>(q), 1);
+        };
         auto four = [&](int i) ORVANE_LAMBDA {
-            return _mm_insert_epi32(_mm_insert_epi32(two(i), word(i + 2), 2), word(i + 3), 3);
+            const __m128i low = two(i);
+            const auto [p, q] = at.two(i + 2);
+            return _mm_insert_epi32(_mm_insert_epi32(low, load<int32_t>(p), 2), load<int32_t>(q), 3);
         };
         if constexpr (W == 2) {
             const __m128i both = two(0);
@@ -537,52 +562,59 @@ template <class T, int W, class At> ORVANE_INLINE lanes<T, W> assemble(At at) {
 }
 } // namespace detail
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup(const T* table, lanes<I, W> index) {
-    const auto at = detail::in_register(index.v); // elements taken out of a variable would keep it in memory
-    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return table + at[i]; });
+    return detail::assemble<T, W>(detail::addresses<sizeof(T), I, W>(table, index));
 }
 // The same at byte offsets from a base, for indices that come scaled out of the bits of a sum.
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup_bytes(const void* base, lanes<I, W> offset) {
-    const auto at = detail::in_register(offset.v);
-    return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return (const char*)base + at[i]; });
+    return detail::assemble<T, W>(detail::addresses<1, I, W>(base, offset));
 }
 // Pairs (first, second) that stand side by side: one load of both a lane.
 template <class T, int W> struct lane_pair { lanes<T, W> first, second; };
 namespace detail {
 template <class T, int W, class At> ORVANE_INLINE lane_pair<T, W> assemble_pair(At at) {
     using V = lanes<T, W>;
-    if constexpr (W == 1) return {V(load<T>(at(0))), V(load<T>(at(0) + sizeof(T)))};
+    if constexpr (W == 1) {
+        const char* p = at(0);
+        return {V(load<T>(p)), V(load<T>(p + sizeof(T)))};
+    }
     else if constexpr (sizeof(T) == 8) {
-        auto pair = [&](int i) ORVANE_LAMBDA { return _mm_loadu_pd((const double*)at(i)); };
-        __m128d p0 = pair(0), p1 = pair(1);
+        auto pair = [](const char* p) ORVANE_LAMBDA { return _mm_loadu_pd((const double*)p); };
+        const auto [a0, a1] = at.two(0);
+        __m128d p0 = pair(a0), p1 = pair(a1);
         if constexpr (W == 2)
             return {V((typename V::raw)_mm_unpacklo_pd(p0, p1)), V((typename V::raw)_mm_unpackhi_pd(p0, p1))};
         else {
-            __m256d p02 = _mm256_set_m128d(pair(2), p0), p13 = _mm256_set_m128d(pair(3), p1);
+            const auto [a2, a3] = at.two(2);
+            __m256d p02 = _mm256_set_m128d(pair(a2), p0), p13 = _mm256_set_m128d(pair(a3), p1);
             return {V((typename V::raw)_mm256_unpacklo_pd(p02, p13)),
                     V((typename V::raw)_mm256_unpackhi_pd(p02, p13))};
         }
     } else {
         // Two 8-byte pairs fill 128 bits (a0 a1 b0 b1); a shuffle of two such gives the firsts and the seconds.
-        auto two = [&](int i, int j) ORVANE_LAMBDA {
-            return (__m128)_mm_loadh_pd(_mm_load_sd((const double*)at(i)), (const double*)at(j));
+        auto two = [&](int i) ORVANE_LAMBDA {
+            const auto [p, q] = at.two(i);
+            return (__m128)_mm_loadh_pd(_mm_load_sd((const double*)p), (const double*)q);
         };
         if constexpr (W == 2) {
-            __m128 p = two(0, 1);
+            __m128 p = two(0);
             return {V((typename V::raw)_mm_shuffle_ps(p, p, 0x88)), V((typename V::raw)_mm_shuffle_ps(p, p, 0xDD))};
         } else if constexpr (W == 8) {
-            __m256 p = _mm256_set_m128(two(4, 5), two(0, 1)), q = _mm256_set_m128(two(6, 7), two(2, 3));
+            __m256 p = _mm256_set_m128(two(4), two(0)), q = _mm256_set_m128(two(6), two(2));
             return {V((typename V::raw)_mm256_shuffle_ps(p, q, 0x88)),
                     V((typename V::raw)_mm256_shuffle_ps(p, q, 0xDD))};
         } else {
-            __m128 p = two(0, 1), q = two(2, 3);
+            __m128 p = two(0), q = two(2);
             return {V((typename V::raw)_mm_shuffle_ps(p, q, 0x88)), V((typename V::raw)_mm_shuffle_ps(p, q, 0xDD))};
         }
     }
 }
 } // namespace detail
-template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(const void* base, lanes<I, W> offset) {
-    const auto offsets = detail::in_register(offset.v);
-    return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return (const char*)base + offsets[i]; });
+template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair_bytes(const void* base, lanes<I, W> offset) {
+    return detail::assemble_pair<T, W>(detail::addresses<1, I, W>(base, offset));
+}
+template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(const void* base, lanes<I, W> index) {
+    if constexpr (sizeof(T) == 8) return lookup_pair_bytes<T>(base, index << 4); // an address scales by 8
+    else return detail::assemble_pair<T, W>(detail::addresses<8, I, W>(base, index));
 }
 
 // Four floats that stand side by side: one load of all a lane, and a transposition.
@@ -622,30 +654,40 @@ template <int W> struct row_addresses {
     const char* row[rows];
 
     template <class I> ORVANE_INLINE row_addresses(const void* base, lanes<I, W> offset) {
-        const auto offsets = detail::in_register(offset.v);
-        each<rows>([&](auto i) ORVANE_LAMBDA { row[i] = (const char*)base + offsets[+i]; });
+        const detail::addresses<1, I, W> at(base, offset);
+        if constexpr (W == 1) row[0] = at(0);
+        else
+            each<rows / 2>([&](auto i) ORVANE_LAMBDA {
+                const auto [p, q] = at.two(2 * i);
+                row[2 * i] = p, row[2 * i + 1] = q;
+            });
     }
     template <class T> ORVANE_INLINE lanes<T, W> entry(int number) const {
-        return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return at<T>(i, number); });
+        return detail::assemble<T, W>(column{row, (int)sizeof(T) * number});
     }
     template <class T> ORVANE_INLINE lane_pair<T, W> pair(int number) const {
-        return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return at<T>(i, number); });
+        return detail::assemble_pair<T, W>(column{row, (int)sizeof(T) * number});
     }
     // The same by name, the rows being structs.
     template <class T, class Row> ORVANE_INLINE lanes<T, W> entry(T Row::*field) const {
-        return detail::assemble<T, W>([&](int i) ORVANE_LAMBDA { return at(i, field); });
+        return detail::assemble<T, W>(column{row, offset_of(field)});
     }
     template <class T, class Row> ORVANE_INLINE lane_pair<T, W> pair(T Row::*first) const {
-        return detail::assemble_pair<T, W>([&](int i) ORVANE_LAMBDA { return at(i, first); });
+        return detail::assemble_pair<T, W>(column{row, offset_of(first)});
     }
     template <class Row> ORVANE_INLINE lane_four<W> four(float Row::*first) const {
-        return detail::assemble_four<W>([&](int i) ORVANE_LAMBDA { return at(i, first); });
+        return detail::assemble_four<W>(column{row, offset_of(first)});
     }
 
 private:
-    template <class T> ORVANE_INLINE const char* at(int i, int number) const { return row[i] + sizeof(T) * number; }
-    template <class T, class Row> ORVANE_INLINE const char* at(int i, T Row::*field) const {
-        return (const char*)&(((const Row*)row[i])->*field);
+    struct column {
+        const char* const* row;
+        int offset;
+        ORVANE_INLINE const char* operator()(int i) const { return row[i] + offset; }
+        ORVANE_INLINE detail::two_addresses two(int i) const { return {(*this)(i), (*this)(i + 1)}; }
+    };
+    template <class T, class Row> ORVANE_INLINE int offset_of(T Row::*field) const {
+        return int((const char*)&(((const Row*)row[0])->*field) - row[0]);
     }
 };
 

@@ -155,7 +155,7 @@ template <int W> ORVANE_INLINE sinh_and_cosh<lanes<float, W>> of_power(const aut
 template <int W> ORVANE_INLINE sinh_and_cosh<lanes<double, W>> of_power(const dsinh_block& c, lanes<double, W> t) {
     auto j = bits(t) & c.index_mask;
     auto e = (bits(t) ^ j) << 45;
-    auto [T0, T1] = lookup_pair<double>(&c.rows, j << 4);
+    auto [T0, T1] = lookup_pair_bytes<double>(&c.rows, j << 4);
     auto A = as<double>(bits(T0) + e), B = as<double>(bits(T1) + e), D = as<double>(bits(T1) - e);
     auto Cs = B + D, Sd = B - D;
     return {A + Sd, A + Cs};

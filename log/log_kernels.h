@@ -37,7 +37,7 @@ template <int W> ORVANE_INLINE lanes<float, W> reciprocal(lanes<float, W> m) { r
 // of pairs, so that one base serves.
 template <int Shift, int Bias, class T, int W>
 ORVANE_INLINE lane_pair<T, W> pair_of_bits(const auto& block, lanes<T, W> c) {
-    return lookup_pair<T>((const char*)&block - Bias, bits(c) >> Shift);
+    return lookup_pair_bytes<T>((const char*)&block - Bias, bits(c) >> Shift);
 }
 template <int Shift, int Bias, int W>
 ORVANE_INLINE lanes<double, W> single_of_bits(const auto& block, lanes<double, W> c) {

@@ -77,7 +77,7 @@ template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs : ker
         auto m = (ax & c.mant_mask) | c.one;
         auto i = bits(in_lanes<int64_t, W>((hw & c.idx_mask) + c.idx_round)) >> 42;
         auto r = lookup(c.rcp_tab.entry, i);
-        auto [Th, Tl] = lookup_pair<double>(&c.log_tab, i << 4);
+        auto [Th, Tl] = lookup_pair<double>(&c.log_tab, i);
         auto kd = (in_lanes<double, W>(((hw - c.k_base) >> 20) + c.k_word) & c.hi_mask) - c.k_shifter;
         auto A = Th + kd;
 
@@ -106,7 +106,7 @@ template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs : ker
                                Front::out_of_domain(x, n);
 
         auto N = H + c.ex_shifter;
-        auto [T, To] = lookup_pair<double>(&c.exp_pairs, (low_words(N) & c.j_mask) << 4);
+        auto [T, To] = lookup_pair<double>(&c.exp_pairs, low_words(N) & c.j_mask);
         auto scale = in_lanes<double, W>(words_in_place<int32_t>(bits(N) << 45) + c.exp_bias) & c.exp_mask;
         auto rr = (H - (N - c.ex_shifter)) + B;
         auto y = Front::power_of_two(c, rr, T, To, scale);

@@ -40,8 +40,8 @@ template <class T, int W> ORVANE_INLINE grid_point<T, W> nearest_grid_point(cons
     return {x0, X - x0, t};
 }
 template <class T, int W> ORVANE_INLINE lane_pair<T, W> value_and_slope_at(const auto& c, lanes<T, W> sum) {
-    if constexpr (sizeof(T) == 8) return lookup_pair<T>(&c.grid, (bits(sum) << 4) & c.idx_mask);
-    else return lookup_pair<T>(&c.grid, (bits(sum) - bits(lanes<T, W>(c.shifter))) << 3);
+    if constexpr (sizeof(T) == 8) return lookup_pair_bytes<T>(&c.grid, (bits(sum) << 4) & c.idx_mask);
+    else return lookup_pair<T>(&c.grid, bits(sum) - bits(lanes<T, W>(c.shifter)));
 }
 
 } // namespace orvane
