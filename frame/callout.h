@@ -106,7 +106,8 @@ call_out(const Arguments& arguments_of, R (&r)[N], unsigned mask, Wrapper* wrapp
     constexpr int results = std::tuple_size_v<R>;
 
     constexpr int pointers = slow_path_of<K>::count;
-    static_assert(pointers == arguments + results);
+    static_assert(pointers == arguments + results, "a slow path takes its arguments and its results by pointers");
+    static_assert(!std::is_same_v<Wrapper, void()>, "a kernel with special lanes is exported by ORVANE_EXPORT");
     // One array an argument and one a result, each on a boundary of 64 bytes. An int array has 4-byte lanes.
     alignas(64) unsigned char array[pointers][(L::widest * stored(W) + 63) / 64 * 64];
 
@@ -114,6 +115,7 @@ call_out(const Arguments& arguments_of, R (&r)[N], unsigned mask, Wrapper* wrapp
         const auto x = arguments_of(i);
         each<arguments>([&](auto j) ORVANE_LAMBDA {
             using T = typename S::arguments::template at<j>;
+            static_assert(std::is_same_v<callout_pointer<K, j>, const T*>, "the slow path reads another type");
             store_lanes<T, C>((T*)array[j] + C * i, std::get<j>(x));
         });
         if constexpr (!calls_for_all_lanes<K>)
@@ -148,6 +150,7 @@ call_out(const Arguments& arguments_of, R (&r)[N], unsigned mask, Wrapper* wrapp
         each<results>([&](auto j) ORVANE_LAMBDA {
             using V = std::tuple_element_t<j, R>;
             using T = typename V::element;
+            static_assert(std::is_same_v<callout_pointer<K, arguments + j>, T*>, "the slow path stores another type");
             std::get<j>(r[i]) = load_lanes<T, C>((T*)array[arguments + j] + C * i);
         });
     });

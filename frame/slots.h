@@ -16,6 +16,9 @@ inline constexpr int slot_bytes = 64;
 // A value of type T from its bit pattern.
 template <class T> constexpr T from_bits(uint_of<T> pattern) { return std::bit_cast<T>(pattern); }
 
+// Not constant, so that a block with such an entry does not compile.
+void entry_has_more_bits_than_the_slots_type();
+
 // One cell of E entries repeated over it; E = 1 is a replicated constant. Entries are bit patterns.
 template <class T, int E> struct alignas(slot_bytes) slot {
     static constexpr int count = slot_bytes / sizeof(T);
@@ -23,6 +26,11 @@ template <class T, int E> struct alignas(slot_bytes) slot {
 
     template <class... B> consteval slot(B... patterns) {
         static_assert(sizeof...(B) == E && count % E == 0);
+        static_assert((std::is_integral_v<B> && ...), "entries are bit patterns, not values");
+        ((B(uint_of<T>(patterns)) == patterns || B(int_of<T>(patterns)) == patterns
+              ? void()
+              : entry_has_more_bits_than_the_slots_type()),
+         ...);
         const uint_of<T> entries[] = {uint_of<T>(patterns)...};
         for (int i = 0; i < count; i++)
             lane[i] = from_bits<T>(entries[i % E]);

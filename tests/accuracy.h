@@ -39,11 +39,14 @@ public:
     worst decided(const kernel_row& row, truth& t, int result = 0) {
         if (top.size() > keep) cut();
         worst w;
+        bool known = top.empty();
         for (const auto& lane : top)
             if (t(row, lane.arguments)) {
+                known = true;
                 const double exact = t.error(result, row.out, lane.result);
                 if (exact > w.ulps) w = {exact, lane.arguments[0], lane.arguments[1]};
             }
+        if (!known) ADD_FAILURE() << "tools/truth.cpp knows no value of " << row.name;
         return w;
     }
 

@@ -1,6 +1,7 @@
 // What call.hpp lets the compiler keep across a call, and the declarations of orvane.h. (That both call every export
 // right is in exports_test.)
 #include "include/orvane/call.hpp"
+#define ORVANE_CALLED_WITH_AVX
 #include "include/orvane/orvane.h"
 #include "tests/support.h"
 

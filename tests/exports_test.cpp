@@ -1,25 +1,19 @@
 // What callers get of the list of exports: each of its forms is called by itself and must lead to the same lanes.
 #include "include/orvane/call.hpp"
 #include "support.h"
+#include "tools/whole_file.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <set>
-#include <sstream>
 
 using namespace orvane;
 using json = nlohmann::json;
 
 namespace {
 
-std::string contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::stringstream s;
-    s << file.rdbuf();
-    return s.str();
-}
 int run(const std::string& command) { return std::system((std::string(ORVANE_TOOL_FOLDER) + "/" + command).c_str()); }
 
 TEST(List, CountsWhatThereIs) {
@@ -29,12 +23,6 @@ TEST(List, CountsWhatThereIs) {
     int memory = 0, slow = 0;
     for (const auto& row : rows) {
         slow += row.has_slow_path();
-        if (!row.twin_name.empty()) {
-            const kernel_row* of = find_row(rows, row.twin_name, row.twin_tier);
-            ASSERT_NE(of, nullptr) << row.name;
-            EXPECT_LT(of, &row) << row.name << row.suffix() << " names a twin that comes later";
-            EXPECT_TRUE(of->twin_name.empty()) << row.name << row.suffix() << " names a twin of a twin";
-        }
         for (int w : widths) {
             const auto p = plan_of(row, w);
             symbols.insert(p.symbol);
@@ -42,9 +30,60 @@ TEST(List, CountsWhatThereIs) {
             EXPECT_EQ(plan_of(rows, p.symbol).symbol, p.symbol) << "a symbol is read from its end";
         }
     }
-    EXPECT_EQ(symbols.size(), 2328u);
+    EXPECT_EQ(symbols.size(), 6 * rows.size());
     EXPECT_EQ(memory, 39);
     EXPECT_EQ(slow, 226);
+}
+
+// Each mistake in one column is refused by a line that names the row and the mistake.
+TEST(List, RefusesWhatDoesNotFit) {
+    struct columns {
+        std::string_view state = "built", tier = "default", sclass = "one_argument", special = "none", twin = "none";
+        std::array<double, 4> range = {0, 1, 0, 1};
+        kernel_row row() const {
+            return list::row(state, "f", tier, sclass, "f32", "f32", "none", 0, "callout", range, special, twin, "");
+        }
+    };
+    auto refusal = [](auto build) -> std::string {
+        try {
+            build();
+        } catch (const std::invalid_argument& e) {
+            return e.what();
+        }
+        return "";
+    };
+    const std::pair<columns, const char*> mistakes[] = {{{.state = "bult"}, "no state 'bult'"},
+                                                        {{.tier = "fast"}, "no tier 'fast'"},
+                                                        {{.sclass = "one"}, "no class 'one'"},
+                                                        {{.special = "0x7FC000001"}, "more than 32 bits"},
+                                                        {{.special = "1, 2"}, "not one pattern an argument"},
+                                                        {{.twin = "f"}, "is not twin(name, tier)"},
+                                                        {{.range = {1, 0, 1, 0}}, "a range from a larger"}};
+    for (const auto& [wrong, why] : mistakes)
+        EXPECT_NE(refusal([&] { wrong.row(); }).find(why), std::string::npos) << why;
+    const kernel_row plain = columns{}.row(), native = columns{.tier = "native", .twin = "f,default"}.row();
+    EXPECT_EQ(refusal([&] { list::checked({plain, native}); }), "");
+    EXPECT_NE(refusal([&] { list::checked({plain, plain}); }).find("twice"), std::string::npos);
+    EXPECT_NE(refusal([&] { list::checked({native, plain}); }).find("earlier row"), std::string::npos);
+}
+
+// A file with the same contents keeps its time, and one that cannot be written leaves nothing beside it.
+TEST(Written, WholeOrNotAtAll) {
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::path(testing::TempDir()) / "orvane_written", file = folder / "file";
+    fs::remove_all(folder);
+    write_whole(file, "one");
+    const auto before = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    fs::last_write_time(file, before);
+    const auto kept = fs::last_write_time(file);
+    write_whole(file, "one");
+    EXPECT_EQ(fs::last_write_time(file), kept);
+    write_whole(file, "two");
+    EXPECT_EQ(contents_of(file), "two");
+    fs::create_directory(folder / "taken");
+    EXPECT_THROW(write_whole(folder / "taken", "three"), std::runtime_error);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 2);
+    fs::remove_all(folder);
 }
 
 TEST(Written, FollowsFromTheList) {
@@ -52,7 +91,7 @@ TEST(Written, FollowsFromTheList) {
     std::filesystem::create_directories(folder);
     ASSERT_EQ(run("write-exports " + folder.string()), 0);
     for (auto name : {"/exports.json", "/orvane.h"})
-        EXPECT_EQ(contents(folder.string() + name), contents(ORVANE_SOURCES "/include/orvane" + std::string(name)))
+        EXPECT_EQ(contents_of(folder.string() + name), contents_of(ORVANE_SOURCES "/include/orvane" + std::string(name)))
             << name << " is out of date: build the target `written`";
     std::filesystem::remove_all(folder);
 }
@@ -125,8 +164,8 @@ std::vector<words> call_by_json(const json& e, const std::vector<words>& argumen
 }
 
 TEST(Json, IsEnoughToCallBy) {
-    const json all = json::parse(contents(ORVANE_SOURCES "/include/orvane/exports.json"));
-    ASSERT_EQ(all.size(), 2328u);
+    const json all = json::parse(contents_of(ORVANE_SOURCES "/include/orvane/exports.json"));
+    ASSERT_EQ(all.size(), 6 * library_rows().size());
     rng r(8);
     for (const json& e : all) {
         const kernel_row* row =
@@ -265,7 +304,7 @@ TEST(Tool, SaysWhatIsWrong) {
     const std::string err = (folder / "err").string(), out = (folder / "out").string(), in = (folder / "in").string();
     auto complains = [&](const std::string& arguments, const std::string& about) {
         EXPECT_NE(run("orvane-call " + arguments + " </dev/null >/dev/null 2>" + err), 0) << arguments;
-        const std::string said = contents(err);
+        const std::string said = contents_of(err);
         EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << arguments << ": " << said;
         EXPECT_NE(said.find(about), said.npos) << arguments << ": " << said;
     };
@@ -284,7 +323,7 @@ TEST(Tool, SaysWhatIsWrong) {
     for (auto raw : {"-1", "0x1", "123456789", "3f800000 3f800000", ""}) {
         std::ofstream(in) << "3f800000\n" << raw << '\n';
         EXPECT_NE(run("orvane-call --raw expf1 <" + in + " >" + out + " 2>" + err), 0) << raw;
-        EXPECT_NE(contents(err).find("line 2"), std::string::npos) << raw;
+        EXPECT_NE(contents_of(err).find("line 2"), std::string::npos) << raw;
     }
     std::filesystem::remove(out);
     complains("expf1 -i /dev/null", "no lanes"); // what is no regular file has no size
@@ -295,7 +334,7 @@ TEST(Tool, SaysWhatIsWrong) {
     // A short last vector gives its own lanes and no others.
     std::ofstream(in) << "1 2 # 3 4\n5\n";
     EXPECT_EQ(run("orvane-call expf16 -i " + in + " -o " + out + " --json"), 0);
-    const std::string written = contents(out);
+    const std::string written = contents_of(out);
     EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 3);
     std::filesystem::remove_all(folder);
 }

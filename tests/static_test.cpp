@@ -130,7 +130,6 @@ TEST(File, ExportsExactlyTheList) {
         exported.insert(name);
     }
     EXPECT_EQ(exported, expected_exports(library_rows()));
-    EXPECT_EQ(exported.size(), 2328u);
 }
 
 TEST(File, WrappersAndSlowPathsKeepTheirNames) {
@@ -242,6 +241,7 @@ void check_paths(object& o, const std::vector<kernel_row>& rows) {
         if (!row.built) continue;
         for (int w : widths) {
             const call_plan p = plan_of(row, w);
+            if (!functions.contains(p.symbol)) throw std::runtime_error("no " + p.symbol + ", which the list names");
             const auto code = b.code(functions.at(p.symbol));
             const int branches = branches_on_ordinary_path(code);
             if (row.path == kernel_path::all_lanes) EXPECT_EQ(branches, -1) << p.symbol;

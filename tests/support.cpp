@@ -41,16 +41,18 @@ object& probe_library() {
     return o;
 }
 const std::vector<kernel_row>& probe_rows() {
-    static const std::vector<kernel_row> rows = {
+    static const std::vector<kernel_row> rows = list::checked({
 #define ORVANE_LIST "tests/probes/probes.def"
 #include "tools/list.inc"
-    };
+    });
     return rows;
 }
 
 lane_caller subject::caller(int width) const {
     const call_plan p = plan_of(*row, width);
-    return lane_caller(p, in->address(p.symbol));
+    const void* f = in->address(p.symbol);
+    if (!f) throw std::runtime_error(in->path + " has no " + p.symbol + ", which the list of exports names");
+    return lane_caller(p, f);
 }
 void PrintTo(const subject& s, std::ostream* to) { *to << s.row->name << s.row->suffix(); }
 std::vector<subject> built_subjects() {

@@ -74,6 +74,7 @@ inline uint64_t quiet_nan(lane_type t, bool negative = false) {
 
 // f(tier) for the tiers that a function has.
 template <class F> void each_tier(std::string_view name, F f) {
+    if (!find_row(library_rows(), name, "default")) ADD_FAILURE() << "no family " << name;
     for (auto tier : {"default", "rm", "native", "half"})
         if (find_row(library_rows(), name, tier)) {
             SCOPED_TRACE(std::string(name) + " " + tier);

@@ -100,6 +100,7 @@ uint64_t parse_number(const std::string& text, lane_type t) {
         const bool fits = is_signed ? size_of(t) == 8 || (int32_t)i == i : size_of(t) == 8 || !(u >> 32);
         if (!*end && (errno || !fits || (!is_signed && text[0] == '-'))) throw bad("it is out of range");
         if (!*end) return size_of(t) == 8 ? u : u & 0xFFFFFFFF;
+        throw bad("write an integer, or the bits as 0x...");
     }
     throw bad("write a decimal, 0x...p... or the bits as 0x...");
 }
@@ -209,7 +210,8 @@ public:
                 snprintf(error, sizeof error, "%.3f", e);
                 s += std::string("  ") + digits + "  " + error;
                 r["true"] = digits;
-                if (std::isfinite(e)) r["ulps"] = e, worst = std::max(worst, e);
+                if (std::isfinite(e)) r["ulps"] = e;
+                compared = true, worst = std::max(worst, e);
             }
 #endif
             lane["results"].push_back(r);
@@ -220,11 +222,13 @@ public:
                 {{"value", shown(row.argument(j), in[j])}, {"bits", pattern(row.argument(j), in[j])}});
         return lane.dump() + "\n";
     }
+    bool has_compared() const { return compared; } // with a true value that is known
     double worst_error() const { return worst; }
 
 private:
     const call_plan& plan;
     bool as_json;
+    bool compared = false;
     double worst = 0;
 #ifdef ORVANE_WITH_MPFR
     truth value;
@@ -266,7 +270,11 @@ public:
         if (!stream()) throw failure("cannot write " + (path.empty() ? "standard output" : "'" + path + "'"));
         if (path.empty()) return;
         file.close();
-        fs::rename(part, path);
+        std::error_code error;
+        fs::rename(part, path, error);
+        if (!error) return;
+        fs::remove(part);
+        throw failure("cannot write '" + path + "': " + error.message());
     }
 
 private:
@@ -303,6 +311,7 @@ void run_raw(const call_plan& plan, const void* f, bool as_json, std::ostream& t
         to.write(s, n);
     };
     std::string line;
+    bool any = false;
     for (size_t number = 1; std::getline(std::cin, line); number++) {
         lane_words lane;
         const char* p = line.c_str();
@@ -322,7 +331,9 @@ void run_raw(const call_plan& plan, const void* f, bool as_json, std::ostream& t
             throw failure("line " + std::to_string(number) + ": " + std::to_string(lane.size()) + " word(s); " +
                           std::string(row.name) + " takes " + std::to_string(row.arguments()));
         lanes.add(lane, print);
+        any = true;
     }
+    if (!any) throw failure("standard input holds no lanes");
     lanes.flush(print);
 }
 
@@ -372,13 +383,15 @@ void run_summary(const call_plan& plan, const void* f, const std::string& from, 
     for_all_lanes(from, *plan.row, bar_shown, [&](const lane_words& lane) { lanes.add(lane, use); });
     lanes.flush(use);
     if (as_json) {
-        to << json{{"export", plan.symbol}, {"lanes", count}, {"largest error in ulps", print.worst_error()}}.dump()
-           << '\n';
+        json j{{"export", plan.symbol}, {"lanes", count}, {"largest error in ulps", nullptr}};
+        if (print.has_compared()) j["largest error in ulps"] = print.worst_error();
+        to << j.dump() << '\n';
         return;
     }
     char s[160];
-    snprintf(s, sizeof s, "%-16s %8zu lanes, largest error %.3f ulp\n", short_name(plan).c_str(), count,
-             print.worst_error());
+    int n = snprintf(s, sizeof s, "%-16s %8zu lanes, ", short_name(plan).c_str(), count);
+    if (print.has_compared()) snprintf(s + n, sizeof s - n, "largest error %.3f ulp\n", print.worst_error());
+    else snprintf(s + n, sizeof s - n, "no true value known\n");
     to << s;
 }
 
@@ -417,6 +430,7 @@ int run(int argc, char** argv) {
         if (lane.starts_with(mark)) lane.erase(0, 1);
 
     output out(to);
+    if (list && !name.empty()) throw failure("--list takes no export; it names them all");
     if (list) return list_exports(as_json, out.stream()), out.complete(), 0;
     if (name.empty()) throw failure("name an export, such as expf8_half; orvane-call --list prints all of them");
     const call_plan plan = find_plan(name);

@@ -1,7 +1,9 @@
 #include "signature.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <stdexcept>
 
 namespace orvane {
 
@@ -34,21 +36,35 @@ std::string_view key_of(auto value, const auto& names) {
     return "";
 }
 
+[[noreturn]] void refuse(std::string_view name, std::string_view tier, const std::string& why) {
+    throw std::invalid_argument("list of exports: " + std::string(name) + " " + std::string(tier) + ": " + why);
+}
+
 } // namespace
 
 kernel_row list::row(std::string_view state, std::string_view name, std::string_view tier, std::string_view sclass,
                      std::string_view in, std::string_view out, std::string_view extra, double spare,
                      std::string_view path, std::array<double, 4> range, std::string_view special,
                      std::string_view twin, std::string_view builtin) {
-    kernel_row r{state == "built",
+    auto of = [&](const auto& names, std::string_view word, const char* what) {
+        if (const auto found = names.find(word); found != names.end()) return found->second;
+        std::string why = std::string("no ") + what + " '" + std::string(word) + "'; one of";
+        for (const auto& [k, v] : names)
+            why += " " + std::string(k);
+        refuse(name, tier, why);
+    };
+    static const std::map<std::string_view, bool> states = {{"absent", false}, {"built", true}};
+    static const std::map<std::string_view, int> tiers = {{"default", 0}, {"rm", 1}, {"native", 2}, {"half", 3}};
+    of(tiers, tier, "tier");
+    kernel_row r{of(states, state, "state"),
                  name,
                  tier,
-                 classes.at(sclass),
-                 lane_types.at(in),
-                 lane_types.at(out),
-                 lane_types.at(extra),
+                 of(classes, sclass, "class"),
+                 of(lane_types, in, "lane type"),
+                 of(lane_types, out, "lane type"),
+                 of(lane_types, extra, "lane type"),
                  spare,
-                 paths.at(path),
+                 of(paths, path, "path"),
                  range,
                  {},
                  {},
@@ -58,20 +74,41 @@ kernel_row list::row(std::string_view state, std::string_view name, std::string_
     for (const char* p = patterns.c_str(); special != "none" && *p;) {
         char* end;
         r.special.push_back(strtoull(p, &end, 0));
+        if (end == p) refuse(name, tier, "special(" + patterns + ") holds something that is no bit pattern");
         p = *end ? end + 1 : end;
     }
-    if (const auto comma = twin.find(", "); comma != twin.npos) {
+    if (!r.special.empty() && (int)r.special.size() != r.arguments())
+        refuse(name, tier, "special(" + patterns + ") is not one pattern an argument");
+    for (size_t j = 0; j < r.special.size(); j++)
+        if (size_of(r.argument(j)) == 4 && r.special[j] >> 32)
+            refuse(name, tier, "special(" + patterns + ") holds a pattern of more than 32 bits");
+    if (range[0] > range[1] || range[2] > range[3]) refuse(name, tier, "a range from a larger to a smaller number");
+    if (twin != "none") {
+        const auto comma = twin.find(',');
+        if (comma == twin.npos) refuse(name, tier, "twin(" + std::string(twin) + ") is not twin(name, tier)");
         r.twin_name = twin.substr(0, comma);
-        r.twin_tier = twin.substr(comma + 2);
+        r.twin_tier = twin.substr(std::min(twin.find_first_not_of(' ', comma + 1), twin.size()));
     }
     return r;
 }
 
+std::vector<kernel_row> list::checked(std::vector<kernel_row> rows) {
+    for (size_t i = 0; i < rows.size(); i++) {
+        const kernel_row& r = rows[i];
+        if (find_row(rows, r.name, r.tier) != &r) refuse(r.name, r.tier, "stands in the list twice");
+        if (r.twin_name.empty()) continue;
+        const kernel_row* of = find_row(rows, r.twin_name, r.twin_tier);
+        if (!of || of >= &r || !of->twin_name.empty())
+            refuse(r.name, r.tier, "its twin must be an earlier row that is no twin itself");
+    }
+    return rows;
+}
+
 const std::vector<kernel_row>& library_rows() {
-    static const std::vector<kernel_row> rows = {
+    static const std::vector<kernel_row> rows = list::checked({
 #define ORVANE_LIST "frame/exports.def"
 #include "list.inc"
-    };
+    });
     return rows;
 }
 

@@ -69,6 +69,7 @@ struct kernel_row {
 // What list.inc turns the columns of a row into.
 namespace list {
 template <class... T> std::array<double, 4> range_of(T... x) {
+    static_assert(sizeof...(T) == 2 || sizeof...(T) == 4, "range(lo, hi) or range(lo, hi, lo of y, hi of y)");
     std::array<double, 4> r{double(x)...};
     if (sizeof...(T) == 2) r[2] = r[0], r[3] = r[1];
     return r;
@@ -77,6 +78,8 @@ kernel_row row(std::string_view state, std::string_view name, std::string_view t
                std::string_view in, std::string_view out, std::string_view extra, double spare, std::string_view path,
                std::array<double, 4> range, std::string_view special, std::string_view twin,
                std::string_view builtin);
+// Throws with one line if rows do not fit together: one twice, or a twin that is no earlier row.
+std::vector<kernel_row> checked(std::vector<kernel_row> rows);
 } // namespace list
 
 // All rows of the library's list, and the row of a name and tier.

@@ -2,9 +2,9 @@
 //
 //     write-exports FOLDER
 #include "signature.h"
+#include "whole_file.h"
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -113,6 +113,8 @@ std::string vector_type(lane_type t, int lanes) {
 
 std::string doc_of(const kernel_row& row) {
     if (const auto d = docs.find(row.base()); d != docs.end()) return std::string(d->second);
+    if (row.sclass != signature_class::conversion)
+        throw std::runtime_error("tools/docs.inc says nothing of '" + row.base() + "': write what it means");
     std::string s =
         "Conversion from " + std::string(opencl_type(row.in)) + " to " + std::string(opencl_type(row.out));
     const std::string_view modes[][2] = {{"rte", "rounded to nearest, ties to even"},
@@ -193,6 +195,12 @@ std::string header() {
 #ifndef ORVANE_H
 #define ORVANE_H
 
+/* Without AVX a compiler passes vectors of 32 bytes in memory, which no export expects. Code that calls from functions
+ * with an AVX target of their own says so by ORVANE_CALLED_WITH_AVX. */
+#if !defined __AVX__ && !defined ORVANE_CALLED_WITH_AVX
+#error "orvane.h: compile with -mavx or more"
+#endif
+
 #include <stdint.h>
 
 #ifdef __cplusplus
@@ -225,12 +233,6 @@ extern "C" {
 )";
 }
 
-void write(const std::filesystem::path& to, const std::string& text) {
-    const std::filesystem::path part = to.string() + ".part";
-    std::ofstream(part, std::ios::binary) << text;
-    std::filesystem::rename(part, to);
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -239,6 +241,11 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path folder = argv[1];
-    write(folder / "exports.json", exports_json());
-    write(folder / "orvane.h", header());
+    try {
+        write_whole(folder / "exports.json", exports_json());
+        write_whole(folder / "orvane.h", header());
+    } catch (const std::exception& e) {
+        std::cerr << "write-exports: " << e.what() << '\n';
+        return 1;
+    }
 }

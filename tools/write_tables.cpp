@@ -1,11 +1,10 @@
 // Writes every table that follows a rule: write_tables ROOT [FILE...], or checks them: write_tables --check ROOT.
 #include "tables/table.h"
+#include "whole_file.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 
 using namespace orvane::tables;
 namespace fs = std::filesystem;
@@ -34,15 +33,15 @@ int main(int argc, char** argv) {
         writer w;
         t.rule(w);
         if (check) {
-            std::ifstream in(root / t.path);
-            std::stringstream have;
-            have << in.rdbuf();
-            if (!in || have.str() != w.text) wrong++, std::cout << t.path << ": differs from its rule\n";
+            if (orvane::contents_of(root / t.path) != w.text)
+                wrong++, std::cout << t.path << ": differs from its rule\n";
         } else {
-            const fs::path to = root / t.path, part = to.string() + ".part";
-            fs::create_directories(to.parent_path());
-            std::ofstream(part) << w.text;
-            fs::rename(part, to);
+            try {
+                orvane::write_whole(root / t.path, w.text);
+            } catch (const std::exception& e) {
+                std::cerr << "write_tables: " << e.what() << '\n';
+                return 1;
+            }
             std::cout << t.path << '\n';
         }
     }

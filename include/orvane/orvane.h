@@ -10,6 +10,12 @@
 #ifndef ORVANE_H
 #define ORVANE_H
 
+/* Without AVX a compiler passes vectors of 32 bytes in memory, which no export expects. Code that calls from functions
+ * with an AVX target of their own says so by ORVANE_CALLED_WITH_AVX. */
+#if !defined __AVX__ && !defined ORVANE_CALLED_WITH_AVX
+#error "orvane.h: compile with -mavx or more"
+#endif
+
 #include <stdint.h>
 
 #ifdef __cplusplus

@@ -2,14 +2,13 @@
 // error that each reaches; fit-gamma --check ROOT compares them with what the sources hold. Both first hold the
 // constructions against rows whose numbers are fixed, and print in how many digits they agree.
 #include "minimax.h"
+#include "whole_file.h"
 
 #include <bit>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 #include <stdexcept>
 
 using namespace orvane::fits;
@@ -295,14 +294,10 @@ int main(int argc, char** argv) {
         compare_with_fixed_rows();
         for (const auto& f : fitted_files()) {
             if (check) {
-                std::ifstream in(root / f.path);
-                std::stringstream have;
-                have << in.rdbuf();
-                if (!in || have.str() != f.text) wrong++, std::cout << f.path << ": differs from its fit\n";
+                if (orvane::contents_of(root / f.path) != f.text)
+                    wrong++, std::cout << f.path << ": differs from its fit\n";
             } else {
-                const fs::path part = root / (f.path + ".part");
-                std::ofstream(part) << f.text;
-                fs::rename(part, root / f.path);
+                orvane::write_whole(root / f.path, f.text);
                 std::cout << f.path << '\n';
             }
         }
