@@ -599,9 +599,11 @@ template <class T, int W, class At> ORVANE_INLINE lane_pair<T, W> assemble_pair(
             __m128 p = two(0);
             return {V((typename V::raw)_mm_shuffle_ps(p, p, 0x88)), V((typename V::raw)_mm_shuffle_ps(p, p, 0xDD))};
         } else if constexpr (W == 8) {
-            __m256 p = _mm256_set_m128(two(4), two(0)), q = _mm256_set_m128(two(6), two(2));
-            return {V((typename V::raw)_mm256_shuffle_ps(p, q, 0x88)),
-                    V((typename V::raw)_mm256_shuffle_ps(p, q, 0xDD))};
+            // One after the other and both before what follows: few registers are needed at a time.
+            const __m128 p0 = two(0), q0 = two(2);
+            const __m256 p = _mm256_set_m128(two(4), p0), q = _mm256_set_m128(two(6), q0);
+            return {finished(V((typename V::raw)_mm256_shuffle_ps(p, q, 0x88))),
+                    finished(V((typename V::raw)_mm256_shuffle_ps(p, q, 0xDD)))};
         } else {
             __m128 p = two(0), q = two(2);
             return {V((typename V::raw)_mm_shuffle_ps(p, q, 0x88)), V((typename V::raw)_mm_shuffle_ps(p, q, 0xDD))};
@@ -647,14 +649,14 @@ template <int W, class At> ORVANE_INLINE lane_four<W> assemble_four(At at) {
 }
 } // namespace detail
 
-// A row of a table for each lane, found by its byte offset: the addresses once, then entries or pairs of them, whose
-// numbers count entries of T.
-template <int W> struct row_addresses {
+// A row of a table for each lane, found by its offset in units of `Scale` bytes: the addresses once, then entries or
+// pairs of them, whose numbers count entries of T.
+template <int W, int Scale = 1> struct row_addresses {
     static constexpr int rows = W == 3 ? 4 : W; // the spare lane has one too
     const char* row[rows];
 
     template <class I> ORVANE_INLINE row_addresses(const void* base, lanes<I, W> offset) {
-        const detail::addresses<1, I, W> at(base, offset);
+        const detail::addresses<Scale, I, W> at(base, offset);
         if constexpr (W == 1) row[0] = at(0);
         else
             each<rows / 2>([&](auto i) ORVANE_LAMBDA {

@@ -78,8 +78,15 @@ template <int First, int Last> struct alignas(slot_bytes) gap {
 // every constant is read from its slot and not from a copy in a pool of the compiler's own; and each part of a kernel
 // that takes it anew has its constants as memory operands, instead of keeping (and spilling) them from one part to
 // the next.
+//
+// The register points two slots into the block, so that the first four are a byte's displacement away; a table that the
+// block begins with is indexed from its start.
 template <class B> ORVANE_INLINE const B& anew(const B*& block) {
-    asm("" : "+r"(block));
+    constexpr bool begins_with_table = requires { B::table_at(std::integral_constant<int, 0>()); };
+    constexpr int middle = begins_with_table || sizeof(B) <= 2 * slot_bytes ? 0 : 2 * slot_bytes;
+    const char* at = (const char*)block + middle;
+    asm("" : "+r"(at));
+    block = (const B*)(at - middle);
     return *block;
 }
 
@@ -101,6 +108,7 @@ template <class B> ORVANE_INLINE const B& anew(const B*& block) {
 // A table in memory, from slot `number` on: a copy of a constexpr object, which may serve other blocks too.
 #define TABLE(number, name, ...)                                                                                     \
     alignas(::orvane::slot_bytes) std::remove_const_t<decltype(__VA_ARGS__)> name = __VA_ARGS__;                     \
+    static void table_at(std::integral_constant<int, 64 * (number)>);                                                \
     ORVANE_PLACED(64 * (number), name)
 
 // Slots first to last, which nothing reads.

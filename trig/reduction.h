@@ -133,7 +133,7 @@ template <sign_of_argument Sign, int W> ORVANE_INLINE reduced_angle<double, W> r
     auto X = bits(x);
     auto e = X >> 52;
     if constexpr (Sign == of_any_sign) e = e & c.exponent_field;
-    const row_addresses<W> row(__orvane_dtan_reduction_data, ((e << 1) + e) << 3);
+    const row_addresses<W, 8> row(__orvane_dtan_reduction_data, (e << 1) + e);
     auto [w0, w1] = row.template pair<uint64_t>(0);
     auto w2 = row.template entry<uint64_t>(2);
     auto mh = ((X >> 32) & c.fraction_high) | c.leading_one;
@@ -143,9 +143,9 @@ template <sign_of_argument Sign, int W> ORVANE_INLINE reduced_angle<double, W> r
     auto b0ml = product(w1, ml), b1ml = product(b1, ml), a0ml = product(w0, ml);
     auto s64 = ((b0ml & c.half) + product(c1, mh)) + ((product(c1, ml) >> 32) + (product(w2, mh) >> 32));
     auto s96 = (s64 >> 32) + (((b0ml >> 32) + product(w1, mh)) + (b1ml & c.half));
-    auto s128 = (s96 >> 32) + (((a0ml & c.half) + product(b1, mh)) + (b1ml >> 32));
+    auto s128 = ((a0ml & c.half) + product(b1, mh)) + (b1ml >> 32);
     auto top = product(a1, ml) + product(w0, mh);
-    auto hi = s128 + andnot(U(c.half), a0ml + (top << 32));
+    auto hi = (s96 >> 32) + (s128 + andnot(U(c.half), a0ml + (top << 32)));
     auto lo = (s96 << 32) | (s64 & c.kept_of_column);
 
     return angle_of_fraction<Sign, double, W>(c, X, hi >> 12, ((hi & c.mid_of_hi) << 40) | (lo >> 24),

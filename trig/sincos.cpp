@@ -120,7 +120,9 @@ template <class Signature, const auto& Block, auto& Rare>
 struct dsincos_large : dsincos_short<Signature, Block, Rare> {
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<double, W> x, auto ordinary) {
         const auto& ha = __orvane_dsincos_data_ha;
-        auto [S, r, rl] = reduce_large_f64<not_negative>(andnot(lanes<double, W>(c.sign_mask), x));
+        using V = lanes<double, W>;
+        auto ax = andnot(V(c.sign_mask), x);
+        auto [S, r, rl] = reduce_large_f64<not_negative>(ax);
         auto j = S & ha.row_mask;
         auto j2 = (j + ha.quarter) & ha.row_mask;
         auto r2 = r * r;
@@ -128,8 +130,8 @@ struct dsincos_large : dsincos_short<Signature, Block, Rare> {
         auto pc = fma(fma(ha.ha_c3, r2, ha.ha_c2), r2, ha.ha_c1) * r2;
         auto sine = sine_of_row(ha, j, r, rl, ps, pc) ^ (x & c.sign_mask);
         auto cosine = sine_of_row(ha, j2, r, rl, ps, pc);
-        return answer{select(ordinary.special, sine, ordinary.first),
-                      select(ordinary.special, cosine, ordinary.second), not_finite(ha, x)};
+        auto large = not_less_equal(ax, V(c.large_limit)); // cheaper compared anew than made of its bits
+        return answer{select(large, sine, ordinary.first), select(large, cosine, ordinary.second), not_finite(ha, x)};
     }
 };
 

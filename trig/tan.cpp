@@ -160,7 +160,7 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_block& c, cons
     const V cut(f32(0xFFFFF000));
     using fields = tan_row<float>;
     auto j = angle.S & lanes<uint32_t, W>(127u);
-    const row_addresses<W> row(c.rows.entry, (j << 5) + (j << 3));
+    const row_addresses<W, 8> row(c.rows.entry, (j << 2) + j);
     auto R = angle.rl + angle.rh;
 
     auto [pb_hi, pb_lo, pole, c0_hi] = row.four(&fields::pb_hi);
@@ -190,7 +190,7 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_block& c, cons
 template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_rm_block& c, const reduced_angle<float, W>& angle) {
     using fields = tan_row<float>;
     auto j = angle.S & lanes<uint32_t, W>(127u);
-    const row_addresses<W> row(c.rows.entry, (j << 5) + (j << 3));
+    const row_addresses<W, 8> row(c.rows.entry, (j << 2) + j);
     auto R = angle.rl + angle.rh;
 
     auto [c1_tail, c2, c3, c4] = row.four(&fields::c1_tail);
@@ -209,7 +209,7 @@ template <int W> ORVANE_INLINE lanes<float, W> row_tan(const stan_rm_block& c, c
 template <int W> ORVANE_INLINE lanes<double, W> row_tan(const auto& c, const reduced_angle<double, W>& angle) {
     using fields = tan_row<double>;
     auto j = angle.S & lanes<uint64_t, W>(uint64_t(255));
-    const row_addresses<W> row(c.rows.entry, (j << 6) + (j << 5) + (j << 3));
+    const row_addresses<W, 8> row(c.rows.entry, (j << 3) + (j << 2) + j);
     auto R = angle.rl + angle.rh;
 
     auto d = row.entry(&fields::pb_hi) - R;
@@ -244,13 +244,18 @@ template <int W> ORVANE_INLINE lanes<double, W> large_tan(const auto& c, lanes<d
     return row_tan(c, reduce_large_f64<of_any_sign>(x));
 }
 
+// What the short path does not reach; behind the branch it is cheaper compared anew than made of its bits.
+template <class T, int W> ORVANE_INLINE auto is_large(const auto& c, lanes<T, W> x) {
+    return not_less_equal(x & c.abs_mask, lanes<T, W>(c.large_limit));
+}
+
 template <class T, const auto& Block, auto& Rare> struct tan_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto y = ordinary_tan(c, x);
-        return answer{y, not_less_equal(x & c.abs_mask, lanes<T, W>(c.large_limit))};
+        return answer{y, is_large(c, x)};
     }
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<T, W> x, auto ordinary) {
-        return answer{select(ordinary.special, large_tan(c, x), ordinary.first), not_finite(c, x)};
+        return answer{select(is_large(c, x), large_tan(c, x), ordinary.first), not_finite(c, x)};
     }
 };
 
