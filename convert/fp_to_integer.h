@@ -49,11 +49,11 @@ struct to_i32 : kernel<conversion<T, int32_t>, Block> {
 template <class T, rounding R, bool Saturating, const auto& Block>
 struct to_u32 : kernel<conversion<T, uint32_t>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
-        using U = uint_of<T>;
+        const lanes<T, W> top_bit(T(-0.0));
         auto r = round_to<R>(x);
-        if constexpr (!Saturating) r = magnitude(r);
+        if constexpr (!Saturating) r = andnot(top_bit, r);
         constexpr int exponent_bits = sizeof(T) == 8 ? 11 : 8;
-        auto top = signed_top_words(as<T>((bits(r) << exponent_bits) | lanes<U, W>(~(U(-1) >> 1))));
+        auto top = signed_top_words(as<T>(bits(r) << exponent_bits) | top_bit);
         auto e = bits(r) & c.exp_mask;
         auto v = select(narrow(e == c.two31), top, convert<int32_t>(r));
         if constexpr (Saturating) {

@@ -89,9 +89,9 @@ template <class T, const auto& Block, auto& Rare> struct ldexp_kernel : kernel<w
         auto e = (words(x) & c.exp_word) >> field_shift<T>;
         auto m = in_place<T>(max(min(n, lanes<int32_t, W>(c.n_max)), lanes<int32_t, W>(c.n_min)));
         auto s = e + m; // far from wrapping
-        auto x_not_normal = (e == c.top_exp) | (e == c.zero_word);
-        auto result_not_normal = (s <= c.zero_word) | (s >= c.top_exp);
-        lane_bits<W> special = marked<T, W>(x_not_normal | result_not_normal);
+        // x and the result are normal where both exponents are between zero and the top.
+        auto normal = (min(e, s) > c.zero_word) & (max(e, s) < c.top_exp);
+        auto special = lane_bits<W>::not_in(marked<T, W>(normal));
         auto scaled = (s << field_shift<T>) | andnot(decltype(s)(c.exp_word), words(x));
         return answer{with_words(x, scaled), special};
     }

@@ -302,6 +302,12 @@ template <int W> struct lane_bits {
     unsigned v;
     lane_bits() = default;
     template <class T> ORVANE_INLINE lane_bits(lanes<T, W> m) : v(m.signs()) { asm("" : "+r"(v)); }
+    // The lanes outside of a mask.
+    template <class T> static ORVANE_INLINE lane_bits not_in(lanes<T, W> m) {
+        lane_bits b = m;
+        b.v ^= (1u << lanes<T, W>::capacity) - 1;
+        return b;
+    }
     ORVANE_INLINE unsigned signs() const { return v; }
 };
 
