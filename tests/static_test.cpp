@@ -119,7 +119,7 @@ TEST(File, ImportsNothingAndHasNoState) {
     EXPECT_TRUE(stack);
 }
 
-TEST(File, ExportsExactlyTheList) {
+TEST(File, ExportsExactlyTheListEachAtACacheLine) {
     const binary b(library_under_test());
     std::set<std::string> exported;
     const Elf64_Shdr *symbols = b.section(".dynsym"), *strings = b.section(".dynstr");
@@ -127,6 +127,7 @@ TEST(File, ExportsExactlyTheList) {
     for (size_t i = 1; i < symbols->sh_size / sizeof *s; i++) {
         const std::string name = b.bytes.data() + strings->sh_offset + s[i].st_name;
         EXPECT_NE(s[i].st_shndx, SHN_UNDEF) << name;
+        EXPECT_EQ(s[i].st_value % 64, 0u) << name << " does not begin a cache line";
         exported.insert(name);
     }
     EXPECT_EQ(exported, expected_exports(library_rows()));
