@@ -34,8 +34,8 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         auto herr = fma(u, c.log2e_hi, -(H - A));
         auto L = fma(q, u2, tl + herr);
 
-        // The limit is on y H. Where H lacks half a part in a thousand of the logarithm (x from 0.9990 to 0.9992), s may lie
-        // below -1022 with P within the limit: the scale is 0 then, and so is the result.
+        // The limit is on y H. Where H lacks half a part in a thousand of the logarithm (x from 0.9990 to 0.9992), s may
+        // lie below -1022 with P within the limit: the scale is 0 then, and so is the result.
         auto P = y * H;
         auto perr = fma(y, H, -P);
         lane_bits<W> special = not_less_equal(x, lanes<double, W>(c.max_normal)) | (x < c.min_normal) |
