@@ -49,7 +49,7 @@ struct to_i32 : kernel<conversion<T, int32_t>, Block> {
 template <class T, rounding R, bool Saturating, const auto& Block>
 struct to_u32 : kernel<conversion<T, uint32_t>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
-        const lanes<T, W> top_bit(T(-0.0));
+        const lanes<T, W> top_bit(T(-0.0)); // clears the sign and sets the leading bit: one constant for both
         auto r = round_to<R>(x);
         if constexpr (!Saturating) r = andnot(top_bit, r);
         constexpr int exponent_bits = sizeof(T) == 8 ? 11 : 8;

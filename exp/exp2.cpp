@@ -63,7 +63,7 @@ ORVANE_BLOCK_TWIN(__orvane_sexp2_half_data, __orvane_sexp2_native_data)
 template <class T, const auto& Block, auto& Rare> struct exp2_by_table : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto t = x + c.shifter;
-        auto [hi, lo] = lookup_pair<T>(&c.exp2_pairs, pair_index(c, t)); // before r, for want of registers
+        auto [hi, lo] = lookup_pair<T>(&c.exp2_pairs, pair_index(c, t)); // before r: 16 lanes stay in registers
         auto n = t - c.shifter;
         auto r = x - n;
         auto q = r * table_polynomial(c, r);

@@ -105,7 +105,8 @@ template <class B> ORVANE_INLINE const B& anew(const B*& block) {
     ::orvane::slot<T, entries> name{__VA_ARGS__};                                                                    \
     ORVANE_PLACED(64 * (number), name)
 
-// A table in memory, from slot `number` on: a copy of a constexpr object, which may serve other blocks too.
+// A table in memory, from slot `number` on: a copy of a constexpr object, which may serve other blocks too. table_at is
+// declared to be asked for alone.
 #define TABLE(number, name, ...)                                                                                     \
     alignas(::orvane::slot_bytes) std::remove_const_t<decltype(__VA_ARGS__)> name = __VA_ARGS__;                     \
     static void table_at(std::integral_constant<int, 64 * (number)>);                                                \

@@ -277,6 +277,6 @@ TEST_P(LongEveryFloat, ToInteger) {
 }
 INSTANTIATE_TEST_SUITE_P(Convert, LongEveryFloat,
                          testing::ValuesIn(conversions_from({lane_type::f32}, false)),
-                         [](const auto& row) { return std::string(row.param.row->name); });
+                         [](const auto& info) { return std::string(info.param.row->name); });
 
 } // namespace

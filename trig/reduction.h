@@ -18,6 +18,11 @@ template <class V> ORVANE_INLINE V less_multiples_of_pi(const auto& c, V n, V v)
     return v;
 }
 
+// What the short path does not reach, of |x|. (A large path takes it anew: that is cheaper than lanes made of bits.)
+template <class T, int W> ORVANE_INLINE auto is_large(const auto& c, lanes<T, W> ax) {
+    return not_less_equal(ax, lanes<T, W>(c.large_limit));
+}
+
 // What the large reduction leaves to a slow path: infinities and NaN.
 template <class T, int W> ORVANE_INLINE auto not_finite(const auto& c, lanes<T, W> x) {
     lanes<uint_of<T>, W> exponent;
@@ -145,6 +150,7 @@ template <sign_of_argument Sign, int W> ORVANE_INLINE reduced_angle<double, W> r
     auto s96 = (s64 >> 32) + (((b0ml >> 32) + product(w1, mh)) + (b1ml & c.half));
     auto s128 = ((a0ml & c.half) + product(b1, mh)) + (b1ml >> 32);
     auto top = product(a1, ml) + product(w0, mh);
+    // The carry last: s96 takes longest.
     auto hi = (s96 >> 32) + (s128 + andnot(U(c.half), a0ml + (top << 32)));
     auto lo = (s96 << 32) | (s64 & c.kept_of_column);
 

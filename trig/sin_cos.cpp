@@ -120,8 +120,7 @@ template <const auto& Block> struct dsin_short : kernel<one_argument<double>, Bl
         auto r2 = r * r;
         auto rs = r ^ sgn;
         auto y = fma(r2 * sine_polynomial(c, r2), rs, rs);
-        return answer{y ^ andnot(lanes<double, W>(c.abs_mask), x),
-                      not_less_equal(ax, lanes<double, W>(c.large_limit))};
+        return answer{y ^ andnot(lanes<double, W>(c.abs_mask), x), is_large(c, ax)};
     }
 };
 struct dsin : dsin_short<__orvane_dsin_data> {
@@ -151,7 +150,7 @@ template <const auto& Block> struct dcos_short : kernel<one_argument<double>, Bl
         auto rs = r ^ sgn;
         auto r3 = r2 * rs;
         auto z = fma(r3, sine_polynomial(c, r2), rs);
-        return answer{select(is_one, V(c.one), z), not_less_equal(y & c.abs_mask, V(c.large_limit))};
+        return answer{select(is_one, V(c.one), z), is_large(c, y & c.abs_mask)};
     }
 };
 struct dcos : dcos_short<__orvane_dcos_data> {

@@ -94,7 +94,7 @@ template <class Signature, const auto& Block, auto& Rare> struct dsincos_short :
         auto sine = odd_sine(c, rs) ^ sgn ^ (x & sign_mask);
         auto cosine = odd_sine(c, rc) ^ sgn ^ q ^ sign_mask;
         cosine = select(x == V(0.0), V(c.one), cosine);
-        return answer{sine, cosine, not_less_equal(ax, V(c.large_limit))};
+        return answer{sine, cosine, is_large(c, ax)};
     }
 };
 
@@ -120,8 +120,7 @@ template <class Signature, const auto& Block, auto& Rare>
 struct dsincos_large : dsincos_short<Signature, Block, Rare> {
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<double, W> x, auto ordinary) {
         const auto& ha = __orvane_dsincos_data_ha;
-        using V = lanes<double, W>;
-        auto ax = andnot(V(c.sign_mask), x);
+        auto ax = andnot(lanes<double, W>(c.sign_mask), x);
         auto [S, r, rl] = reduce_large_f64<not_negative>(ax);
         auto j = S & ha.row_mask;
         auto j2 = (j + ha.quarter) & ha.row_mask;
@@ -130,7 +129,7 @@ struct dsincos_large : dsincos_short<Signature, Block, Rare> {
         auto pc = fma(fma(ha.ha_c3, r2, ha.ha_c2), r2, ha.ha_c1) * r2;
         auto sine = sine_of_row(ha, j, r, rl, ps, pc) ^ (x & c.sign_mask);
         auto cosine = sine_of_row(ha, j2, r, rl, ps, pc);
-        auto large = not_less_equal(ax, V(c.large_limit)); // cheaper compared anew than made of its bits
+        auto large = is_large(c, ax);
         return answer{select(large, sine, ordinary.first), select(large, cosine, ordinary.second), not_finite(ha, x)};
     }
 };

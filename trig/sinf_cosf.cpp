@@ -128,7 +128,7 @@ template <const auto& Block> struct ssin_kernel : with_large_f32<Block, __orvane
             auto p = r2 * sine_polynomial(c, r2);
             y = fma(p, rs, rs);
         } else y = fma(r2 * fma(c.c2, r2, c.c1), rs, rs * c.c0);
-        return answer{y ^ andnot(lanes<float, W>(c.abs_mask), x), not_less_equal(ax, lanes<float, W>(c.large_limit))};
+        return answer{y ^ andnot(lanes<float, W>(c.abs_mask), x), is_large(c, ax)};
     }
 };
 
@@ -150,7 +150,7 @@ template <const auto& Block> struct scos_kernel : with_large_f32<Block, __orvane
         if constexpr (requires { c.s4; }) z = fma(r3, sine_polynomial(c, r2), rs);
         else z = fma(r3, fma(c.c2, r2, c.c1), rs * c.c0);
         return answer{select(is_one, lanes<float, W>(c.one), z),
-                      not_less_equal(ax, lanes<float, W>(c.large_limit))};
+                      is_large(c, ax)};
     }
 };
 

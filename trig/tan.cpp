@@ -244,18 +244,13 @@ template <int W> ORVANE_INLINE lanes<double, W> large_tan(const auto& c, lanes<d
     return row_tan(c, reduce_large_f64<of_any_sign>(x));
 }
 
-// What the short path does not reach; behind the branch it is cheaper compared anew than made of its bits.
-template <class T, int W> ORVANE_INLINE auto is_large(const auto& c, lanes<T, W> x) {
-    return not_less_equal(x & c.abs_mask, lanes<T, W>(c.large_limit));
-}
-
 template <class T, const auto& Block, auto& Rare> struct tan_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto y = ordinary_tan(c, x);
-        return answer{y, is_large(c, x)};
+        return answer{y, is_large(c, x & c.abs_mask)};
     }
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<T, W> x, auto ordinary) {
-        return answer{select(is_large(c, x), large_tan(c, x), ordinary.first), not_finite(c, x)};
+        return answer{select(is_large(c, x & c.abs_mask), large_tan(c, x), ordinary.first), not_finite(c, x)};
     }
 };
 
