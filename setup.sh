@@ -40,11 +40,17 @@ check_processor() {
 }
 
 configure() {
-    # A build/ that someone configured in another way keeps its generator and build type, and gets what is missing.
+    # A build/ whose last configuring failed (with a compiler that was refused, say) or that came here with a copied tree
+    # is configured anew; its objects stay.
+    if [[ -e build/CMakeCache.txt ]] && { [[ ! -e build/configured ]] ||
+        ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" build/CMakeCache.txt ||
+        ! grep -qxF "CMAKE_CACHEFILE_DIR:INTERNAL=$PWD/build" build/CMakeCache.txt; }; then
+        rm -rf build/CMakeCache.txt build/configured build/CMakeFiles/[0-9]*
+    fi
+    # One that someone configured in another way keeps its generator and build type, and gets what is missing.
     if [[ ! -e build/CMakeCache.txt ]]; then cmake --preset tests
     elif ! grep -q '^ORVANE_TESTS:BOOL=ON$' build/CMakeCache.txt || ! grep -q '^ORVANE_BENCH:BOOL=ON$' build/CMakeCache.txt; then
         cmake -S . -B build -DORVANE_TESTS=ON -DORVANE_BENCH=ON
-    elif [[ ! -e build/build.ninja && ! -e build/Makefile ]]; then cmake -S . -B build # an earlier try failed
     fi
 }
 

@@ -72,6 +72,12 @@ template <class S, const auto& Block, auto& SlowPath> struct kernel<S, Block, Sl
 
 namespace detail {
 
+// f(elements of the tuple). std::apply calls by way of functions that some compilers leave out of line.
+template <class F, class Tuple> ORVANE_INLINE decltype(auto) applied(const F& f, Tuple& t) {
+    return [&]<size_t... I>(std::index_sequence<I...>) ORVANE_LAMBDA -> decltype(auto) { return f(std::get<I>(t)...); }
+    (std::make_index_sequence<std::tuple_size_v<std::remove_const_t<Tuple>>>{});
+}
+
 template <class A> ORVANE_INLINE auto results_of(const A& a) {
     if constexpr (requires { a.second; }) return std::tuple{a.first, a.second};
     else if constexpr (requires { a.first; }) return std::tuple{a.first};
@@ -188,8 +194,8 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
     const auto* block = &K::block;
     auto on_chunk = [&](auto again, auto i, auto f, const auto&... more) ORVANE_LAMBDA {
         const auto& c = anew(block);
-        return std::apply([&](const auto&... a) ORVANE_LAMBDA { return f(c, a..., more...); },
-                          arguments_of(i, again));
+        const auto x = arguments_of(i, again);
+        return detail::applied([&](const auto&... a) ORVANE_LAMBDA { return f(c, a..., more...); }, x);
     };
     auto callout = [&](auto& r, unsigned mask) ORVANE_LAMBDA {
         call_out<K, W>([&](auto i) ORVANE_LAMBDA { return arguments_of(i, behind_branch); }, r, mask, wrapper, where);
@@ -247,7 +253,7 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
                 // that it keeps in memory would be there on the ordinary path too.
                 each<N>([&](auto i) ORVANE_LAMBDA {
                     if constexpr (!L::in_memory)
-                        std::apply([](auto&... b) ORVANE_LAMBDA { ((b = finished(b)), ...); }, x[i]);
+                        detail::applied([](auto&... b) ORVANE_LAMBDA { ((b = finished(b)), ...); }, x[i]);
                     stage.chunk[i].first = finished(stage.chunk[i].first);
                     if constexpr (requires { stage.chunk[i].second; })
                         stage.chunk[i].second = finished(stage.chunk[i].second);
