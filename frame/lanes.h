@@ -308,6 +308,10 @@ template <int W> struct lane_bits {
         b.v ^= (1u << lanes<T, W>::capacity) - 1;
         return b;
     }
+    friend ORVANE_INLINE lane_bits operator|(lane_bits a, lane_bits b) {
+        a.v |= b.v;
+        return a;
+    }
     ORVANE_INLINE unsigned signs() const { return v; }
 };
 

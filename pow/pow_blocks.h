@@ -31,6 +31,7 @@ struct dpow_block {
     SLOT(double, 180, ex_c3, 0x3FAC6B090DA1E0A9)         // d^3
     SLOT(double, 181, ex_c2, 0x3FCEBFBDFF82C54D)         // d^2
     SLOT(double, 182, ex_c1, 0x3FE62E42FEFA39B9)         // d^1
+    SLOT(double, 183, s_limit, 0xC08FF00000000000)       // -1022, least y * log2 x with a normal scale
 };
 
 // What the reduced kernels read, from slot `at` of ln_a4 on: e^(y ln x) with a table of logarithms, reached by an

@@ -34,13 +34,14 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         auto herr = fma(u, c.log2e_hi, -(H - A));
         auto L = fma(q, u2, tl + herr);
 
-        // The limit is on y H. Where H lacks half a part in a thousand of the logarithm (x from 0.9990 to 0.9992), s may
-        // lie below -1022 with P within the limit: the scale is 0 then, and so is the result.
+        // Near overflow and underflow a lane is special: by y H, and below by s too, since in H half a part in a thousand of
+        // the logarithm may be missing (x from 0.9990 to 0.9992), and below -1022 there is no scale.
         auto P = y * H;
         auto perr = fma(y, H, -P);
         lane_bits<W> special = not_less_equal(x, lanes<double, W>(c.max_normal)) | (x < c.min_normal) |
                                not_less_equal(P & c.abs_mask, lanes<double, W>(c.p_limit));
         auto s = fma(L, y, P);
+        special = special | lane_bits<W>(s < c.s_limit);
         auto N = s + c.ex_shifter;
         auto Nf = N - c.ex_shifter;
         auto lo = perr + fma(y, L, -(s - P));

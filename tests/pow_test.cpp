@@ -370,4 +370,21 @@ TEST(Powers, OfPositiveNumbersAreTheSame) {
     }
 }
 
+// Just below 2^-1022, where y times the high part of log2 x is within the limit of the vector path and y log2 x is not.
+TEST(Powers, NextToSubnormalResultsComeFromTheSlowPath) {
+    for (auto name : {"pow", "powr"}) {
+        sweep f(name);
+        truth t;
+        std::vector<words> a(2);
+        rng r(47);
+        std::uniform_real_distribution<double> x(0.99903, 0.99915), e(-1022.3, -1022);
+        for (int i = 0; i < 20'000; i++) {
+            const double v = x(r);
+            a[0].push_back(word_of(lane_type::f64, v));
+            a[1].push_back(word_of(lane_type::f64, e(r) / std::log2(v)));
+        }
+        EXPECT_LE(worst_error(f, t, a).ulps, 0.76) << name;
+    }
+}
+
 } // namespace
