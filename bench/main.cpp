@@ -144,10 +144,44 @@ public:
             add_kernel(*kernel);
     }
 
+    // Registers what the filter picks, by the beginnings of names, and the peers beside it.
+    void register_picked(std::string filter) {
+        const bool inverted = filter.starts_with('-');
+        if (inverted) filter.erase(0, 1);
+        if (filter.empty() || filter == "all") filter = ".";
+        const std::regex regex("(?:" + filter + ")");
+        std::set<std::string> picked;
+        for (const entry& e : all)
+            for (lane_set set : lane_sets_of(*e.row)) {
+                const std::string name = e.name + '/' + lane_set_names[set];
+                if (std::regex_search(name, regex, std::regex_constants::match_continuous) != inverted)
+                    picked.insert(name);
+            }
+        for (const table_row& r : rows)
+            for (const lane_set set : {r.set, special})
+                if (picked.contains(r.ours + '/' + lane_set_names[set]))
+                    for (const auto& peer : {r.sleef, r.scalar})
+                        picked.insert(peer + '/' + lane_set_names[set]);
+        for (const entry& e : all)
+            for (lane_set set : lane_sets_of(*e.row)) {
+                const std::string name = e.name + '/' + lane_set_names[set];
+                if (!picked.contains(name)) continue;
+                register_benchmark(name, *e.row, e.width, set, e.run);
+                benchmarks++;
+            }
+    }
+
 private:
     void* library;
     std::map<const kernel_row*, std::vector<const kernel_row*>> tiers;
-    std::set<std::string> registered;
+    struct entry {
+        std::string name;
+        const kernel_row* row;
+        int width;
+        pass run;
+    };
+    std::vector<entry> all; // ours, and the peers that they stand beside
+    std::set<std::string> seen;
 
     void add_kernel(const kernel_row& row) {
         const family_peers peers = peers_of(row);
@@ -212,11 +246,7 @@ private:
     }
 
     void add(const std::string& name, const kernel_row& row, int width, const pass& run) {
-        if (!registered.insert(name).second) return;
-        for (lane_set set : lane_sets_of(row)) {
-            register_benchmark(name + '/' + lane_set_names[set], row, width, set, run);
-            benchmarks++;
-        }
+        if (seen.insert(name).second) all.push_back({name, &row, width, run});
     }
 };
 
@@ -233,15 +263,11 @@ void print_usage() {
          "name,\n"
          "with the f of the float member: orvane-bench 'exp.*' fmodf. Single benchmarks are named "
          "FAMILY/TIER/WIDTH/SET;\n"
-         "--benchmark_filter picks among them.\n");
+         "--benchmark_filter picks among them by the beginnings of names, and the peers that they stand beside with them.\n");
     benchmark::PrintDefaultHelp();
 }
 
 } // namespace
-
-// Google Benchmark's entry point; whole, its name would hold a word that the check before a commit looks for.
-#define ORVANE_JOINED(a, b) a##b
-#define RUN_PICKED benchmark::ORVANE_JOINED(RunSpeci, fiedBenchmarks)
 
 int main(int argc, char** argv) {
     // Medians of short repetitions, interleaved at random over the whole run, so that a peer is measured at the same
@@ -251,6 +277,14 @@ int main(int argc, char** argv) {
          {"--benchmark_repetitions=9", "--benchmark_min_time=0.005", "--benchmark_enable_random_interleaving=true"})
         arguments.push_back(strdup(option));
     arguments.insert(arguments.end(), argv + 1, argv + argc);
+    // The filter is ours, since it picks the peers too.
+    std::string filter;
+    std::erase_if(arguments, [&](const char* a) {
+        const std::string_view option = "--benchmark_filter=";
+        if (!std::string_view(a).starts_with(option)) return false;
+        filter = a + option.size();
+        return true;
+    });
     int count = (int)arguments.size();
     benchmark::Initialize(&count, arguments.data(), print_usage);
 
@@ -277,6 +311,14 @@ int main(int argc, char** argv) {
             for (const auto& f : families)
                 if (std::regex_match(f, regex)) picked.insert(f), any = true;
             if (!any && before == picked.size()) {
+                std::smatch parts;
+                if (std::regex_match(pattern, parts, std::regex("(.*?)(1|2|3|4|8|16)(_(?:rm|native|half))?")) &&
+                    std::find(families.begin(), families.end(), parts[1]) != families.end()) {
+                    const std::string tier = parts[3].matched ? parts[3].str().substr(1) : "default";
+                    std::cerr << "orvane-bench: no family is named " << pattern << ": families carry neither width nor tier; say "
+                              << parts[1] << " --benchmark_filter=" << parts[1] << '/' << tier << '/' << parts[2] << '\n';
+                    return 1;
+                }
                 std::cerr << "orvane-bench: no family that is built is named " << pattern << "; built are";
                 for (const auto& f : families)
                     std::cerr << ' ' << f;
@@ -293,8 +335,14 @@ int main(int argc, char** argv) {
     for (const auto& f : families)
         if (picked.empty() || picked.contains(f)) plan.add_family(f);
 
+    try {
+        plan.register_picked(filter);
+    } catch (const std::regex_error& e) {
+        std::cerr << "orvane-bench: " << filter << " is not a regular expression: " << e.what() << '\n';
+        return 1;
+    }
     gathering_reporter reporter(plan.benchmarks);
-    if (!RUN_PICKED(&reporter)) {
+    if (!benchmark::RunSpecifiedBenchmarks(&reporter)) {
         std::cerr << "orvane-bench: the filter picks no benchmark; --benchmark_list_tests names them\n";
         return 1;
     }

@@ -10,6 +10,7 @@
 // raw-register caller, so what is printed is what emitted code would find in its registers.
 #include "call_plan.h"
 #include "signature.h"
+#include "whole_file.h"
 #ifdef ORVANE_WITH_MPFR
 #include "truth.h"
 #endif
@@ -17,6 +18,7 @@
 #include <CLI/CLI.hpp>
 #include <charconv>
 #include <cmath>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -35,6 +37,15 @@ struct failure : std::runtime_error {
     using runtime_error::runtime_error;
 };
 
+// A word of the input in a message: without what a terminal would take for more, and not at any length.
+std::string quoted(std::string s) {
+    const size_t length = s.size();
+    if (length > 60) s.resize(40);
+    for (char& c : s)
+        if (iscntrl((unsigned char)c)) c = '?';
+    return "'" + s + (length > 60 ? "...' (" + std::to_string(length) + " characters)" : "'");
+}
+
 size_t edit_distance(std::string_view a, std::string_view b) {
     std::vector<size_t> row(b.size() + 1);
     for (size_t j = 0; j <= b.size(); j++)
@@ -52,29 +63,48 @@ size_t edit_distance(std::string_view a, std::string_view b) {
 
 std::string short_name(const call_plan& p) { return p.symbol.substr(std::string_view("__orvane_l9_").size()); }
 
+// What is meant by a name that is none: the whole sentence.
+std::string no_such_export(const std::string& name) {
+    const std::string no_export = "no export " + quoted(name);
+    if (name.size() > 64) return no_export;
+    const auto base = name.substr(0, name.find('_'));
+    const auto suffix = name.substr(base.size());
+    for (const auto& row : library_rows()) {
+        if (row.name == base && row.suffix() == suffix)
+            return no_export + ": its width is missing; there are " + base + "1" + suffix + ", " + base + "2" +
+                   suffix + ", " + base + "3" + suffix + ", " + base + "4" + suffix + ", " + base + "8" + suffix +
+                   " and " + base + "16" + suffix;
+    }
+    // A width in the wrong place, as in sin8f.
+    for (size_t at = 0; at < base.size(); at++)
+        for (size_t n = 1; n <= 2 && at + n < base.size(); n++) {
+            const auto moved = base.substr(0, at) + base.substr(at + n) + base.substr(at, n) + suffix;
+            if (isdigit(base[at]) && !plan_of(library_rows(), moved).symbol.empty())
+                return no_export + ": the width stands at the end of the family's name, as in " + moved;
+        }
+    std::vector<std::pair<size_t, std::string>> near;
+    for (const auto& row : library_rows())
+        for (int w : widths) {
+            if (!row.built) continue;
+            const std::string s = short_name(plan_of(row, w));
+            near.emplace_back(edit_distance(name, s), s);
+        }
+    std::partial_sort(near.begin(), near.begin() + 3, near.end());
+    return no_export + "; the nearest are " + near[0].second + ", " + near[1].second + " and " + near[2].second;
+}
+
 call_plan find_plan(std::string name) {
     if (name.starts_with("__orvane_l9_")) name.erase(0, 12);
     call_plan p = plan_of(library_rows(), name);
-    if (p.symbol.empty()) {
-        std::vector<std::pair<size_t, std::string>> near;
-        for (const auto& row : library_rows())
-            for (int w : widths) {
-                if (!row.built) continue;
-                const std::string s = short_name(plan_of(row, w));
-                near.emplace_back(edit_distance(name, s), s);
-            }
-        std::partial_sort(near.begin(), near.begin() + 3, near.end());
-        throw failure("no export '" + name + "'; the nearest are " + near[0].second + ", " + near[1].second +
-                      " and " + near[2].second);
-    }
-    if (!p.row->built) throw failure("'" + name + "' is in the list of exports but not built yet");
+    if (p.symbol.empty()) throw failure(no_such_export(name));
+    if (!p.row->built) throw failure(quoted(name) + " is in the list of exports but not built yet");
     return p;
 }
 
 // A number of a lane as its bit pattern.
 uint64_t parse_number(const std::string& text, lane_type t) {
     const auto bad = [&](const std::string& why) {
-        return failure("'" + text + "' is no lane of type " + std::string(opencl_type(t)) + ": " + why);
+        return failure(quoted(text) + " is no lane of type " + std::string(opencl_type(t)) + ": " + why);
     };
     const char* s = text.c_str();
     char* end;
@@ -82,6 +112,7 @@ uint64_t parse_number(const std::string& text, lane_type t) {
     const bool hex = text.find("0x") != text.npos || text.find("0X") != text.npos;
     const bool power = text.find_first_of("pP") != text.npos;
     if (text.empty()) throw bad("write a decimal, 0x...p... or the bits as 0x...");
+    if (text.find_first_of(" \t\n\v\f\r") != text.npos) throw bad("a number has no spaces");
     if (hex && !power) {
         const uint64_t w = strtoull(s, &end, 16);
         if (*end || text[0] == '-') throw bad("bits are 0x and hexadecimal digits, without a sign");
@@ -117,7 +148,7 @@ std::vector<std::string> split(const std::string& s, char by) {
 std::vector<uint64_t> parse_lane(const std::string& word, const kernel_row& row) {
     const auto parts = split(word, ',');
     if ((int)parts.size() != row.arguments())
-        throw failure("lane '" + word + "' has " + std::to_string(parts.size()) + " number(s); " +
+        throw failure("lane " + quoted(word) + " has " + std::to_string(parts.size()) + " number(s); " +
                       std::string(row.name) + " takes " + std::to_string(row.arguments()) + ", joined by commas");
     std::vector<uint64_t> lane;
     for (int j = 0; j < row.arguments(); j++)
@@ -211,7 +242,8 @@ public:
                 s += std::string("  ") + digits + "  " + error;
                 r["true"] = digits;
                 if (std::isfinite(e)) r["ulps"] = e;
-                compared = true, worst = std::max(worst, e);
+                compared = true;
+                if (!(e <= worst) || where.empty()) worst = e, where = in;
             }
 #endif
             lane["results"].push_back(r);
@@ -224,12 +256,14 @@ public:
     }
     bool has_compared() const { return compared; } // with a true value that is known
     double worst_error() const { return worst; }
+    const lane_words& worst_arguments() const { return where; }
 
 private:
     const call_plan& plan;
     bool as_json;
     bool compared = false;
     double worst = 0;
+    lane_words where; // of the worst error
 #ifdef ORVANE_WITH_MPFR
     truth value;
 #endif
@@ -253,49 +287,49 @@ private:
     bool on;
 };
 
-// A file that appears only when it is complete.
+// Standard output, or a file that appears only when it is complete.
 class output {
 public:
-    explicit output(const std::string& path) : path(path), part(path + ".part") {
-        if (path.empty()) return;
-        file.open(part);
-        if (!file) throw failure("cannot write '" + path + "': " + strerror(errno));
+    explicit output(const std::string& path) {
+        if (!path.empty()) file.emplace(path);
     }
-    ~output() {
-        if (file.is_open()) file.close(), fs::remove(part);
+    // What cannot be written ends the run at once.
+    output& operator<<(const std::string& s) {
+        std::ostream& to = file ? file->out : std::cout;
+        errno = 0;
+        if (!(to << s)) fail();
+        return *this;
     }
-    std::ostream& stream() { return path.empty() ? std::cout : file; }
     void complete() {
-        stream().flush();
-        if (!stream()) throw failure("cannot write " + (path.empty() ? "standard output" : "'" + path + "'"));
-        if (path.empty()) return;
-        file.close();
-        std::error_code error;
-        fs::rename(part, path, error);
-        if (!error) return;
-        fs::remove(part);
-        throw failure("cannot write '" + path + "': " + error.message());
+        if (file) return file->complete();
+        errno = 0;
+        if (!std::cout.flush()) fail();
     }
 
 private:
-    std::string path, part;
-    std::ofstream file;
+    std::optional<whole_file> file;
+
+    void fail() {
+        const int error = errno ? errno : EIO;
+        if (file) file->fail(error);
+        throw std::runtime_error(std::string("cannot write standard output: ") + strerror(error)); // of no input line
+    }
 };
 
-void list_exports(bool as_json, std::ostream& to) {
+void list_exports(bool as_json, output& to) {
     json all = json::array();
     for (const auto& row : library_rows())
         for (int w : widths) {
             if (!row.built) continue;
             const auto name = short_name(plan_of(row, w));
             if (as_json) all.push_back(name);
-            else to << name << '\n';
+            else to << name + "\n";
         }
-    if (as_json) to << all.dump() << '\n';
+    if (as_json) to << all.dump() + "\n";
 }
 
 // Lanes of words: digits of the type's width, without a prefix.
-void run_raw(const call_plan& plan, const void* f, bool as_json, std::ostream& to) {
+void run_raw(const call_plan& plan, const void* f, bool as_json, output& to) {
     const kernel_row& row = *plan.row;
     stream lanes(plan, f);
     auto print = [&](const lane_words&, const lane_words& out) {
@@ -308,11 +342,12 @@ void run_raw(const call_plan& plan, const void* f, bool as_json, std::ostream& t
         }
         if (as_json) s[n++] = '"', s[n++] = ']';
         s[n++] = '\n';
-        to.write(s, n);
+        to << std::string(s, n);
     };
     std::string line;
     bool any = false;
     for (size_t number = 1; std::getline(std::cin, line); number++) {
+        if (line.find('\0') != line.npos) throw failure("line " + std::to_string(number) + " holds a NUL byte");
         lane_words lane;
         const char* p = line.c_str();
         while (*(p += strspn(p, " \t\r"))) {
@@ -322,7 +357,7 @@ void run_raw(const call_plan& plan, const void* f, bool as_json, std::ostream& t
             uint64_t w = 0;
             std::from_chars(p, end, w, 16);
             if (!digits || digits > most || !strchr(" \t\r", *end))
-                throw failure("line " + std::to_string(number) + ": '" + line + "' is not " +
+                throw failure("line " + std::to_string(number) + ": " + quoted(line) + " is not " +
                               std::to_string(row.arguments()) + " hexadecimal word(s) of the type's width");
             lane.push_back(w);
             p = end;
@@ -354,6 +389,7 @@ template <class Use> void for_all_lanes(const std::string& from, const kernel_ro
     for (size_t number = 1; std::getline(in, line); number++) {
         read += line.size() + 1;
         bar.at(std::min(read, size));
+        if (line.find('\0') != line.npos) throw failure("line " + std::to_string(number) + " holds a NUL byte");
         if (const auto comment = line.find('#'); comment != line.npos) line.resize(comment);
         std::stringstream words(line);
         for (std::string word; words >> word; count++)
@@ -366,17 +402,21 @@ template <class Use> void for_all_lanes(const std::string& from, const kernel_ro
     if (!count) throw failure((from == "-" ? "standard input" : "'" + from + "'") + " holds no lanes");
 }
 
-void run_stream(const call_plan& plan, const void* f, const std::string& from, printer& print, std::ostream& to,
+void run_stream(const call_plan& plan, const void* f, const std::string& from, printer& print, output& to,
                 bool bar_shown) {
     stream lanes(plan, f);
-    auto use = [&](const lane_words& a, const lane_words& r) { to << print.line(a, r); };
+    bool first = true;
+    auto use = [&](const lane_words& a, const lane_words& r) {
+        const std::string line = print.line(a, r);
+        to << (std::exchange(first, false) ? print.header() + line : line);
+    };
     for_all_lanes(from, *plan.row, bar_shown, [&](const lane_words& lane) { lanes.add(lane, use); });
     lanes.flush(use);
 }
 
 // The number of lanes and the largest error, in place of the lanes.
 void run_summary(const call_plan& plan, const void* f, const std::string& from, printer& print, bool as_json,
-                 std::ostream& to, bool bar_shown) {
+                 output& to, bool bar_shown) {
     stream lanes(plan, f);
     size_t count = 0;
     auto use = [&](const lane_words& a, const lane_words& r) { print.line(a, r), count++; };
@@ -384,15 +424,24 @@ void run_summary(const call_plan& plan, const void* f, const std::string& from, 
     lanes.flush(use);
     if (as_json) {
         json j{{"export", plan.symbol}, {"lanes", count}, {"largest error in ulps", nullptr}};
-        if (print.has_compared()) j["largest error in ulps"] = print.worst_error();
-        to << j.dump() << '\n';
+        if (print.has_compared()) {
+            j["largest error in ulps"] = print.worst_error();
+            for (size_t i = 0; i < print.worst_arguments().size(); i++)
+                j["at"].push_back(pattern(plan.row->argument(i), print.worst_arguments()[i]));
+        }
+        to << j.dump() + "\n";
         return;
     }
     char s[160];
-    int n = snprintf(s, sizeof s, "%-16s %8zu lanes, ", short_name(plan).c_str(), count);
-    if (print.has_compared()) snprintf(s + n, sizeof s - n, "largest error %.3f ulp\n", print.worst_error());
-    else snprintf(s + n, sizeof s - n, "no true value known\n");
-    to << s;
+    snprintf(s, sizeof s, "%-16s %8zu lanes, ", short_name(plan).c_str(), count);
+    std::string line = s;
+    if (print.has_compared()) {
+        snprintf(s, sizeof s, "largest error %.3f ulp at ", print.worst_error());
+        line += s;
+        for (size_t j = 0; j < print.worst_arguments().size(); j++)
+            line += (j ? "," : "") + shown(plan.row->argument(j), print.worst_arguments()[j]);
+    } else line += "no true value known";
+    to << line + "\n";
 }
 
 int run(int argc, char** argv) {
@@ -401,15 +450,20 @@ int run(int argc, char** argv) {
     std::vector<std::string> lanes;
     bool raw = false, list = false, as_json = false, summary = false;
     app.add_option("export", name, "expf8_half, __orvane_l9_powf2, ...");
-    app.add_option("lanes", lanes, "a word a lane, as many as the width; the arguments of one lane joined by commas")
+    app.add_option("lanes", lanes,
+                   "a word a lane, as many as the width; the arguments of one lane joined by commas. A number is "
+                   "decimal (1.5, "
+                   "-inf, nan), a hexadecimal float (0x1.8p3) or, 0x without a p, its bits (0x3fc00000)")
         ->allow_extra_args();
     app.add_option("-i,--input", from, "read lanes from a file, or - for standard input; # begins a comment");
-    app.add_option("-o,--output", to, "write to a file, which appears only when it is complete");
+    app.add_option("-o,--output", to,
+                   "write to a file, which appears only when it is complete (devices and FIFOs as they are)");
     app.add_option("--library", library_path, "the shared library (default: the one beside this program)");
     app.add_flag("--raw", raw, "hexadecimal words from standard input, a lane a line; words to standard output");
     app.add_flag("--list", list, "names of all built exports");
     app.add_flag("--json", as_json, "output as JSON, an object a line");
-    app.add_flag("--summary", summary, "only the number of lanes of a stream and the largest error");
+    app.add_flag("--summary", summary,
+                 "only the number of lanes of a stream and the largest error with its argument");
     // Negative numbers are lanes, not options: they are marked while the command line is parsed.
     constexpr char mark = '\x01';
     std::vector<std::string> args;
@@ -429,9 +483,12 @@ int run(int argc, char** argv) {
     for (auto& lane : lanes)
         if (lane.starts_with(mark)) lane.erase(0, 1);
 
-    output out(to);
     if (list && !name.empty()) throw failure("--list takes no export; it names them all");
-    if (list) return list_exports(as_json, out.stream()), out.complete(), 0;
+    if (raw && summary) throw failure("--raw gives words and --summary a line for all of them: take one of the two");
+    if (list) {
+        output out(to);
+        return list_exports(as_json, out), out.complete(), 0;
+    }
     if (name.empty()) throw failure("name an export, such as expf8_half; orvane-call --list prints all of them");
     const call_plan plan = find_plan(name);
 
@@ -445,7 +502,8 @@ int run(int argc, char** argv) {
 
     if (raw) {
         if (!lanes.empty() || !from.empty()) throw failure("--raw reads lanes from standard input alone");
-        return run_raw(plan, f, as_json, out.stream()), out.complete(), 0;
+        output out(to);
+        return run_raw(plan, f, as_json, out), out.complete(), 0;
     }
 
     printer print(plan, as_json);
@@ -453,9 +511,9 @@ int run(int argc, char** argv) {
         if (!lanes.empty()) throw failure("lanes come from the command line or from -i, not from both");
         if (from.empty()) from = "-";
         const bool bar_shown = !to.empty() || summary || !isatty(STDOUT_FILENO); // not among lanes on the terminal
-        if (summary) return run_summary(plan, f, from, print, as_json, out.stream(), bar_shown), out.complete(), 0;
-        out.stream() << print.header();
-        run_stream(plan, f, from, print, out.stream(), bar_shown);
+        output out(to);
+        if (summary) return run_summary(plan, f, from, print, as_json, out, bar_shown), out.complete(), 0;
+        run_stream(plan, f, from, print, out, bar_shown);
         return out.complete(), 0;
     }
     if (summary) throw failure("--summary is for the lanes of a file or of standard input");
@@ -466,9 +524,10 @@ int run(int argc, char** argv) {
     for (const auto& lane : lanes)
         parsed.push_back(parse_lane(lane, *plan.row));
     stream vector(plan, f);
-    out.stream() << print.header();
+    output out(to);
+    out << print.header();
     for (const auto& lane : parsed)
-        vector.add(lane, [&](const lane_words& a, const lane_words& r) { out.stream() << print.line(a, r); });
+        vector.add(lane, [&](const lane_words& a, const lane_words& r) { out << print.line(a, r); });
     return out.complete(), 0;
 }
 
@@ -477,6 +536,11 @@ int run(int argc, char** argv) {
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);
+    signal(SIGPIPE, SIG_IGN);                // a closed output is an error like others
+    if (fcntl(STDOUT_FILENO, F_GETFD) < 0) { // no file that is opened may take its place
+        while (open("/dev/null", O_RDONLY) < STDOUT_FILENO)
+            continue;
+    }
     try {
         return run(argc, argv);
     } catch (const std::exception& e) {

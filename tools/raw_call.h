@@ -20,6 +20,13 @@ struct alignas(32) machine_state {
     uint16_t x87_control, x87_tag; // the tag word is only stored: 0xFFFF is an empty register stack
     uint64_t called_at;            // only stored: the stack pointer at the call instruction
 };
+// raw_call.S reads and writes it by these numbers.
+static_assert(offsetof(machine_state, vector) == 0 && sizeof machine_state::vector == 16 * 32);
+static_assert(offsetof(machine_state, integer) == 512 && sizeof machine_state::integer == 16 * 8);
+static_assert(offsetof(machine_state, flags) == 640 && offsetof(machine_state, mxcsr) == 648);
+static_assert(offsetof(machine_state, x87_control) == 652 && offsetof(machine_state, x87_tag) == 654);
+static_assert(offsetof(machine_state, called_at) == 656 && alignof(machine_state) == 32);
+static_assert(rax == 0 && rsp == 4 && r8 == 8 && r15 == 15);
 
 // Calls `function` with the registers of `in` and a copy of `stack_bytes` bytes of arguments at its stack pointer +
 // 8, and stores what it finds at the return in `out`. The stack pointer at the call instruction is a multiple of 64

@@ -58,6 +58,13 @@ std::string twin_of(const kernel_row& row, int width) {
     return plan_of(*find_row(library_rows(), row.twin_name, row.twin_tier), width).symbol;
 }
 
+// The scalar families whose slow paths compute in extended precision. Their text on the state that this wants is
+// below.
+bool uses_x87(const kernel_row& row) {
+    const std::string base = row.base();
+    return base == "lgamma" || base == "lgammar" || (base == "tgamma" && row.in == lane_type::f64);
+}
+
 json object_of(const kernel_row& row, int width) {
     const call_plan p = plan_of(row, width);
     json j{{"symbol", p.symbol},
@@ -88,6 +95,8 @@ json object_of(const kernel_row& row, int width) {
         preserved.push_back(r);
     for (int v = 8; v < 16 && !p.memory_form; v++)
         preserved.push_back("ymm" + std::to_string(v));
+    for (int i = 0; i < 8 && uses_x87(row); i++)
+        clobbered.push_back("st" + std::to_string(i));
     j["clobbered"] = clobbered;
     j["preserved"] = preserved;
     if (const auto twin = twin_of(row, width); twin.empty()) j["twin_of"] = nullptr;
@@ -191,7 +200,11 @@ std::string header() {
  * declared for its address alone, with its registers; orvane/call.hpp calls it from C++ by that address.
  *
  * Every call keeps rbx, rbp, rsp, r12 to r15; a register-form call also vector registers 8 to 15, all 256 bits, and rdi
- * and rsi unless an argument travels there. A compiler that calls through this header need not know. */
+ * and rsi unless an argument travels there. A compiler that calls through this header need not know.
+ *
+ * lgamma, lgammaf, lgammar, lgammarf and tgamma compute on the x87 unit: its register stack must be empty at the call (emms
+ * after MMX code) and is empty again at the return. The double ones set significands of 64 bits in its control word and put
+ * the caller's word back; the float ones count on them, which is the default. All compute under its rounding mode. */
 #ifndef ORVANE_H
 #define ORVANE_H
 
@@ -236,7 +249,11 @@ extern "C" {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2 || !std::filesystem::is_directory(argv[1])) {
+    if (argc == 2 && argv[1][0] != '-' && !std::filesystem::is_directory(argv[1])) {
+        std::cerr << "write-exports: '" << argv[1] << "' is no folder; name an existing one\n";
+        return 2;
+    }
+    if (argc != 2 || argv[1][0] == '-') {
         std::cerr << "usage: write-exports FOLDER, an existing one, for exports.json and orvane.h\n";
         return 2;
     }

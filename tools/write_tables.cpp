@@ -1,4 +1,4 @@
-// Writes every table that follows a rule: write_tables ROOT [FILE...], or checks them: write_tables --check ROOT.
+// Writes every table that follows a rule: write-tables ROOT [FILE...], or checks them: write-tables --check ROOT.
 #include "tables/table.h"
 #include "whole_file.h"
 
@@ -13,15 +13,19 @@ int main(int argc, char** argv) {
     std::vector<std::string> args(argv + 1, argv + argc);
     const bool check = !args.empty() && args[0] == "--check";
     if (check) args.erase(args.begin());
-    if (args.empty() || !fs::is_directory(args[0])) {
-        std::cerr << "usage: write_tables [--check] ROOT [TABLE...], with ROOT the root of the sources\n";
+    if (!args.empty() && !args[0].starts_with("-") && !fs::is_directory(args[0])) {
+        std::cerr << "write-tables: '" << args[0] << "' is no folder; name the root of the sources\n";
+        return 2;
+    }
+    if (args.empty() || args[0].starts_with("-")) {
+        std::cerr << "usage: write-tables [--check] ROOT [TABLE...], with ROOT the root of the sources\n";
         return 2;
     }
     const fs::path root = args[0];
     const auto tables = all_tables();
     for (size_t i = 1; i < args.size(); i++)
         if (std::none_of(tables.begin(), tables.end(), [&](auto& t) { return t.path == args[i]; })) {
-            std::cerr << "no table '" << args[i] << "': one of";
+            std::cerr << "write-tables: no table '" << args[i] << "': one of";
             for (auto& t : tables)
                 std::cerr << ' ' << t.path;
             std::cerr << '\n';
@@ -39,7 +43,7 @@ int main(int argc, char** argv) {
             try {
                 orvane::write_whole(root / t.path, w.text);
             } catch (const std::exception& e) {
-                std::cerr << "write_tables: " << e.what() << '\n';
+                std::cerr << "write-tables: " << e.what() << '\n';
                 return 1;
             }
             std::cout << t.path << '\n';

@@ -1,5 +1,5 @@
 // Calls of every export of liborvane_l9.so from C++, those too that C cannot declare: results in several registers,
-// pairs, wide vectors. Header only; x86-64 with AVX, GCC or Clang.
+// pairs, wide vectors. Header only; C++17, x86-64 with AVX, GCC or Clang.
 //
 //     void* f = dlsym(library, "__orvane_l9_exp16_native");
 //     orvane::vec<double, 16> y = orvane::call<double>(f, x);                    // x is a vec<double, 16>
@@ -10,6 +10,10 @@
 // has room for its spare lane, which the export fills on its own; an integer lane at width 1 travels as emitted code
 // passes it. The address must be that of an export with this signature; exports.json says which it is.
 #pragma once
+
+#if __cplusplus < 201703L
+#error "orvane/call.hpp: compile as C++17 or newer"
+#endif
 
 #include <cstdint>
 #include <cstring>

@@ -6,7 +6,11 @@
  * declared for its address alone, with its registers; orvane/call.hpp calls it from C++ by that address.
  *
  * Every call keeps rbx, rbp, rsp, r12 to r15; a register-form call also vector registers 8 to 15, all 256 bits, and rdi
- * and rsi unless an argument travels there. A compiler that calls through this header need not know. */
+ * and rsi unless an argument travels there. A compiler that calls through this header need not know.
+ *
+ * lgamma, lgammaf, lgammar, lgammarf and tgamma compute on the x87 unit: its register stack must be empty at the call (emms
+ * after MMX code) and is empty again at the return. The double ones set significands of 64 bits in its control word and put
+ * the caller's word back; the float ones count on them, which is the default. All compute under its rounding mode. */
 #ifndef ORVANE_H
 #define ORVANE_H
 
