@@ -651,7 +651,7 @@ orvane_float4 __orvane_l9_invf4_half(orvane_float4 x);
 orvane_float8 __orvane_l9_invf8_half(orvane_float8 x);
 void __orvane_l9_invf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
-/* sqrt: Square root. NaN of negative numbers; zeros come back as they are. */
+/* sqrt: Square root. NaN of negative numbers; zeros come back as they are. The native tier of float gives NaN of zeros and +Inf, and +Inf of positive subnormal numbers. */
 orvane_double2 __orvane_l9_sqrt1(orvane_double2 x);
 orvane_double2 __orvane_l9_sqrt2(orvane_double2 x);
 orvane_double4 __orvane_l9_sqrt3(orvane_double4 x);
@@ -671,7 +671,7 @@ orvane_double4 __orvane_l9_sqrt4_half(orvane_double4 x);
 void __orvane_l9_sqrt8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 void __orvane_l9_sqrt16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
 
-/* sqrtf: Square root. NaN of negative numbers; zeros come back as they are. */
+/* sqrtf: Square root. NaN of negative numbers; zeros come back as they are. The native tier of float gives NaN of zeros and +Inf, and +Inf of positive subnormal numbers. */
 orvane_float4 __orvane_l9_sqrtf1(orvane_float4 x);
 orvane_float4 __orvane_l9_sqrtf2(orvane_float4 x);
 orvane_float4 __orvane_l9_sqrtf3(orvane_float4 x);
