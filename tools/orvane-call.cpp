@@ -59,7 +59,6 @@ call_plan find_plan(std::string name) {
         std::vector<std::pair<size_t, std::string>> near;
         for (const auto& row : library_rows())
             for (int w : widths) {
-                if (!row.built) continue;
                 const std::string s = short_name(plan_of(row, w));
                 near.emplace_back(edit_distance(name, s), s);
             }
@@ -67,7 +66,6 @@ call_plan find_plan(std::string name) {
         throw failure("no export '" + name + "'; the nearest are " + near[0].second + ", " + near[1].second +
                       " and " + near[2].second);
     }
-    if (!p.row->built) throw failure("'" + name + "' is in the list of exports but not built yet");
     return p;
 }
 
@@ -286,7 +284,6 @@ void list_exports(bool as_json, std::ostream& to) {
     json all = json::array();
     for (const auto& row : library_rows())
         for (int w : widths) {
-            if (!row.built) continue;
             const auto name = short_name(plan_of(row, w));
             if (as_json) all.push_back(name);
             else to << name << '\n';
@@ -407,7 +404,7 @@ int run(int argc, char** argv) {
     app.add_option("-o,--output", to, "write to a file, which appears only when it is complete");
     app.add_option("--library", library_path, "the shared library (default: the one beside this program)");
     app.add_flag("--raw", raw, "hexadecimal words from standard input, a lane a line; words to standard output");
-    app.add_flag("--list", list, "names of all built exports");
+    app.add_flag("--list", list, "names of all exports");
     app.add_flag("--json", as_json, "output as JSON, an object a line");
     app.add_flag("--summary", summary, "only the number of lanes of a stream and the largest error");
     // Negative numbers are lanes, not options: they are marked while the command line is parsed.
