@@ -136,7 +136,7 @@ public:
     void add_family(std::string_view name) {
         std::vector<const kernel_row*> kernels;
         for (const kernel_row& row : library_rows())
-            if (row.built && row.name == name) {
+            if (row.name == name) {
                 tiers[kernel_of(&row)].push_back(&row);
                 if (kernel_of(&row) == &row) kernels.push_back(&row);
             }
@@ -295,7 +295,7 @@ int main(int argc, char** argv) {
     }
     std::vector<std::string> families;
     for (const kernel_row& row : library_rows())
-        if (row.built && (families.empty() || families.back() != row.name)) families.emplace_back(row.name);
+        if ((families.empty() || families.back() != row.name)) families.emplace_back(row.name);
 
     std::set<std::string> picked;
     for (int i = 1; i < count; i++) {

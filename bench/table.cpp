@@ -1,7 +1,10 @@
 #include "bench/table.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <nlohmann/json.hpp>
+#include <sstream>
 #include <unistd.h>
 
 namespace orvane::bench {
@@ -28,12 +31,13 @@ void print_table(const std::vector<table_row>& rows, const gathering_reporter& m
         return s + suffix;
     };
 
-    std::vector<std::vector<std::string>> cells = {{"family", "tier", "width", "ulp", "ns/lane", "vector peer", "ratio",
-                                                    "libm", "ratio", "1 special in 64", "vector peer", "ratio", "libm",
-                                                    "ratio"},
+    std::vector<std::vector<std::string>> cells = {{"family", "tier", "width", "ulp", "ns/lane", "vector peer",
+                                                    "ratio", "libm", "ratio", "1 special in 64", "vector peer",
+                                                    "ratio", "libm", "ratio"},
                                                    {}};
     for (const table_row& r : rows) {
-        std::vector<std::string> line = {r.family, r.tiers, std::to_string(r.width), text(r.error < 100 ? "%.2f" : "%.3g", r.error)};
+        std::vector<std::string> line = {r.family, r.tiers, std::to_string(r.width),
+                                         text(r.error < 100 ? "%.2f" : "%.3g", r.error)};
         bool any = false;
         for (const lane_set set : {r.set, special}) {
             auto of = [&](const std::string& name) {
@@ -64,6 +68,45 @@ void print_table(const std::vector<table_row>& rows, const gathering_reporter& m
         }
         puts("|");
     }
+}
+
+namespace {
+// "default = rm, huge" has two tiers.
+std::vector<std::string> tiers_of(const table_row& r) {
+    std::istringstream words(r.tiers.substr(0, r.tiers.find(',')));
+    std::vector<std::string> tiers;
+    for (std::string word; words >> word;)
+        if (word != "=") tiers.push_back(word);
+    return tiers;
+}
+} // namespace
+
+std::string as_json(const std::vector<table_row>& rows, const gathering_reporter& measured,
+                    const std::string& processor) {
+    using json = nlohmann::ordered_json;
+    json all = json::array();
+    for (const table_row& r : rows)
+        for (const lane_set set : {r.set, special}) {
+            if (r.set != ordinary && set != r.set) continue;
+            auto of = [&](const std::string& name) { return measured.nanoseconds(name + '/' + lane_set_names[set]); };
+            auto rounded = [](double ns) { return std::round(ns * 1000) / 1000; };
+            if (of(r.ours) < 0) continue;
+            json row{{"family", r.family},
+                     {"tiers", tiers_of(r)},
+                     {"set", lane_set_names[set]},
+                     {"width", r.width},
+                     {"ns", rounded(of(r.ours))}};
+            if (!r.sleef.empty()) {
+                row["peer"] = r.sleef_name.empty() ? "SLEEF" : r.sleef_name;
+                row["peer_ns"] = rounded(of(r.sleef));
+            }
+            if (!r.scalar.empty()) row["libm_ns"] = rounded(of(r.scalar));
+            all.push_back(row);
+        }
+    std::string text = "{\"processor\":" + json(processor).dump() + ",\"rows\":[\n";
+    for (const json& row : all)
+        text += row.dump() + (&row == &all.back() ? "\n" : ",\n");
+    return text + "]}\n";
 }
 
 } // namespace orvane::bench

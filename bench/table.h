@@ -39,4 +39,9 @@ private:
 
 void print_table(const std::vector<table_row>&, const gathering_reporter&);
 
+// The same figures for programs: an object with `processor` and `rows`, one row for each line of the table that was
+// measured: `family`, `tiers` (an array), `set`, `width`, `ns` (nanoseconds a lane), and where there is such a peer
+// `peer` (its name) with `peer_ns`, and `libm_ns`.
+std::string as_json(const std::vector<table_row>&, const gathering_reporter&, const std::string& processor);
+
 } // namespace orvane::bench

@@ -214,8 +214,8 @@ template <int W> ORVANE_INLINE lanes<uint64_t, W> long_lanes(const slot<uint32_t
     return *(const typename lanes<uint64_t, W>::raw*)words.lane;
 }
 
-template <const auto& Block, auto& Rare, bool Reciprocal>
-struct dcbrt_kernel : kernel<one_argument<double>, Block, Rare> {
+template <const auto& Block, auto& Rare, bool Reciprocal> struct dcbrt_kernel
+    : kernel<one_argument<double>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         using V = lanes<double, W>;
         lane_bits<W> special = not_normal(c, x);
@@ -265,8 +265,8 @@ ORVANE_INLINE auto root_offset(lanes<uint32_t, W> rem, lanes<uint32_t, W> i4, la
     return andnot(as<uint32_t>(special), Entry == 8 ? (rem << 8) + (i4 + i4) : (rem << 7) + i4);
 }
 
-// The table's point is the reciprocal r of c, five bits of the processor's estimate of 1 / m (which of 1.0 is below
-// 1.0); u = r m - 1.
+// The table's point is the reciprocal r of c, five bits of the processor's estimate of 1 / m; u = r m - 1. The rows
+// are for 1/2 <= r < 1: an estimate beyond (that of 1.0 is 1.0 itself on some processors) is taken back.
 template <const auto& Block> struct scbrt_kernel : kernel<one_argument<float>, Block, __orvane_scbrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         using V = lanes<float, W>;
@@ -274,7 +274,8 @@ template <const auto& Block> struct scbrt_kernel : kernel<one_argument<float>, B
         ? 8 : 4;
         auto special = not_normal(c, x);
         auto m = (x & c.m_mask_f) | c.one_f;
-        auto r = reciprocal_estimate(m) & c.rcp_mask_f;
+        const V below_one(f32(0x3F7FFFFF)), half(0.5f);
+        auto r = max(min(reciprocal_estimate(m), below_one), half) & c.rcp_mask_f;
         auto u = fma(r, m, -V(c.one_f));
         auto i4 = (bits(r) >> 16) & c.i_mask_f;
         auto [q, rem, sign] = exponent_thirds(c, x);
@@ -296,7 +297,8 @@ using scbrt_native = scbrt_kernel<__orvane_scbrt_native_data>;
 ORVANE_EXPORT(cbrtf, , scbrt)
 ORVANE_EXPORT(cbrtf, _native, scbrt_native)
 
-template <const auto& Block> struct sinvcbrt_kernel : kernel<one_argument<float>, Block, __orvane_sinvcbrt_cout_rare> {
+template <const auto& Block> struct sinvcbrt_kernel
+    : kernel<one_argument<float>, Block, __orvane_sinvcbrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         using V = lanes<float, W>;
         constexpr int entry_bytes = requires { c.root_pairs_f; }

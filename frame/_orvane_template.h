@@ -5,11 +5,11 @@
 //     struct K : kernel<one_argument<float>, block, slow_path> {
 //         template <int W> static auto vector_path(block, x...)
 //
-// of a signature (which lanes come in and go out: calling.h), its constant block if it has one, and its slow path if it
-// can have special lanes (the block is no_block where there is none before it). The formula runs on W lanes of each
-// argument and returns an `answer`: the result, a second result or out-lane, and the special lanes, each marked by its
-// sign (by a lane of ones, say). The rest of an instance is here: spare lane, copy-up of low lanes, the formula register
-// by register, the one branch of the ordinary path, the callout, results in their places.
+// of a signature (which lanes come in and go out: calling.h), its constant block if it has one, and its slow path if
+// it can have special lanes (the block is no_block where there is none before it). The formula runs on W lanes of
+// each argument and returns an `answer`: the result, a second result or out-lane, and the special lanes, each marked
+// by its sign (by a lane of ones, say). The rest of an instance is here: spare lane, copy-up of low lanes, the
+// formula register by register, the one branch of the ordinary path, the callout, results in their places.
 //
 // A kernel may have more:
 //
@@ -33,6 +33,7 @@
 #include "calling.h"
 #include "callout.h"
 #include "lanes.h"
+#include "lookups.h"
 #include "slots.h"
 
 namespace orvane {
@@ -146,138 +147,168 @@ template <class A, int C, size_t N> struct answers {
 
 } // namespace detail
 
-template <class K, int W, class Wrapper = void>
+// A kernel's steps as objects, for the rooms below to run on chunks of C lanes.
+#define ORVANE_STEP(name, member)                                                                                    \
+    template <class K, int C> struct name {                                                                          \
+        ORVANE_INLINE auto operator()(const auto&... a) const { return K::template member<C>(a...); }                \
+    };
+ORVANE_STEP(formula, vector_path)
+ORVANE_STEP(settle, settle)
+ORVANE_STEP(large_path, large_path)
+ORVANE_STEP(reduce, reduce)
+ORVANE_STEP(large_reduce, large_reduce)
+#undef ORVANE_STEP
+
+// Chunk I of every argument, with its spare lane set and its low lanes copied up.
+template <class K, int W, int I> ORVANE_INLINE auto admit_chunk(const incoming<typename K::signature, W>& came) {
+    using arguments = typename K::signature::arguments;
+    constexpr int C = layout<typename K::signature, W>::chunk;
+    return [&]<int... J>(std::integer_sequence<int, J...>) ORVANE_LAMBDA {
+        return std::tuple{admit<C>(came.template chunk<J, I>(), (typename arguments::template at<J>)K::spare)...};
+    }
+    (std::make_integer_sequence<int, arguments::count>{});
+}
+
+// Whether a chunk's steps run on the ordinary path, or behind a branch that ordinary vectors never take.
+enum class moment { at_first, behind_branch };
+using enum moment;
+
+// First room: the lanes that came in, and the steps that run on them.
+//
+// Arguments in registers are admitted at once and stay there. Arguments on the stack are loaded where a chunk needs
+// them, and again behind a branch, instead of being kept in registers in between; the compiler may not see that these
+// loads are the same.
+template <class K, int W> struct admission {
+    using S = typename K::signature;
+    using L = layout<S, W>;
+    static constexpr int C = L::chunk, N = L::chunks;
+
+    incoming<S, W> came;
+    objects where;
+    decltype(admit_chunk<K, W, 0>(came)) x[N];
+    decltype(&K::block) block = &K::block;
+
+    ORVANE_INLINE admission(uint64_t i0, uint64_t i1, const first_vector<S, W>& v0, __m256 v1, __m256 v2, __m256 v3) {
+        came.integer[0] = i0;
+        came.integer[1] = i1;
+        if constexpr (L::in_memory) {
+            came.stack = v0.bytes;
+            where = {(void*)i0, (void*)i1};
+        } else {
+            came.vector[0] = v0;
+            came.vector[1] = v1;
+            came.vector[2] = v2;
+            came.vector[3] = v3;
+            where = {nullptr, (void*)i0};
+            each<N>([&](auto i) ORVANE_LAMBDA { x[i] = admit_chunk<K, W, i>(came); });
+        }
+    }
+
+    template <moment When> ORVANE_INLINE auto chunk(auto i) const {
+        if constexpr (L::in_memory) {
+            incoming<S, W> from = came;
+            if constexpr (When == behind_branch) asm("" : "+r"(from.stack) : "i"(+i));
+            return admit_chunk<K, W, i>(from);
+        } else return x[i];
+    }
+
+    // A step on one chunk: its constants, its arguments, and what earlier steps gave.
+    template <moment When, template <class, int> class Step> ORVANE_INLINE auto run(auto i, const auto&... more) {
+        const auto& c = anew(block);
+        const auto x = chunk<When>(i);
+        return detail::applied([&](const auto&... a) ORVANE_LAMBDA { return Step<K, C>()(c, a..., more...); }, x);
+    }
+    // One on every chunk: f(i) runs it on chunk i.
+    template <class F> ORVANE_INLINE auto run_all(F f) {
+        detail::answers<decltype(f(std::integral_constant<int, 0>())), C, N> all;
+        each<N>([&](auto i) ORVANE_LAMBDA { all.put(i, f(i)); });
+        return all;
+    }
+
+    // What lives on behind the branch gets new names: a large path needs all registers, and a value that it keeps in
+    // memory would be there on the ordinary path too.
+    template <class Answers> ORVANE_INLINE void rename(Answers& a) {
+        each<N>([&](auto i) ORVANE_LAMBDA {
+            if constexpr (!L::in_memory) detail::applied([](auto&... b) ORVANE_LAMBDA { ((b = finished(b)), ...); }, x[i]);
+            a.chunk[i].first = finished(a.chunk[i].first);
+            if constexpr (requires { a.chunk[i].second; }) a.chunk[i].second = finished(a.chunk[i].second);
+        });
+    }
+};
+
+// Last room of the ordinary path: results alone, to where the caller looks for them.
+template <class K, int W, class Answers> ORVANE_INLINE auto leave(const admission<K, W>& in, const Answers& a) {
+    decltype(detail::results_of(a.chunk[0])) r[in.N];
+    each<in.N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(a.chunk[i]); });
+    return hand_over<typename K::signature, W>(r, in.where.result, in.where.out);
+}
+
+// Results that the slow path gives or completes: for the lanes in the mask, or for all.
+template <class K, int W, class R, size_t N, class Wrapper>
+ORVANE_INLINE void call_out_lanes(admission<K, W>& in, R (&r)[N], unsigned mask, Wrapper* wrapper) {
+    call_out<K, W>([&](auto i) ORVANE_LAMBDA { return in.template chunk<behind_branch>(i); }, r, mask, wrapper,
+                   in.where);
+}
+
+// Behind the branch: special lanes settled where the kernel can do that, the others by the slow path.
+template <class K, int W, class Answers, class Wrapper>
+ORVANE_INLINE auto leave_by_callout(admission<K, W>& in, Answers& a, Wrapper* wrapper) {
+    if constexpr (detail::has_settle<K>)
+        each<in.N>([&](auto i) ORVANE_LAMBDA { a.put(i, in.template run<behind_branch, settle>(i, a.again(i))); });
+    decltype(detail::results_of(a.chunk[0])) r[in.N];
+    each<in.N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(a.chunk[i]); });
+    const unsigned mask = a.mask();
+    if (!detail::has_settle<K> || mask) call_out_lanes(in, r, mask, wrapper);
+    return hand_over<typename K::signature, W>(r, in.where.result, in.where.out);
+}
+
+// From answers to the return, by the one branch.
+template <class K, int W, class Answers, class Wrapper>
+ORVANE_INLINE auto conclude(admission<K, W>& in, Answers& a, Wrapper* wrapper) {
+    if constexpr (detail::has_special<std::remove_reference_t<decltype(a.chunk[0])>>)
+        if (a.any_special()) return leave_by_callout(in, a, wrapper);
+    return leave(in, a);
+}
+
+// Every lane by the slow path, where a family has no formula.
+template <class K, int W, class Wrapper>
+ORVANE_INLINE auto leave_all_to_slow_path(admission<K, W>& in, Wrapper* wrapper) {
+    using S = typename K::signature;
+    using first = lanes<typename S::results::template at<0>, in.C>;
+    using out = std::conditional_t<S::has_out, typename S::out, float>;
+    std::conditional_t<S::has_out, std::tuple<first, lanes<out, in.C>>, std::tuple<first>> r[in.N];
+    call_out_lanes(in, r, 0, wrapper);
+    return hand_over<S, W>(r, in.where.result, in.where.out);
+}
+
+// One call of an export, from room to room.
+template <class K, int W, class Wrapper>
 ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uint64_t i0, uint64_t i1,
                                                            const first_vector<typename K::signature, W>& v0,
                                                            __m256 v1, __m256 v2, __m256 v3) {
-    using S = typename K::signature;
-    using L = layout<S, W>;
-    constexpr int C = L::chunk, N = L::chunks;
+    admission<K, W> in(i0, i1, v0, v1, v2, v3);
 
-    incoming<S, W> came;
-    came.integer[0] = i0;
-    came.integer[1] = i1;
-    objects where = {nullptr, (void*)i0};
-    if constexpr (L::in_memory) {
-        came.stack = v0.bytes;
-        where = {(void*)i0, (void*)i1};
+    if constexpr (calls_for_all_lanes<K>) return leave_all_to_slow_path(in, wrapper);
+    else if constexpr (detail::has_large_path<K>) {
+        // Where it runs, the large path's answers take over, with its own special lanes.
+        auto a = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i); });
+        if (!a.any_special()) return leave(in, a);
+        in.rename(a);
+        auto large = in.run_all(
+            [&](auto i) ORVANE_LAMBDA { return in.template run<behind_branch, large_path>(i, a.again(i)); });
+        return conclude(in, large, wrapper);
+    } else if constexpr (detail::has_reduce<K>) {
+        auto reduced = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, reduce>(i); });
+        if (reduced.any_special())
+            each<in.N>([&](auto i) ORVANE_LAMBDA {
+                reduced.chunk[i] = in.template run<behind_branch, large_reduce>(i, reduced.again(i));
+            });
+        auto a =
+            in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i, reduced.chunk[i]); });
+        return conclude(in, a, wrapper);
     } else {
-        came.vector[0] = v0;
-        came.vector[1] = v1;
-        came.vector[2] = v2;
-        came.vector[3] = v3;
-    }
-
-    // Spare lane and copy-up, chunk by chunk. Arguments on the stack are loaded where a chunk needs them, and again
-    // behind the branch, instead of being kept in registers in between; the compiler may not see that these loads are
-    // the same.
-    auto admit_chunk = [&](const incoming<S, W>& from, auto i) ORVANE_LAMBDA {
-        return [&]<int... J>(std::integer_sequence<int, J...>) ORVANE_LAMBDA {
-            return std::tuple{
-                admit<C>(from.template chunk<J, i>(), (typename S::arguments::template at<J>)K::spare)...};
-        }
-        (std::make_integer_sequence<int, S::arguments::count>{});
-    };
-    constexpr std::integral_constant<int, 0> first_chunk;
-    decltype(admit_chunk(came, first_chunk)) x[N];
-    if constexpr (!L::in_memory) each<N>([&](auto i) ORVANE_LAMBDA { x[i] = admit_chunk(came, i); });
-    auto arguments_of = [&](auto i, auto again) ORVANE_LAMBDA {
-        if constexpr (L::in_memory) {
-            incoming<S, W> from = came;
-            if constexpr (again) asm("" : "+r"(from.stack) : "i"(+i));
-            return admit_chunk(from, i);
-        } else return x[i];
-    };
-    constexpr std::false_type at_first;
-    constexpr std::true_type behind_branch;
-
-    const auto* block = &K::block;
-    auto on_chunk = [&](auto again, auto i, auto f, const auto&... more) ORVANE_LAMBDA {
-        const auto& c = anew(block);
-        const auto x = arguments_of(i, again);
-        return detail::applied([&](const auto&... a) ORVANE_LAMBDA { return f(c, a..., more...); }, x);
-    };
-    auto callout = [&](auto& r, unsigned mask) ORVANE_LAMBDA {
-        call_out<K, W>([&](auto i) ORVANE_LAMBDA { return arguments_of(i, behind_branch); }, r, mask, wrapper, where);
-    };
-
-    if constexpr (calls_for_all_lanes<K>) {
-        // The results are the slow path's alone.
-        using first = lanes<typename S::results::template at<0>, C>;
-        if constexpr (S::has_out) {
-            std::tuple<first, lanes<typename S::out, C>> r[N];
-            callout(r, 0);
-            return hand_over<S, W>(r, where.result, where.out);
-        } else {
-            std::tuple<first> r[N];
-            callout(r, 0);
-            return hand_over<S, W>(r, where.result, where.out);
-        }
-    } else {
-        auto formula = [&](const auto&... a) ORVANE_LAMBDA { return K::template vector_path<C>(a...); };
-        auto on_all = [&](auto step) ORVANE_LAMBDA {
-            detail::answers<decltype(step(first_chunk)), C, N> all;
-            each<N>([&](auto i) ORVANE_LAMBDA { all.put(i, step(i)); });
-            return all;
-        };
-
-        // From answers to the return: results alone on the ordinary path, the callout behind its branch.
-        auto finish = [&](auto& a) ORVANE_LAMBDA -> entry_result<S, W> {
-            decltype(detail::results_of(a.chunk[0])) r[N];
-            auto take_results = [&]() ORVANE_LAMBDA {
-                each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(a.chunk[i]); });
-            };
-            if constexpr (detail::has_special<std::remove_reference_t<decltype(a.chunk[0])>>) {
-                if (a.any_special()) {
-                    if constexpr (detail::has_settle<K>) {
-                        auto settle = [&](const auto&... b) ORVANE_LAMBDA { return K::template settle<C>(b...); };
-                        each<N>([&](auto i)
-                                    ORVANE_LAMBDA { a.put(i, on_chunk(behind_branch, i, settle, a.again(i))); });
-                    }
-                    take_results();
-                    const unsigned mask = a.mask();
-                    if (!detail::has_settle<K> || mask) callout(r, mask);
-                    return hand_over<S, W>(r, where.result, where.out);
-                }
-            }
-            take_results();
-            return hand_over<S, W>(r, where.result, where.out);
-        };
-
-        if constexpr (detail::has_large_path<K>) {
-            auto large = [&](const auto&... a) ORVANE_LAMBDA { return K::template large_path<C>(a...); };
-            auto stage = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, formula); });
-            // Where it runs, the large path's answers take over, with its own special lanes.
-            if (stage.any_special()) {
-                // What lives on behind the branch gets new names: the large path needs all registers, and a value
-                // that it keeps in memory would be there on the ordinary path too.
-                each<N>([&](auto i) ORVANE_LAMBDA {
-                    if constexpr (!L::in_memory)
-                        detail::applied([](auto&... b) ORVANE_LAMBDA { ((b = finished(b)), ...); }, x[i]);
-                    stage.chunk[i].first = finished(stage.chunk[i].first);
-                    if constexpr (requires { stage.chunk[i].second; })
-                        stage.chunk[i].second = finished(stage.chunk[i].second);
-                });
-                auto a =
-                    on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(behind_branch, i, large, stage.again(i)); });
-                return finish(a);
-            }
-            decltype(detail::results_of(stage.chunk[0])) r[N];
-            each<N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(stage.chunk[i]); });
-            return hand_over<S, W>(r, where.result, where.out);
-        } else if constexpr (detail::has_reduce<K>) {
-            auto reduce = [&](const auto&... a) ORVANE_LAMBDA { return K::template reduce<C>(a...); };
-            auto large = [&](const auto&... a) ORVANE_LAMBDA { return K::template large_reduce<C>(a...); };
-            auto stage = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, reduce); });
-            if (stage.any_special())
-                each<N>([&](auto i)
-                            ORVANE_LAMBDA { stage.chunk[i] = on_chunk(behind_branch, i, large, stage.again(i)); });
-            auto a = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, formula, stage.chunk[i]); });
-            return finish(a);
-        } else {
-            auto a = on_all([&](auto i) ORVANE_LAMBDA { return on_chunk(at_first, i, formula); });
-            return finish(a);
-        }
+        auto a = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i); });
+        return conclude(in, a, wrapper);
     }
 }
 

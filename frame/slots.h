@@ -74,20 +74,11 @@ template <int First, int Last> struct alignas(slot_bytes) gap {
     unsigned char unread[(Last - First + 1) * slot_bytes] = {};
 };
 
-// Where a kernel reads its block from: the address, in a register. The compiler may not look through it, so that
-// every constant is read from its slot and not from a copy in a pool of the compiler's own; and each part of a kernel
-// that takes it anew has its constants as memory operands, instead of keeping (and spilling) them from one part to
-// the next.
-//
-// The register points two slots into the block, so that the first four are a byte's displacement away; a table that the
-// block begins with is indexed from its start.
-template <class B> ORVANE_INLINE const B& anew(const B*& block) {
+// How far into a block its register points: two slots, so that the first four are a byte's displacement away; a table
+// that the block begins with is indexed from its start.
+template <class B> constexpr int reading_point() {
     constexpr bool begins_with_table = requires { B::table_at(std::integral_constant<int, 0>()); };
-    constexpr int middle = begins_with_table || sizeof(B) <= 2 * slot_bytes ? 0 : 2 * slot_bytes;
-    const char* at = (const char*)block + middle;
-    asm("" : "+r"(at));
-    block = (const B*)(at - middle);
-    return *block;
+    return begins_with_table || sizeof(B) <= 2 * slot_bytes ? 0 : 2 * slot_bytes;
 }
 
 #define ORVANE_PLACED(byte_offset, name)                                                                             \

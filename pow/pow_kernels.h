@@ -31,7 +31,9 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         auto tl = fma(u, c.log2e_lo, Tl);
         auto q = fma(fma(p1, u2, p2), u, c.lg_c2);
         auto H = fma(u, c.log2e_hi, A);
-        auto herr = fma(u, c.log2e_hi, -(H - A));
+        // H - A is exact but where much cancels, and then its error is.
+        auto from_A = H - A;
+        auto herr = fma(u, c.log2e_hi, -from_A) - (H - (from_A + A));
         auto L = fma(q, u2, tl + herr);
 
         // Near overflow and underflow a lane is special: by y H, and below by s too, since in H half a part in a thousand of

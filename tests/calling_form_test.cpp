@@ -1,4 +1,4 @@
-// The calling form of every built export, at the level of registers: every register filled with garbage before the
+// The calling form of every export, at the level of registers: every register filled with garbage before the
 // call and looked at after it, on the ordinary and on the special path.
 #include "support.h"
 

@@ -17,11 +17,11 @@ struct conversion_row {
     mode rounding;
     bool saturating;
 };
-// The built conversions from lanes of any of the types in `from`.
+// The conversions from lanes of any of the types in `from`.
 std::vector<conversion_row> conversions_from(std::initializer_list<lane_type> from, bool to_floating) {
     std::vector<conversion_row> found;
     for (const auto& row : library_rows()) {
-        if (!row.built || row.sclass != signature_class::conversion || is_floating(row.out) != to_floating) continue;
+        if (row.sclass != signature_class::conversion || is_floating(row.out) != to_floating) continue;
         if (std::find(from.begin(), from.end(), row.in) == from.end()) continue;
         for (auto [name, m] : {std::pair{"rte", rte}, {"rtn", rtn}, {"rtp", rtp}, {"rtz", rtz}})
             if (row.name.find(name) != row.name.npos)

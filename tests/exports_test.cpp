@@ -38,10 +38,10 @@ TEST(List, CountsWhatThereIs) {
 // Each mistake in one column is refused by a line that names the row and the mistake.
 TEST(List, RefusesWhatDoesNotFit) {
     struct columns {
-        std::string_view state = "built", tier = "default", sclass = "one_argument", special = "none", twin = "none";
+        std::string_view tier = "default", sclass = "one_argument", special = "none", builtin = "";
         std::array<double, 4> range = {0, 1, 0, 1};
         kernel_row row() const {
-            return list::row(state, "f", tier, sclass, "f32", "f32", "none", 0, "callout", range, special, twin, "");
+            return list::row("f", tier, sclass, "f32", "f32", "none", 0, "callout", range, special, builtin);
         }
     };
     auto refusal = [](auto build) -> std::string {
@@ -52,19 +52,19 @@ TEST(List, RefusesWhatDoesNotFit) {
         }
         return "";
     };
-    const std::pair<columns, const char*> mistakes[] = {{{.state = "bult"}, "no state 'bult'"},
-                                                        {{.tier = "fast"}, "no tier 'fast'"},
+    const std::pair<columns, const char*> mistakes[] = {{{.tier = "fast"}, "no tier 'fast'"},
                                                         {{.sclass = "one"}, "no class 'one'"},
                                                         {{.special = "0x7FC000001"}, "more than 32 bits"},
                                                         {{.special = "1, 2"}, "not one pattern an argument"},
-                                                        {{.twin = "f"}, "is not twin(name, tier)"},
                                                         {{.range = {1, 0, 1, 0}}, "a range from a larger"}};
     for (const auto& [wrong, why] : mistakes)
         EXPECT_NE(refusal([&] { wrong.row(); }).find(why), std::string::npos) << why;
-    const kernel_row plain = columns{}.row(), native = columns{.tier = "native", .twin = "f,default"}.row();
+    const kernel_row plain = columns{}.row(), native = list::twin("f", "native", "f", "default", "");
+    const kernel_row once = columns{.builtin = "f"}.row(), again = columns{.tier = "half", .builtin = "f"}.row();
     EXPECT_EQ(refusal([&] { list::checked({plain, native}); }), "");
     EXPECT_NE(refusal([&] { list::checked({plain, plain}); }).find("twice"), std::string::npos);
     EXPECT_NE(refusal([&] { list::checked({native, plain}); }).find("earlier row"), std::string::npos);
+    EXPECT_NE(refusal([&] { list::checked({once, again}); }).find("serves f(float), as f default"), std::string::npos);
 }
 
 // A file with the same contents keeps its time, and one that cannot be written leaves nothing beside it.
@@ -171,8 +171,6 @@ TEST(Json, IsEnoughToCallBy) {
         const kernel_row* row =
             find_row(library_rows(), e["family"].get<std::string>(), e["tier"].get<std::string>());
         ASSERT_NE(row, nullptr);
-        EXPECT_EQ(e["built"], row->built);
-        if (!row->built) continue;
         const subject s{row, &library_under_test()};
         const auto a = random_patterns(*row, stored_lanes(e["width"]), r);
         const auto got = call_by_json(e, a), want = by_single_lanes(s, a);
@@ -182,6 +180,27 @@ TEST(Json, IsEnoughToCallBy) {
         if (!e["twin_of"].is_null())
             EXPECT_EQ(library_under_test().address(e["symbol"]), library_under_test().address(e["twin_of"]));
     }
+}
+
+// One built-in, one export; and the page for authors of compilers explains every key.
+TEST(Json, TellsWhatABuiltInBecomes) {
+    const json all = json::parse(contents_of(ORVANE_SOURCES "/include/orvane/exports.json"));
+    const std::string page = contents_of(ORVANE_SOURCES "/docs/calling.md");
+    std::map<std::string, std::string> serving;
+    for (const json& e : all) {
+        for (auto key : {"builtin", "relaxed_builtin"})
+            if (!e[key].is_null()) {
+                const auto [at, first] = serving.try_emplace(key + e[key].get<std::string>(), e["symbol"]);
+                EXPECT_TRUE(first) << e[key] << " becomes " << at->second << " and " << e["symbol"];
+            }
+        for (const json& object : {e, e["arguments"][0], e["results"].back()})
+            for (const auto& [key, value] : object.items())
+                EXPECT_NE(page.find("`" + key + "`"), page.npos) << "docs/calling.md does not explain " << key;
+    }
+    EXPECT_EQ(serving.at("builtinsin(float8)"), "__orvane_l9_sinf8");
+    EXPECT_EQ(serving.at("relaxed_builtinsin(float8)"), "__orvane_l9_sinf8_rm");
+    EXPECT_EQ(serving.at("builtinhalf_sin(float8)"), "__orvane_l9_sinf8_half");
+    EXPECT_EQ(serving.count("builtinhalf_sin(double8)"), 0u);
 }
 
 // The header-only caller, with the types of every class of the list.

@@ -49,7 +49,7 @@ TEST(QuietNaN, RaisesNoFlagInSlowPathsOfCircularFunctionsAndHypot) {
     const std::set<std::string> bases = {"sin", "cos", "tan", "sincos", "sincosreg", "hypot"};
     int seen = 0;
     for (const auto& row : library_rows()) {
-        if (!row.built || !row.has_slow_path() || !bases.contains(row.base())) continue;
+        if (!row.has_slow_path() || !bases.contains(row.base())) continue;
         for (int nan = 0; nan < row.arguments(); nan++) {
             std::vector<uint64_t> lane;
             bool floating = is_floating(row.argument(nan));

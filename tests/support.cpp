@@ -3,6 +3,7 @@
 #include <cstring>
 #include <elf.h>
 #include <fstream>
+#include <immintrin.h>
 #include <link.h>
 
 namespace orvane {
@@ -40,6 +41,26 @@ object& probe_library() {
     static object o(ORVANE_PROBES);
     return o;
 }
+object& bent_library() {
+    static object o(ORVANE_BENT);
+    return o;
+}
+void set_bend(bend b) { *(bend*)bent_library().symbol("orvane_bend") = b; }
+bool estimates_are_known() {
+    static const bool known = [] {
+        uint64_t digest = 0xCBF29CE484222325;
+        auto take = [&](__m128 estimate) {
+            digest = (digest ^ (uint32_t)_mm_cvtsi128_si32(_mm_castps_si128(estimate))) * 0x100000001B3;
+        };
+        for (uint32_t bits = 0x3F800000; bits < 0x40800000; bits += 0x155) { // 1 to 4
+            const __m128 x = _mm_castsi128_ps(_mm_cvtsi32_si128((int)bits));
+            take(_mm_rcp_ss(x));
+            take(_mm_rsqrt_ss(x));
+        }
+        return digest == 0x3FE0B38DC6EDF36D;
+    }();
+    return known;
+}
 const std::vector<kernel_row>& probe_rows() {
     static const std::vector<kernel_row> rows = list::checked({
 #define ORVANE_LIST "tests/probes/probes.def"
@@ -58,7 +79,7 @@ void PrintTo(const subject& s, std::ostream* to) { *to << s.row->name << s.row->
 std::vector<subject> built_subjects() {
     std::vector<subject> all;
     for (const auto& r : library_rows())
-        if (r.built) all.push_back({&r, &library_under_test()});
+        all.push_back({&r, &library_under_test()});
     for (const auto& r : probe_rows())
         all.push_back({&r, &probe_library()});
     return all;
@@ -144,10 +165,10 @@ slow_result call_slow_path(object& in, const kernel_row& row, const std::vector<
 }
 
 namespace {
-subject subject_of(std::string_view name, std::string_view tier) {
+subject subject_of(std::string_view name, std::string_view tier, object& in = library_under_test()) {
     const kernel_row* row = find_row(library_rows(), name, tier);
-    if (!row || !row->built) throw std::runtime_error("not built: " + std::string(name));
-    return {row, &library_under_test()};
+    if (!row) throw std::runtime_error("no such export: " + std::string(name));
+    return {row, &in};
 }
 std::vector<uint64_t> lane_of(const kernel_row& row, double x, double y) {
     std::vector<uint64_t> lane{word_of(row.argument(0), x)};
@@ -171,8 +192,8 @@ int status_for(std::string_view name, std::string_view tier, double x, double y)
     return call_slow_path(library_under_test(), row, lane_of(row, x, y)).status;
 }
 
-sweep::sweep(std::string_view name, std::string_view tier, int width)
-    : s(subject_of(name, tier)), call(s.caller(width)) {}
+sweep::sweep(std::string_view name, std::string_view tier, int width, object& in)
+    : s(subject_of(name, tier, in)), call(s.caller(width)) {}
 const std::vector<words>& sweep::operator()(const std::vector<words>& arguments) {
     const size_t n = arguments[0].size(), width = call.plan().width;
     std::vector<words> part(arguments.size()), r;

@@ -1,6 +1,7 @@
 // What tests share: the library under test, its symbol table, and arguments to call its exports with.
 #pragma once
 
+#include "tests/bent/bend.h"
 #include "tools/call_plan.h"
 #include "tools/truth.h"
 
@@ -32,6 +33,11 @@ private:
 
 object& library_under_test();
 object& probe_library();
+// The kernels fed by the processor's 12-bit estimates with others in place of these, at eight lanes alone.
+object& bent_library();
+void set_bend(bend b);
+// Whether this processor has the estimates with which the figures in the tests were measured.
+bool estimates_are_known();
 const std::vector<kernel_row>& probe_rows();
 
 // A row with the object that holds it: what the list-driven tests run over.
@@ -85,7 +91,7 @@ template <class F> void each_tier(std::string_view name, F f) {
 // All lanes of an export at width 8 or 16, for sweeps: arguments and results lane by lane.
 class sweep {
 public:
-    sweep(std::string_view name, std::string_view tier = "default", int width = 8);
+    sweep(std::string_view name, std::string_view tier = "default", int width = 8, object& in = library_under_test());
     const std::vector<words>& operator()(const std::vector<words>& arguments); // any number of lanes
     const kernel_row& row() const { return *s.row; }
 

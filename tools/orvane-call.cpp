@@ -85,7 +85,6 @@ std::string no_such_export(const std::string& name) {
     std::vector<std::pair<size_t, std::string>> near;
     for (const auto& row : library_rows())
         for (int w : widths) {
-            if (!row.built) continue;
             const std::string s = short_name(plan_of(row, w));
             near.emplace_back(edit_distance(name, s), s);
         }
@@ -97,7 +96,6 @@ call_plan find_plan(std::string name) {
     if (name.starts_with("__orvane_l9_")) name.erase(0, 12);
     call_plan p = plan_of(library_rows(), name);
     if (p.symbol.empty()) throw failure(no_such_export(name));
-    if (!p.row->built) throw failure(quoted(name) + " is in the list of exports but not built yet");
     return p;
 }
 
@@ -320,7 +318,6 @@ void list_exports(bool as_json, output& to) {
     json all = json::array();
     for (const auto& row : library_rows())
         for (int w : widths) {
-            if (!row.built) continue;
             const auto name = short_name(plan_of(row, w));
             if (as_json) all.push_back(name);
             else to << name + "\n";
@@ -460,7 +457,7 @@ int run(int argc, char** argv) {
                    "write to a file, which appears only when it is complete (devices and FIFOs as they are)");
     app.add_option("--library", library_path, "the shared library (default: the one beside this program)");
     app.add_flag("--raw", raw, "hexadecimal words from standard input, a lane a line; words to standard output");
-    app.add_flag("--list", list, "names of all built exports");
+    app.add_flag("--list", list, "names of all exports");
     app.add_flag("--json", as_json, "output as JSON, an object a line");
     app.add_flag("--summary", summary,
                  "only the number of lanes of a stream and the largest error with its argument");

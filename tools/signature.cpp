@@ -42,10 +42,9 @@ std::string_view key_of(auto value, const auto& names) {
 
 } // namespace
 
-kernel_row list::row(std::string_view state, std::string_view name, std::string_view tier, std::string_view sclass,
-                     std::string_view in, std::string_view out, std::string_view extra, double spare,
-                     std::string_view path, std::array<double, 4> range, std::string_view special,
-                     std::string_view twin, std::string_view builtin) {
+kernel_row list::row(std::string_view name, std::string_view tier, std::string_view sclass, std::string_view in,
+                     std::string_view out, std::string_view extra, double spare, std::string_view path,
+                     std::array<double, 4> range, std::string_view special, std::string_view builtin) {
     auto of = [&](const auto& names, std::string_view word, const char* what) {
         if (const auto found = names.find(word); found != names.end()) return found->second;
         std::string why = std::string("no ") + what + " '" + std::string(word) + "'; one of";
@@ -53,11 +52,9 @@ kernel_row list::row(std::string_view state, std::string_view name, std::string_
             why += " " + std::string(k);
         refuse(name, tier, why);
     };
-    static const std::map<std::string_view, bool> states = {{"absent", false}, {"built", true}};
     static const std::map<std::string_view, int> tiers = {{"default", 0}, {"rm", 1}, {"native", 2}, {"half", 3}};
     of(tiers, tier, "tier");
-    kernel_row r{of(states, state, "state"),
-                 name,
+    kernel_row r{name,
                  tier,
                  of(classes, sclass, "class"),
                  of(lane_types, in, "lane type"),
@@ -83,23 +80,37 @@ kernel_row list::row(std::string_view state, std::string_view name, std::string_
         if (size_of(r.argument(j)) == 4 && r.special[j] >> 32)
             refuse(name, tier, "special(" + patterns + ") holds a pattern of more than 32 bits");
     if (range[0] > range[1] || range[2] > range[3]) refuse(name, tier, "a range from a larger to a smaller number");
-    if (twin != "none") {
-        const auto comma = twin.find(',');
-        if (comma == twin.npos) refuse(name, tier, "twin(" + std::string(twin) + ") is not twin(name, tier)");
-        r.twin_name = twin.substr(0, comma);
-        r.twin_tier = twin.substr(std::min(twin.find_first_not_of(' ', comma + 1), twin.size()));
-    }
+    return r;
+}
+
+kernel_row list::twin(std::string_view name, std::string_view tier, std::string_view of_name, std::string_view of_tier,
+                      std::string_view builtin) {
+    kernel_row r{};
+    r.name = name, r.tier = tier;
+    r.twin_name = of_name, r.twin_tier = of_tier;
+    r.builtin = builtin;
     return r;
 }
 
 std::vector<kernel_row> list::checked(std::vector<kernel_row> rows) {
-    for (size_t i = 0; i < rows.size(); i++) {
-        const kernel_row& r = rows[i];
+    std::map<std::string, const kernel_row*> serving;
+    for (kernel_row& r : rows) {
         if (find_row(rows, r.name, r.tier) != &r) refuse(r.name, r.tier, "stands in the list twice");
-        if (r.twin_name.empty()) continue;
-        const kernel_row* of = find_row(rows, r.twin_name, r.twin_tier);
-        if (!of || of >= &r || !of->twin_name.empty())
-            refuse(r.name, r.tier, "its twin must be an earlier row that is no twin itself");
+        if (!r.twin_name.empty()) {
+            const kernel_row* of = find_row(rows, r.twin_name, r.twin_tier);
+            if (!of || of >= &r || !of->twin_name.empty())
+                refuse(r.name, r.tier, "its twin must be an earlier row that is no twin itself");
+            kernel_row filled = *of;
+            filled.name = r.name, filled.tier = r.tier;
+            filled.twin_name = r.twin_name, filled.twin_tier = r.twin_tier;
+            filled.builtin = r.builtin;
+            r = filled;
+        }
+        if (r.builtin.empty()) continue;
+        const auto [other, first] = serving.try_emplace((r.is_relaxed() ? "relaxed " : "") + r.served_builtin(1), &r);
+        if (!first)
+            refuse(r.name, r.tier, "serves " + r.served_builtin(1) + ", as " + std::string(other->second->name) + " " +
+                                       std::string(other->second->tier) + " does already");
     }
     return rows;
 }
@@ -161,18 +172,16 @@ std::string kernel_row::family_symbol() const {
     return (in == lane_type::f32 || out == lane_type::f32 ? "s" : "d") + (other == spelled.end() ? b : other->second);
 }
 std::string kernel_row::served_builtin(int width) const {
+    if (builtin.empty()) return "";
     const std::string w = width == 1 ? "" : std::to_string(width);
     std::string s(builtin);
     if (const auto at = s.find('#'); at != s.npos) s.replace(at, 1, w);
-    if (s.starts_with("operator") || s.find(' ') != s.npos) return s;
     s += '(';
     for (int j = 0; j < arguments(); j++) {
         if (j) s += ", ";
         s += std::string(opencl_type(argument(j))) + w;
     }
-    if (sclass == signature_class::pointer_out || sclass == signature_class::two_pointer_out)
-        s += ", " + std::string(opencl_type(extra)) + w + "*";
-    else if (sclass == signature_class::pair) s += ", " + std::string(opencl_type(extra)) + w + "*";
+    if (has_out()) s += ", " + std::string(opencl_type(extra)) + w + "*";
     return s + ")";
 }
 

@@ -42,7 +42,6 @@ std::string_view opencl_type(lane_type); // float, double, int, uint, long, ulon
 
 // One row of the list: a pair of family and tier.
 struct kernel_row {
-    bool built;
     std::string_view name, tier;
     signature_class sclass;
     lane_type in, out, extra;
@@ -51,7 +50,7 @@ struct kernel_row {
     std::array<double, 4> range; // of x, and of every further argument
     std::vector<uint64_t> special;
     std::string_view twin_name, twin_tier; // empty: no twin
-    std::string_view builtin;
+    std::string_view builtin;              // empty: none
 
     int arguments() const;           // floating and integer, without the out-pointer
     lane_type argument(int j) const; // type of argument j
@@ -59,10 +58,13 @@ struct kernel_row {
     int results() const;             // without the out-lane
     lane_type result(int j) const;   // type of result j; the out-lane is result(results())
     bool has_slow_path() const { return path != kernel_path::settled && path != kernel_path::settled_large; }
+    bool is_relaxed() const { return tier == "rm"; } // for -cl-fast-relaxed-math
     std::string suffix() const { return tier == "default" ? "" : "_" + std::string(tier); }
     std::string base() const;          // without the f
     std::string family_symbol() const; // sexp, dln: as blocks and slow paths are named
     std::string slow_path_symbol() const { return "__orvane_" + family_symbol() + "_cout_rare"; }
+    // The one OpenCL C built-in that becomes a call at this width, with its types: "exp(float8)", "operator/(int, int)";
+    // of the rm tier under -cl-fast-relaxed-math alone. Empty: none.
     std::string served_builtin(int width) const;
 };
 
@@ -74,11 +76,14 @@ template <class... T> std::array<double, 4> range_of(T... x) {
     if (sizeof...(T) == 2) r[2] = r[0], r[3] = r[1];
     return r;
 }
-kernel_row row(std::string_view state, std::string_view name, std::string_view tier, std::string_view sclass,
-               std::string_view in, std::string_view out, std::string_view extra, double spare, std::string_view path,
-               std::array<double, 4> range, std::string_view special, std::string_view twin,
-               std::string_view builtin);
-// Throws with one line if rows do not fit together: one twice, or a twin that is no earlier row.
+kernel_row row(std::string_view name, std::string_view tier, std::string_view sclass, std::string_view in,
+               std::string_view out, std::string_view extra, double spare, std::string_view path,
+               std::array<double, 4> range, std::string_view special, std::string_view builtin);
+// A row whose other columns are those of the row that it names: `checked` fills them in.
+kernel_row twin(std::string_view name, std::string_view tier, std::string_view of_name, std::string_view of_tier,
+                std::string_view builtin);
+// The rows, twins filled in. Throws with one line if they do not fit together: one twice, a twin that is no earlier row,
+// or two that serve one built-in.
 std::vector<kernel_row> checked(std::vector<kernel_row> rows);
 } // namespace list
 

@@ -25,7 +25,7 @@ std::string vector_register(const place& p, int k) {
     return (whole ? "ymm" : "xmm") + std::to_string(p.first + k);
 }
 
-json described(const place& p, const call_plan& plan) {
+json described(const place& p, const call_plan& plan, bool is_result) {
     json j{{"type", std::string(opencl_type(p.type))}, {"lanes", p.lanes}};
     switch (p.where) {
     case place::in::vector_registers:
@@ -33,9 +33,7 @@ json described(const place& p, const call_plan& plan) {
             j["registers"].push_back(vector_register(p, k));
         break;
     case place::in::integer_register:
-        j["registers"].push_back(&p < plan.results.data() || &p >= plan.results.data() + plan.results.size()
-                                     ? integer_registers[p.first]
-                                     : "rax");
+        j["registers"].push_back(is_result ? "rax" : integer_registers[p.first]);
         if (p.offset) j["bit"] = 8 * p.offset;
         break;
     case place::in::stack:
@@ -77,11 +75,11 @@ json object_of(const kernel_row& row, int width) {
     j["results"] = json::array();
     int integers = p.out_register >= 0;
     for (const auto& a : p.arguments) {
-        j["arguments"].push_back(described(a, p));
+        j["arguments"].push_back(described(a, p, false));
         integers += a.where == place::in::integer_register;
     }
     for (const auto& r : p.results)
-        j["results"].push_back(described(r, p));
+        j["results"].push_back(described(r, p, true));
 
     // What a call changes, and what it keeps beyond the rules of the System V convention.
     json clobbered = json::array(), preserved = json::array();
@@ -101,8 +99,9 @@ json object_of(const kernel_row& row, int width) {
     j["preserved"] = preserved;
     if (const auto twin = twin_of(row, width); twin.empty()) j["twin_of"] = nullptr;
     else j["twin_of"] = twin;
-    j["builtin"] = row.served_builtin(width);
-    j["built"] = row.built;
+    const json builtin = row.builtin.empty() ? json() : json(row.served_builtin(width));
+    j["builtin"] = row.is_relaxed() ? json() : builtin;
+    j["relaxed_builtin"] = row.is_relaxed() ? builtin : json();
     return j;
 }
 
@@ -141,9 +140,9 @@ std::string doc_of(const kernel_row& row) {
 
 std::string places_in_words(const call_plan& p) {
     std::string s;
-    auto list = [&](const std::vector<place>& places, const char* what) {
+    auto list = [&](const std::vector<place>& places, bool are_results, const char* what) {
         for (size_t i = 0; i < places.size(); i++) {
-            const json j = described(places[i], p);
+            const json j = described(places[i], p, are_results);
             s += std::string(i ? ", " : what);
             if (j.contains("registers"))
                 for (size_t k = 0; k < j["registers"].size(); k++)
@@ -152,8 +151,8 @@ std::string places_in_words(const call_plan& p) {
             else s += "at " + j["pointer"].get<std::string>();
         }
     };
-    list(p.arguments, "in ");
-    list(p.results, "; out ");
+    list(p.arguments, false, "in ");
+    list(p.results, true, "; out ");
     return s;
 }
 
@@ -192,7 +191,7 @@ std::string declaration(const call_plan& p) {
 }
 
 std::string header() {
-    std::string s = R"(/* The exports of liborvane_l9.so, as far as they are built. Written by write-exports.
+    std::string s = R"(/* The exports of liborvane_l9.so. Written by write-exports.
  *
  * Register-form exports take lane vectors in vector registers 0 to 3 and give them back from 0 on; a vector type here is
  * the register: orvane_float4 for up to four lanes of float, lane 0 lowest, lanes beyond the width ignored; a 3-wide
@@ -230,7 +229,6 @@ extern "C" {
                  ")));\n";
     std::string_view family;
     for (const auto& row : library_rows()) {
-        if (!row.built) continue;
         if (row.name != family) {
             s += "\n/* " + std::string(row.name) + ": " + doc_of(row) + " */\n";
             family = row.name;

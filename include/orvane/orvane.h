@@ -1,4 +1,4 @@
-/* The exports of liborvane_l9.so, as far as they are built. Written by write-exports.
+/* The exports of liborvane_l9.so. Written by write-exports.
  *
  * Register-form exports take lane vectors in vector registers 0 to 3 and give them back from 0 on; a vector type here is
  * the register: orvane_float4 for up to four lanes of float, lane 0 lowest, lanes beyond the width ignored; a 3-wide
