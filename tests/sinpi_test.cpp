@@ -9,12 +9,12 @@ namespace {
 
 // The kernels of one type; from even_limit on all its numbers are even integers, from tangent_limit on tanpi first
 // takes multiples of 512 or 256 out.
-struct member {
+struct kernels {
     lane_type type;
     const char *sine, *cosine, *tangent;
     double even_limit, tangent_limit;
 };
-constexpr member types[] = {{lane_type::f64, "sinpi", "cospi", "tanpi", 0x1p53, 0x1p49},
+constexpr kernels types[] = {{lane_type::f64, "sinpi", "cospi", "tanpi", 0x1p53, 0x1p49},
                             {lane_type::f32, "sinpif", "cospif", "tanpif", 0x1p24, 0x1p20}};
 template <class F> void each_kernel(F f) {
     for (const auto& m : types)
@@ -32,7 +32,7 @@ words words_of(lane_type t, const std::vector<double>& x) {
 double parity(double n) { return std::fmod(n, 2) == 0 ? 1 : -1; }
 
 TEST(Sinpi, IntegersAndHalves) {
-    each_kernel([](const member& m, const char* tier) {
+    each_kernel([](const kernels& m, const char* tier) {
         std::vector<double> n = {-0.0, m.even_limit - 1, 1 - m.even_limit, m.even_limit - 2, 2 - m.even_limit};
         for (double k = -70; k <= 70; k++)
             n.push_back(k);
@@ -59,7 +59,7 @@ TEST(Sinpi, IntegersAndHalves) {
 
 // Of a flagged argument only what is above a multiple of 512 counts, which the remainder gives exactly.
 TEST(Sinpi, LargeTangents) {
-    each_kernel([](const member& m, const char* tier) {
+    each_kernel([](const kernels& m, const char* tier) {
         rng r(61);
         std::vector<double> x = {m.tangent_limit, std::nextafter((float)m.tangent_limit, HUGE_VALF)}, rest;
         const int fraction = m.type == lane_type::f64 ? 52 : 23;
@@ -78,7 +78,7 @@ TEST(Sinpi, LargeTangents) {
 }
 
 TEST(Sinpi, NotFinite) {
-    each_kernel([](const member& m, const char* tier) {
+    each_kernel([](const kernels& m, const char* tier) {
         const bool wide = m.type == lane_type::f64;
         const uint64_t nan = wide ? 0x7FF0000000000777 : 0x7F800777;
         const uint64_t quiet = nan | (wide ? uint64_t(1) << 51 : 1 << 22);
@@ -95,7 +95,7 @@ TEST(Sinpi, NotFinite) {
 }
 
 TEST(Sinpi, OddAndEven) {
-    each_kernel([](const member& m, const char* tier) {
+    each_kernel([](const kernels& m, const char* tier) {
         rng r(62);
         const auto any = random_patterns(*find_row(library_rows(), m.sine, tier), 100'000, r)[0];
         words x, minus;
@@ -150,7 +150,7 @@ TEST(Sinpi, LargestErrors) {
 
 // No step hangs on the processor, so the bits themselves are a promise.
 TEST(Sinpi, Bits) {
-    each_kernel([](const member& m, const char* tier) {
+    each_kernel([](const kernels& m, const char* tier) {
         std::vector<uint64_t> digests;
         for (auto name : {m.sine, m.cosine, m.tangent}) {
             rng r(63);

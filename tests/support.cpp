@@ -177,6 +177,12 @@ std::vector<uint64_t> lane_of(const kernel_row& row, double x, double y) {
 }
 } // namespace
 
+uint64_t member::of_words(const std::vector<uint64_t>& x) const {
+    std::vector<words> arguments;
+    for (auto w : x)
+        arguments.push_back({w});
+    return sweep(row->name, row->tier, 1)(arguments)[0][0];
+}
 uint64_t word_for(std::string_view name, std::string_view tier, double x, double y) {
     const subject s = subject_of(name, tier);
     std::vector<words> arguments;

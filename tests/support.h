@@ -78,6 +78,36 @@ inline uint64_t quiet_nan(lane_type t, bool negative = false) {
                                : 0x7FC00000 | uint64_t(negative) << 31;
 }
 
+// A pair by single lanes: how words go in and out of it.
+struct member {
+    const kernel_row* row;
+    lane_type type() const { return row->in; }
+    bool is_float() const { return row->in == lane_type::f32; }
+    bool is_fast() const { return row->tier != "default"; }
+    uint64_t sign() const { return is_float() ? 0x80000000 : 0x8000000000000000; }
+    uint64_t quiet() const { return quiet_nan(row->in); }
+    uint64_t word(double x) const { return word_of(row->in, x); }
+    double rounded(double x) const { return value_of(row->in, word(x)); } // to the type
+    // The first result for words or values of the arguments; the status that the slow path tells.
+    uint64_t of_words(const std::vector<uint64_t>& x) const;
+    double operator()(double x) const { return value_for(row->name, row->tier, x); }
+    double operator()(double x, double y) const { return value_for(row->name, row->tier, x, y); }
+    int status(double x, double y = 0) const { return status_for(row->name, row->tier, x, y); }
+};
+// f(member) for every tier of the functions, in both types.
+template <class F> void each_member(std::initializer_list<std::string_view> functions, F f) {
+    for (const auto function : functions) {
+        bool any = false;
+        for (const auto& row : library_rows())
+            if (row.base() == function) {
+                SCOPED_TRACE(std::string(row.name) + " " + std::string(row.tier));
+                f(member{&row});
+                any = true;
+            }
+        if (!any) ADD_FAILURE() << "no family " << function;
+    }
+}
+
 // f(tier) for the tiers that a function has.
 template <class F> void each_tier(std::string_view name, F f) {
     if (!find_row(library_rows(), name, "default")) ADD_FAILURE() << "no family " << name;

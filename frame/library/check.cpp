@@ -41,8 +41,8 @@ std::set<std::string> listed_exports() {
             names.insert(std::string("__orvane_l9_") + family + std::to_string(width) +
                          (tier == "default" ? "" : "_" + tier));
     };
-#define PAIR(state, name, tier, ...)                                                                                 \
-    if (!strcmp(#state, "built")) add(#name, #tier);
+#define PAIR(name, tier, ...) add(#name, #tier);
+#define TWIN(name, tier, ...) add(#name, #tier);
 #include "frame/exports.def"
     return names;
 }
