@@ -21,4 +21,11 @@ const std::string& kind_of_processor() {
     return kind;
 }
 
+bool first_nan_wins() {
+    volatile uint32_t patterns[] = {0x7FC00001, 0x7FC00002};
+    const __m128 a = _mm_castsi128_ps(_mm_cvtsi32_si128(int(patterns[0]))),
+                 b = _mm_castsi128_ps(_mm_cvtsi32_si128(int(patterns[1])));
+    return std::bit_cast<uint32_t>(_mm_cvtss_f32(_mm_div_ss(a, b))) == patterns[0];
+}
+
 } // namespace orvane
