@@ -60,7 +60,7 @@ std::vector<digested> everything_digested(object& in) {
         if (!seen.insert(code.value).second) return;
         const references r = references_of(b, code);
         digested d{std::move(name), &row, is_slow_path, r.takes_estimates, code, {}, {}, {}};
-        for (uint64_t to : r.data)
+        for (const auto& [to, bytes] : r.data)
             if (auto at = data.upper_bound(to); at != data.begin() && to < (--at)->first + at->second->size)
                 d.blocks.insert(at->second->name);
         all.push_back(std::move(d));

@@ -86,7 +86,8 @@ struct binary {
 
 // What a function refers to, and what it jumps and calls to outside itself.
 struct references {
-    std::set<uint64_t> data, code;
+    std::map<uint64_t, int> data; // with the bytes read; 0: the address alone
+    std::set<uint64_t> code;
     bool takes_estimates = false;
 };
 inline references references_of(const binary& b, const object::entry& f) {
@@ -102,7 +103,7 @@ inline references references_of(const binary& b, const object::entry& f) {
                 if (to < f.value || to >= f.value + f.size) r.code.insert(to);
             } else if (i.operands[k].mem.base == ZYDIS_REGISTER_RIP && to >= data->sh_addr &&
                        to < data->sh_addr + data->sh_size)
-                r.data.insert(to);
+                r.data[to] = m == ZYDIS_MNEMONIC_LEA ? 0 : i.operands[k].size / 8;
         }
     }
     return r;
