@@ -17,6 +17,7 @@ public:
     explicit object(const std::string& path);
     // Where a symbol of any visibility lies in this process; null if there is none.
     const void* symbol(const std::string& name) const;
+    uint64_t loaded_at() const { return base; } // what symbols' values count from
     struct entry {
         std::string name;
         uint64_t value, size;

@@ -1,0 +1,276 @@
+// Every constant of every block and every entry of every table, those of slow paths too, with its lowest bit flipped
+// in a copy of the library: the digests of what reads it must notice. What they notice in part only is accounted for
+// in tests/data/survivors.txt.
+#include "digests.h"
+#include "lanes.h"
+#include "machine_code.h"
+#include "tools/whole_file.h"
+
+#include <algorithm>
+#include <csetjmp>
+#include <csignal>
+
+using namespace orvane;
+
+namespace {
+
+struct mutant {
+    uint64_t owner;       // the object that it belongs to; an unnamed constant is its own
+    std::string of, name; // the object's name, and "64" or "entry 64" by the offset in bytes
+    uint64_t at;
+    int size, bytes, period; // of an entry; of what holds all its copies, and from one to the next
+    bool is_entry;           // of a table
+    bool all_zero;           // a slot of zeros, which may be a gap
+    bool named = true;       // or a constant that the compiler put beside the code
+};
+
+sigjmp_buf fault;
+void on_fault(int) { siglongjmp(fault, 1); }
+
+// Two copies of the library, one of which marks special lanes, and what has been measured with them unchanged.
+class laboratory {
+public:
+    laboratory() : everything(everything_digested(library_under_test())), file(library_under_test()) {
+        marking.mark_special_lanes();
+        for (const auto& e : library_under_test().symbols())
+            if (e.size) (e.is_function ? functions : objects).emplace(e.value, e);
+        for (size_t i = 0; i < everything.size(); i++)
+            follow(everything[i].code, i);
+        for (int s : {SIGSEGV, SIGBUS, SIGFPE, SIGILL})
+            signal(s, on_fault);
+    }
+
+    std::vector<mutant> all_mutants() const {
+        std::vector<mutant> all;
+        for (const auto& [value, o] : objects) {
+            const unsigned char* at = bytes(value);
+            const bool is_block = o.size % 64 == 0 && value % 64 == 0;
+            // Entries of eight bytes in what serves double; in extended precision ten of sixteen bytes count.
+            const bool wide =
+                o.name.starts_with("__orvane_d") || o.name.starts_with("__d") || o.name.find("rvd") != o.name.npos;
+            bool extended = !is_block && o.size % 16 == 0;
+            for (uint64_t k = 0; extended && k < o.size; k++)
+                extended = k % 16 < 10 || !at[k];
+            const int entry = (wide || extended) && o.size % 8 == 0 ? 8 : 4;
+            for (uint64_t i = 0; i < o.size;) {
+                const int span = is_block ? 64 : int(o.size);
+                int period = span;
+                if (is_block)
+                    for (period = 4; period < 64 && memcmp(at + i, at + i + period, 64 - period);)
+                        period *= 2;
+                if (is_block && period <= 8)
+                    all.push_back({value, o.name, std::to_string(i), value + i, period, 64, period, false,
+                                   period == 4 && !read_lane(at + i, lane_type::u32)});
+                else
+                    for (int k = 0; k < period; k += entry)
+                        all.push_back({value, o.name, "entry " + std::to_string(i + k), value + i + k,
+                                       extended && k % 16 ? 2 : entry, span - k, period, true, false});
+                i += span;
+            }
+        }
+        for (const auto& [value, c] : loose) {
+            const auto& [size, in] = c;
+            char text[20];
+            snprintf(text, sizeof text, "%016llx", (unsigned long long)read_lane(bytes(value), lane_type::u64));
+            const int part = size % 8 ? 4 : 8;
+            int period = size;
+            if (size > part && !memcmp(bytes(value), bytes(value) + part, size - part)) period = part;
+            all.push_back({value, in, text, value, std::min(size, 8), size, period, false, false, false});
+        }
+        return all;
+    }
+
+    // How much of a constant is noticed: its lowest bit, one of its lowest four, or only all bits flipped at once.
+    enum outcome { noticed, faint, weak, silent };
+    outcome try_out(const mutant& m) {
+        auto& order = order_of(m.owner);
+        auto first_change = [&](const std::vector<look>& looks, size_t end, uint64_t bits) {
+            flip(m, bits);
+            size_t i = 0;
+            while (i < end && !changed(looks[i]))
+                i++;
+            flip(m, bits);
+            return i;
+        };
+        // What noticed the last one is asked first.
+        const size_t few = std::min<size_t>(12, order.size());
+        if (const size_t i = first_change(order, few, 1); i < few) {
+            std::rotate(order.begin(), order.begin() + i, order.begin() + i + 1);
+            return noticed;
+        }
+        // All bits flipped show where the constant is read.
+        std::vector<look> reading;
+        flip(m, ~uint64_t(0));
+        std::copy_if(order.begin(), order.end(), std::back_inserter(reading),
+                     [&](const look& l) { return changed(l); });
+        flip(m, ~uint64_t(0));
+        if (reading.empty()) return silent;
+        if (const size_t i = first_change(reading, reading.size(), 1); i < reading.size()) {
+            const auto at = std::find_if(order.begin(), order.end(), [&](const look& l) { return l == reading[i]; });
+            std::rotate(order.begin(), at, at + 1);
+            return noticed;
+        }
+        for (uint64_t bit : {8, 4, 2})
+            if (first_change(reading, reading.size(), bit) < reading.size()) return faint;
+        return weak;
+    }
+    // Hang the bits of a reader on the processor's estimates?
+    bool takes_estimates(const mutant& m) {
+        return std::any_of(readers[m.owner].begin(), readers[m.owner].end(),
+                           [&](size_t t) { return everything[t].takes_estimates; });
+    }
+    bool is_read(const mutant& m) { return readers.contains(m.owner); }
+
+private:
+    struct look { // one digest of one group
+        size_t thing, group;
+        bool special;
+        bool operator==(const look&) const = default;
+    };
+    const unsigned char* bytes(uint64_t value) const {
+        return (const unsigned char*)library_under_test().loaded_at() + value;
+    }
+    static auto holding(const std::map<uint64_t, object::entry>& in, uint64_t at) {
+        auto i = in.upper_bound(at);
+        return i == in.begin() || at >= (--i)->first + i->second.size ? in.end() : i;
+    }
+    // What the code reads, and what it calls: for a kernel without the way to its slow path, which is looked at by
+    // itself.
+    void follow(const object::entry& code, size_t thing) {
+        std::set<uint64_t> seen{code.value};
+        std::vector<object::entry> open{code};
+        while (!open.empty()) {
+            const object::entry f = open.back();
+            open.pop_back();
+            auto known = read_by.find(f.value);
+            if (known == read_by.end()) known = read_by.emplace(f.value, references_of(file, f)).first;
+            for (const auto& [to, size] : known->second.data)
+                if (auto o = holding(objects, to); o != objects.end()) readers[o->first].insert(thing);
+                else if (size) {
+                    readers[to].insert(thing);
+                    auto& c = loose.emplace(to, std::pair(size, f.name)).first->second;
+                    c.first = std::max(c.first, size);
+                }
+            for (uint64_t to : known->second.code)
+                if (auto g = holding(functions, to); g != functions.end() &&
+                                                     !g->second.name.ends_with("_cout_wrapper") &&
+                                                     seen.insert(g->first).second)
+                    open.push_back(g->second);
+        }
+    }
+    void flip(const mutant& m, uint64_t bits) {
+        for (auto* copy : {&plain, &marking})
+            for (int k = 0; k < m.bytes; k += m.period)
+                for (int byte = 0; byte < m.size; byte++)
+                    copy->at(m.at)[k + byte] ^= (unsigned char)(bits >> (8 * byte));
+    }
+    std::vector<look>& order_of(uint64_t owner) {
+        auto& order = orders[owner];
+        if (order.empty())
+            for (size_t t : readers[owner]) {
+                digested& d = everything[t];
+                if (d.groups.empty()) give_arguments(d);
+                const bool marks = !d.is_slow_path && d.row->has_slow_path() && d.row->path != kernel_path::all_lanes;
+                for (size_t g = 0; g < d.groups.size(); g++) {
+                    order.push_back({t, g, false});
+                    if (marks) order.push_back({t, g, true});
+                }
+            }
+        return order;
+    }
+    uint64_t measured(const look& l) {
+        digested& d = everything[l.thing];
+        auto& both = with[l.thing];
+        auto& by = both[l.special];
+        if (!by) by = std::make_unique<digester>(l.special ? marking.in() : plain.in(), d);
+        return l.special ? by->special_lanes(d.groups[l.group]) : by->results(d.groups[l.group]);
+    }
+    // The first time with the constant restored is taken care of by unchanged(), from the library itself.
+    bool changed(const look& l) {
+        const uint64_t want = unchanged(l);
+        if (sigsetjmp(fault, 1)) return true; // it read outside the table
+        return measured(l) != want;
+    }
+    uint64_t unchanged(const look& l) {
+        auto& known = before[{l.thing, l.group, l.special}];
+        if (!known) {
+            digested& d = everything[l.thing];
+            if (l.special) known = digester(pristine.in(), d).special_lanes(d.groups[l.group]);
+            else known = digester(library_under_test(), d).results(d.groups[l.group]);
+        }
+        return *known;
+    }
+
+    struct marked_copy : private_copy {
+        marked_copy() { mark_special_lanes(); }
+    };
+    std::vector<digested> everything;
+    binary file;
+    private_copy plain, marking;
+    marked_copy pristine;
+    std::map<uint64_t, object::entry> functions, objects;
+    std::map<uint64_t, references> read_by;
+    std::map<uint64_t, std::pair<int, std::string>>
+        loose; // constants without a name: size, a function that reads them
+    std::map<uint64_t, std::set<size_t>> readers;
+    std::map<uint64_t, std::vector<look>> orders;
+    std::map<size_t, std::array<std::unique_ptr<digester>, 2>> with;
+    std::map<std::tuple<size_t, size_t, bool>, std::optional<uint64_t>> before;
+};
+
+// What is accounted for: single constants by name, and how many entries of a table.
+std::map<std::string, std::string> accounted_for() {
+    std::map<std::string, std::string> all;
+    std::istringstream in(contents_of(ORVANE_SOURCES "/tests/data/survivors.txt"));
+    for (std::string line; std::getline(in, line);)
+        if (const size_t colon = line.find(": "); !line.starts_with("#") && colon != line.npos)
+            all[line.substr(0, colon)] = line.substr(colon + 2);
+    return all;
+}
+
+constexpr const char* words_for[] = {"noticed", "faint", "weak", "silent"};
+
+// One in `stride` of the mutants, without the slow ones of no name. With all of them, what is accounted for must be
+// exact.
+void run_mutants(size_t stride) {
+    laboratory lab;
+    const auto accounted = accounted_for();
+    const auto mutants = lab.all_mutants();
+    std::map<std::string, std::array<int, 4>> tables;
+    auto text_of = [](const std::array<int, 4>& n) {
+        std::string text;
+        for (int k = 1; k < 4; k++)
+            if (n[k]) text += (text.empty() ? "" : ", ") + std::to_string(n[k]) + " " + words_for[k];
+        return text;
+    };
+    auto account_of = [&](const std::string& name) {
+        const auto at = accounted.find(name);
+        return at == accounted.end() ? std::string(words_for[0]) : at->second;
+    };
+    size_t tried = 0;
+    for (size_t i = 0; i < mutants.size(); i += stride) {
+        const mutant& m = mutants[i];
+        if (stride > 1 && !m.named) continue;
+        if (!models_have_these_estimates() && lab.takes_estimates(m)) continue;
+        tried++;
+        const auto how = lab.is_read(m) ? lab.try_out(m) : laboratory::silent;
+        if (m.is_entry) {
+            tables[m.of][how]++;
+            const std::string account = account_of(m.of);
+            if (how != laboratory::noticed && account.find(words_for[how]) == account.npos)
+                ADD_FAILURE() << m.of << " " << m.name << ": " << words_for[how];
+        } else if (!(m.all_zero && how == laboratory::silent)) {
+            const std::string account = account_of(m.of + " " + m.name);
+            EXPECT_EQ(account.substr(0, account.find(',')), words_for[how]) << m.of << " " << m.name;
+        }
+    }
+    if (stride == 1)
+        for (const auto& [name, n] : tables)
+            if (n[1] + n[2] + n[3]) EXPECT_EQ(account_of(name), text_of(n)) << name;
+    printf("%zu of %zu mutants\n", tried, mutants.size());
+}
+
+TEST(Mutants, ASampleIsNoticed) { run_mutants(199); }
+TEST(Mutants, LongEveryConstantIsNoticed) { run_mutants(1); }
+
+} // namespace
