@@ -1,4 +1,5 @@
-// expm1 and expm1f: e^x - 1 without cancellation near 0. The tables hold significand fields, and 2^k enters by an OR.
+// expm1 and expm1f: e^x - 1 without cancellation near 0. The tables hold significand fields, to which an OR gives the
+// exponent of 2^k.
 #include "exp/exp_kernels.h"
 
 namespace orvane {

@@ -267,8 +267,9 @@ ORVANE_INLINE lanes<float, W> log_stage_f32(const auto& c, lanes<float, W> Wh, l
     return fma(with_big_k(c, k, big), c.ln2, L);
 }
 
-// An integer c near 1024 / significand, and with the exponent taken off cs, so that Wh cs = 1 + rh:
-// ln(Wh + Wl) = kk ln 2 - ln(c / 1024 or c / 512) + ln(1 + r). Of acosh the error of r counts too.
+// c is an integer near 1024 / significand of Wh, and cs = c 2^-exponent, so that Wh cs = 1 + rh with a small rh:
+// ln(Wh + Wl) = k ln 2 - ln(c / 1024) + ln(1 + r), with c / 512 where c <= 724. acosh adds the rounding error of
+// r = rh + rl as well, since it counts there.
 enum class rest_of_r { dropped, kept };
 template <tier Tier, rest_of_r Rest, int W> ORVANE_INLINE lanes<double, W>
 log_stage_f64(const auto& c, lanes<double, W> Wh, lanes<double, W> Wl, const auto& big) {
@@ -292,7 +293,7 @@ log_stage_f64(const auto& c, lanes<double, W> Wh, lanes<double, W> Wl, const aut
     }
 }
 
-// Of abs(x) or x at or above 2^30 in place of 1 + V.
+// The logarithm of 1 + V = Wh + Wl; where |x| >= 2^30, where 1 + V would be 2 |x|, that of x 2^-30 and 31 ln 2.
 template <tier Tier, rest_of_r Rest = rest_of_r::dropped, class T, int W>
 ORVANE_INLINE lanes<T, W> log_or_large(const auto& c, lanes<T, W> x, lanes<T, W> Wh, lanes<T, W> Wl) {
     using V = lanes<T, W>;

@@ -1,8 +1,9 @@
 // asin, acos, asinpi, acospi: one fold, so that a single polynomial in t, 0 <= t <= 1/4, serves the whole range.
 //
 // Below 1/2 it works on t = x^2; from there up on t = w = (1 - |x|) / 2, since asin |x| = pi/2 - 2 asin(sqrt(w)).
-// With R the argument of the remaining arc sine, asin R = R + R Q(t) or, over pi, asin(R) / pi = R J(t). A NaN takes
-// different signs through R and through t: the last step's operands are in order so that all widths give the same.
+// With R the argument of the remaining arc sine, asin R = R + R Q(t) or, over pi, asin(R) / pi = R J(t). A NaN has
+// one sign in R and another in t; the order of the last step's operands is fixed, so that all widths return the same
+// NaN.
 #include "frame/_orvane_template.h"
 #include "frame/rare.h"
 #include "invtrig/coefficients.h"

@@ -36,8 +36,8 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         auto herr = fma(u, c.log2e_hi, -from_A) - (H - (from_A + A));
         auto L = fma(q, u2, tl + herr);
 
-        // The limit is on y H. Where H lacks half a part in a thousand of the logarithm (x from 0.9990 to 0.9992), s may
-        // lie below -1022 with P within the limit: the scale is 0 then, and so is the result.
+        // The limit is on y H. Where H lacks half a part in a thousand of the logarithm (x from 0.9990 to 0.9992), s
+        // may lie below -1022 with P within the limit: the scale is 0 then, and so is the result.
         auto P = y * H;
         auto perr = fma(y, H, -P);
         lane_bits<W> special = not_less_equal(x, lanes<double, W>(c.max_normal)) | (x < c.min_normal) |
@@ -105,8 +105,8 @@ template <const auto& Block, auto& Rare> struct pow_by_chords : kernel<two_argum
     }
 };
 
-// x is no positive normal number, in one subtraction; the largest finite one counts as none. What is no number in the
-// other argument is none in P either, and needs no test.
+// Whether x is anything but a positive normal number, by one subtraction; the largest finite number counts as special
+// too. A NaN in the other argument makes P a NaN, which the test of P's size marks, so it needs no test of its own.
 template <int W>
 ORVANE_INLINE lanes<int32_t, W> pattern_out_of_range(lanes<float, W> x, const auto& bias, const auto& limit) {
     return (signed_bits(x) - bias) >= limit;

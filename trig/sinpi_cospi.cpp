@@ -21,7 +21,7 @@ ORVANE_BLOCK_TWIN(__orvane_ssinpi_native_data, __orvane_ssinpi_data)
 ORVANE_BLOCK_TWIN(__orvane_scospi_data, __orvane_ssinpi_data)
 ORVANE_BLOCK_TWIN(__orvane_scospi_native_data, __orvane_ssinpi_data)
 
-// Where the sine has nothing in slot 3, it has what the cosine has there.
+// The first slots, which the blocks of sine and cosine share. (The sine does not read slot 3, the cosine's 1/2.)
 #define ORVANE_PARITY_CONSTANTS                                                                                     \
     SLOT(double, 0, abs_mask, 0x7FFFFFFFFFFFFFFF)                                                                   \
     SLOT(double, 1, two52, 0x4330000000000000) /* 2^52 */                                                           \
