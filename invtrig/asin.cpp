@@ -333,7 +333,7 @@ ORVANE_ARCS(asin, arc_sine)
 ORVANE_ARCS(acos, arc_cosine)
 // Largest known error of asinpi: 2.463 ulp at 0xBFE6327ED57A90E7
 // Largest known error of asinpi_native: 1.005e-09 relative at 0xBFE000000789E72C, with one processor's estimates
-// Largest known error of asinpif: 2.659 ulp at 0xBF321113
+// Largest known error of asinpif: 2.676 ulp at 0xBF33EB67
 // Largest known error of asinpif_native: 680.6 ulp at 0x3F00006E
 ORVANE_ARCS(asinpi, arc_sine)
 // Largest known error of acospi: 2.401 ulp at 0x3FEFFFFFFD8E49B0

@@ -101,6 +101,8 @@ TEST(Search, TellsMistakesInOneLine) {
                                                          {"floor", "exact"},
                                                          {"exp --every", "float kernels of one argument"},
                                                          {"exp --seconds -1", "seconds"},
+                                                         {"pownf --at 0x3F82A0F1", "takes 2"},
+                                                         {"pownf --at 1,2", "no bit pattern"},
                                                          {"exp --from 2 --to 1", "--from is larger"},
                                                          {"exp --library /nowhere.so", "cannot open"},
                                                          {"exp --append --file /nowhere", "cannot read"}};

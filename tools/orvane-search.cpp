@@ -4,6 +4,8 @@
 //     orvane-search exp_native --seconds 300       tiers by their suffix, as in the names of exports
 //     orvane-search expf --every                   every float; --from and --to keep to magnitudes between them
 //     orvane-search pownf --seed 7 --append        puts what is larger than the file's row into data/worst_cases.txt
+//     orvane-search pownf --at 0x3F82A0F1,0xFFFFEF47   measures one argument, without a search
+//     orvane-search --lines                        puts the file's rows into the lines above the kernels' exports
 //
 // Arguments are drawn from all patterns, from the ordinary range of the list of exports and from where two arguments
 // meet, and sorted into bins by sign, exponent and leading bits. The bins with the largest errors are then climbed:
@@ -17,7 +19,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <bit>
-#include <chrono>
 #include <cmath>
 #include <ctime>
 #include <iostream>
@@ -106,6 +107,7 @@ public:
     // Every float from `first` to `last` by pattern, eight bits of pattern at a time: visit(pattern, error) for those
     // that are not the float nearest to the C library's double.
     template <class F> void each_float(uint32_t first, uint32_t last, F visit) {
+        wide.place_arguments(arguments); // and the pointers to results in memory
         auto* const at = wide.argument_lanes(0);
         for (uint64_t x = first; x <= last; x += width) {
             uint32_t patterns[width];
@@ -223,6 +225,30 @@ void show_progress(double done, double of, const std::string& so_far) {
 }
 void end_progress() {
     if (isatty(2)) fputs("\r\033[K", stderr);
+}
+
+// Given arguments, as in the data file: no search, MPFR alone.
+findings measured(subject& s, const std::vector<std::string>& lanes) {
+    findings found;
+    for (const auto& text : lanes) {
+        subject::lane x{};
+        std::stringstream words(text);
+        int count = 0;
+        for (std::string word; std::getline(words, word, ','); count++) {
+            char* end;
+            const uint64_t w = strtoull(word.c_str(), &end, 16);
+            if (!word.starts_with("0x") || *end)
+                throw failure("'" + word + "' is no bit pattern; write 0x and hexadecimal digits");
+            if (count < 2) x[count] = w;
+        }
+        if (count != s.row.arguments())
+            throw failure("'" + text + "' has " + std::to_string(count) + " pattern(s); " + std::string(s.row.name) +
+                          " takes " + std::to_string(s.row.arguments()) + ", joined by a comma");
+        const lane_path path = s.path_of(x);
+        const double error = s.decided(x, measure_of(s.row, path));
+        if (std::isfinite(error) && error > found[path].error) found[path] = {x, error};
+    }
+    return found;
 }
 
 findings climbed(subject& s, const options& o) {
@@ -396,6 +422,7 @@ int run(int argc, char** argv) {
     std::vector<std::string> names;
     options o;
     std::string file = ORVANE_SOURCES "/data/worst_cases.txt", lib = library_path();
+    std::vector<std::string> at;
     bool append = false, lines = false;
     app.add_option("kernels", names,
                    "families with their tier, as exports are named without the width: exp, powf_native; "
@@ -403,6 +430,7 @@ int run(int argc, char** argv) {
     app.add_option("-s,--seconds", o.seconds, "processor time for each kernel (60)")->check(CLI::PositiveNumber);
     app.add_option("--seed", o.seed, "of the random arguments (1)");
     app.add_flag("--every", o.every, "every float instead, for float kernels of one argument: about two minutes");
+    app.add_option("--at", at, "measure these arguments instead: bit patterns, two joined by a comma");
     app.add_option("--from", o.from, "only arguments of this magnitude or larger")->check(CLI::NonNegativeNumber);
     app.add_option("--to", o.to, "only arguments of this magnitude or smaller")->check(CLI::NonNegativeNumber);
     app.add_flag("--append", append, "put what is larger than the data file's row into it");
@@ -440,7 +468,7 @@ int run(int argc, char** argv) {
     if (append) read_worst_cases(file);
     for (const kernel_row* row : rows) {
         subject s(*row, opened);
-        const findings found = o.every ? every_float(s, o) : climbed(s, o);
+        const findings found = !at.empty() ? measured(s, at) : o.every ? every_float(s, o) : climbed(s, o);
         auto known = append ? read_worst_cases(file) : std::vector<worst_case>();
         for (const auto& [path, c] : found) {
             if (c.error <= 0) continue;

@@ -139,11 +139,11 @@ ORVANE_TWIN_SETTLED(sinpif, _native, sinpif, )
 // Largest known error of cospif: 2.454 ulp at 0x39BB1E00
 ORVANE_EXPORT_SETTLED(cospif, , scospi_kernel)
 ORVANE_TWIN_SETTLED(cospif, _native, cospif, )
-// Largest known error of sinpi: 2.466 ulp at 0xC055DFF8CDD08F85
+// Largest known error of sinpi: 2.481 ulp at 0xC051E006B5327895
 ORVANE_EXPORT_SETTLED(sinpi, , dsinpi_kernel)
 // Largest known error of sinpi_native: 5.162e-11 relative at 0x4054611086B1CF39
 ORVANE_EXPORT_SETTLED(sinpi, _native, dsinpi_native_kernel)
-// Largest known error of cospi: 2.518 ulp at 0x3E6A27463BC802FE
+// Largest known error of cospi: 2.526 ulp at 0xBFF00000FC17E2F1
 ORVANE_EXPORT_SETTLED(cospi, , dcospi_kernel)
 // Largest known error of cospi_native: 5.162e-11 relative at 0xBF91077E0E8A09F7
 ORVANE_EXPORT_SETTLED(cospi, _native, dcospi_native_kernel)
