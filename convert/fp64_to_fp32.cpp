@@ -31,7 +31,7 @@ template <rounding R> struct fp64_to_fp32 : kernel<conversion<double, float>, __
                 auto m = (pattern & c.abs32) - keep(too_big, I(c.one_int));
                 return as<float>(m | (pattern & c.sign32));
             } else {
-                auto step = ((pattern & c.sign32b) < c.zero_int) | c.one_int; // up: +1, of a negative value -1
+                auto step = ((pattern & c.sign32b) < c.zero_int) | c.one_int; // upward: +1, for negative values -1
                 if constexpr (R == downward) return as<float>(pattern - keep(convert<int32_t>(x < d), step));
                 else return as<float>(pattern + keep(convert<int32_t>(d < x), step));
             }

@@ -80,7 +80,7 @@ struct to_64 : kernel<conversion<T, I>, Block> {
         if constexpr (is_signed || !Saturating) a = magnitude(r);
         auto m = (bits(a) & c.mant_mask) | c.implicit_bit;
         auto eb = andnot(lanes<uint_of<T>, W>(c.mant_mask), bits(a));
-        auto sh = (eb >> significand_bits) - c.shift_bias; // below the shifter huge, which shifts everything out
+        auto sh = (eb >> significand_bits) - c.shift_bias; // of small values it wraps to a huge count: all bits go
         auto big = shift_left(widen(m), widen(sh));
         auto small = widen(bits(a + c.shifter()) & c.mant_mask);
 

@@ -3,8 +3,8 @@
 
 namespace orvane {
 
-// Subnormals. a = mh r^2 nears the root, r being a seed of 1 / cbrt(m), and (1 - e)^(-2/3) with e = 1 - m r^3 makes
-// up for it: hi + lo throughout.
+// Subnormals. r is a seed of 1 / cbrt(m): a = mh r^2 is near the root, and a factor (1 - e)^(-2/3) with e = 1 - m r^3
+// corrects it; everything is kept as hi + lo.
 ORVANE_SLOW_PATH(__orvane_dcbrt_cout_rare, const double* x, double* result) {
     constexpr auto& T = __dcbrt_g__orvdCbrtTab;
     const double v0 = *x;

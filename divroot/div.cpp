@@ -70,6 +70,8 @@ struct sdiv_native : kernel<two_arguments<float>, __orvane_sdiv_native_data, __o
         return answer{x * reciprocal_estimate(y), beyond_estimate(c, y)};
     }
 };
+// Largest known error of divf_native: 5291 ulp at 0xBF18F7BE,0xBD98F7FF, with one processor's estimates
+// Largest known error of divf_native, slow path: 0.5 ulp at 0x80D10233,0x002F5A3A
 ORVANE_EXPORT(divf, _native, sdiv_native)
 ORVANE_TWIN(divf, _half, divf, _native)
 
@@ -96,6 +98,8 @@ struct sinv_native : kernel<one_argument<float>, __orvane_sinv_native_data, __or
         return answer{reciprocal_estimate(x), beyond_estimate(c, x)};
     }
 };
+// Largest known error of invf_native: 4762 ulp at 0x328697FF, with one processor's estimates
+// Largest known error of invf_native, slow path: 0.5 ulp at 0xFE7FFFFF
 ORVANE_EXPORT(invf, _native, sinv_native)
 ORVANE_TWIN(invf, _half, invf, _native)
 

@@ -12,6 +12,8 @@ struct dhypot_block {
     GAP(0, 1)
     SLOT(double, 2, one, 0x3FF0000000000000)
     GAP(3, 3)
+    // Fit on |h| <= 2^-10.4: 1 + h*(hp0 + hp1*h + hp2*h^2 + hp3*h^3) = 1/sqrt(1 + h) to 2^-54.0 relative
+    // Of the fast tier. Fit on |h| <= 2^-10.4: 1 + h*(hp0 + hp1*h) = 1/sqrt(1 + h) to 2^-32.9 relative
     SLOT(double, 4, hp3, 0x3FD1800000000000) // 0.2734375, series of 1 / sqrt(1 + h)
     SLOT(double, 5, hp2, 0xBFD4000000000000) // -0.3125
     SLOT(double, 6, hp1, 0x3FD8000000000000) // 0.375
@@ -57,7 +59,11 @@ struct dhypot_kernel : kernel<two_arguments<double>, __orvane_dhypot_data, __orv
 };
 using dhypot = dhypot_kernel<false>;
 using dhypot_native = dhypot_kernel<true>;
+// Largest known error of hypot: 1.215 ulp at 0x4066E89949DAAA48,0x4020899E372BD122, with one processor's estimates
+// Largest known error of hypot, slow path: 0.8533 ulp at 0x0B2413207DD204B4,0x8B14EF6616BC02E7
 ORVANE_EXPORT(hypot, , dhypot)
+// Largest known error of hypot_native: 4.329e-11 relative at 0x4088FACBE7C499A2,0x4048159F16D032FB, with one processor's estimates
+// Largest known error of hypot_native, slow path: 0.8534 ulp at 0x7D84AFB2CD48D4B0,0xFD725F9AA909570D
 ORVANE_EXPORT(hypot, _native, dhypot_native)
 
 // A Newton step on g = sqrt(s) and k = 1 / (2 sqrt(s)) together, and one more on g by its residual.
@@ -75,6 +81,8 @@ struct shypot : kernel<two_arguments<float>, __orvane_shypot_data, __orvane_shyp
         return answer{fma(-r, k2, g2), special};
     }
 };
+// Largest known error of hypotf: 1.203 ulp at 0x3FB5E2BE,0xBAE24631, with one processor's estimates
+// Largest known error of hypotf, slow path: 0.5 ulp at 0x1E74E6BD,0xA46A48A8
 ORVANE_EXPORT(hypotf, , shypot)
 
 struct shypot_native : kernel<two_arguments<float>, __orvane_shypot_native_data, __orvane_shypot_cout_rare> {
@@ -87,6 +95,8 @@ struct shypot_native : kernel<two_arguments<float>, __orvane_shypot_native_data,
         return answer{s * e0, tiny | (a == c.exp_field)};
     }
 };
+// Largest known error of hypotf_native: 4157 ulp at 0x4477A92F,0x3F9460BE, with one processor's estimates
+// Largest known error of hypotf_native, slow path: 0.5 ulp at 0x9D748F91,0x977A370D
 ORVANE_EXPORT(hypotf, _native, shypot_native)
 
 } // namespace orvane

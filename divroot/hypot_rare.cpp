@@ -9,7 +9,7 @@ namespace {
 double scaled_hypot(double x, double y) {
     const double ax = __builtin_fabs(x), ay = __builtin_fabs(y);
     double M = ax > ay ? ax : ay, n = ax > ay ? ay : ax;
-    // The larger one comes near 4, or as near as a power of two brings a tiny one.
+    // The larger one is scaled to about 4, or as close as one power of two can bring a tiny one.
     const int EM = biased_exponent(M), k = (EM < 25 ? -23 - EM : -EM) & 0x7FF;
     n *= power_of_two(k);
     M *= power_of_two(k);

@@ -12,6 +12,7 @@ struct dexp_block {
     SLOT(double, 18, index_shifter, 0x42F8000000000000) // 1.5 * 2^48
     SLOT(double, 19, ln2_64_hi, 0x3F862E42FEFA0000)     // 0.010830424696223417, ln 2 / 64, high part
     SLOT(double, 20, ln2_64_lo, 0x3D1CF79ABC9E3B3A)     // 2.572804622327669e-14, ln 2 / 64, low part
+    // Fit on |r| <= ln2/128: 1 + r + c2*r^2 + c3*r^3 + c4*r^4 + c5*r^5 = exp(r) to 2^-59.3 relative
     SLOT(double, 21, c2, 0x3FDFFFFFFFFFDB3B)            // 0.4999999999994775, coefficient of r^2
     SLOT(double, 22, c3, 0x3FC555555555653E)            // 0.1666666666667797, coefficient of r^3
     SLOT(double, 23, c4, 0x3FA555573F218B93)            // 0.04166672368662385, coefficient of r^4
@@ -29,6 +30,7 @@ struct dexp_rm_block {
     TABLE(0, exp2_single, exp2_single_128)
     SLOT(double, 16, inv_ln2_128, 0x40671547652B82FE) // 184.6649652337873, 128 / ln 2
     SLOT(double, 17, shifter, 0x4338000000000000)     // 1.5 * 2^52
+    // Fit on |r| <= ln2/256: 1 + r + b2*r^2 = exp(r) to 2^-28.2 relative
     SLOT(double, 18, one, 0x3FF0000000000000)         // 1.0
     SLOT(double, 19, b2, 0x3FDFFFFC2808F7E8)          // 0.49999908361121337, coefficient of r^2
     SLOT(double, 20, ln2_128, 0x3F762E42FEFA39EF)     // 0.0054152123481245725, ln 2 / 128
@@ -83,7 +85,11 @@ struct exp_single : kernel<one_argument<double>, __orvane_dexp_rm_data, __orvane
     }
 };
 
+// Largest known error of exp: 0.5236 ulp at 0xC05A84FA40148CEE
+// Largest known error of exp, slow path: 0.5138 ulp at 0x40862DF706D5EE69
 ORVANE_EXPORT(exp, , exp_pairs)
+// Largest known error of exp_rm: 3.308e-09 relative at 0xC0852F348816BC14
+// Largest known error of exp_rm, slow path: 0.5111 ulp at 0x40862DB45AF01265
 ORVANE_EXPORT(exp, _rm, exp_single)
 ORVANE_TWIN(exp, _native, exp, _rm)
 ORVANE_TWIN(exp, _half, exp, _rm)

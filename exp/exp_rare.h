@@ -14,7 +14,7 @@ struct exp_base {
 inline constexpr exp_base base_e = {f64(0x40571547652B82FE), f64(0xBF862E42FEFA0000), f64(0xBD1CF79ABC9E3B3A)};
 inline constexpr exp_base base_10 = {212.60339807279118, -0.004703593682222618, -2.7088530630863833e-14};
 
-// x = n step + r; of n the low 32 bits.
+// x = n step + r; only the low 32 bits of n are kept.
 struct steps_and_rest {
     double r;
     uint32_t n;
@@ -59,8 +59,8 @@ inline double scaled(double v, uint32_t e) {
     return v * power_of_two(e + 1023);
 }
 
-// (hi + y) * 2^e where the result may be subnormal in its type: the sum is cut at the last bit that counts there, and
-// what falls off it, with the sum's own error, is added last, so that one rounding shows.
+// (hi + y) * 2^e where the result may be subnormal in its type: the sum is cut at the last bit that the result keeps;
+// what is cut off is added last, together with the sum's own error, so that the result is rounded once.
 inline double scaled_to_subnormal(double hi, double y, uint32_t e) {
     constexpr double back = f64(0x3C30000000000000); // 2^-60
     const uint32_t field = (e + 1083) & 0x7FF;       // of 2^(e + 60)

@@ -15,6 +15,7 @@ struct sexp_block {
     // 2^(j/4): tab_hi rounded, and what is missing from it, relative to it.
     ENTRIES(float, 6, 4, tab_lo, 0x00000000, 0x33092801, 0x329302AE, 0xB27CE182)
     ENTRIES(float, 7, 4, tab_hi, 0x3F800000, 0x3F9837F0, 0x3FB504F3, 0x3FD744FD)
+    // Fit on |r| <= ln2/8: 1 + r + c1*r^2 + c2*r^3 + c3*r^4 = exp(r) to 2^-26.9 relative
     SLOT(float, 8, c3, 0x3D2ABB12)             // of r^4
     SLOT(float, 9, c2, 0x3E2ABB12)             // of r^3
     SLOT(float, 10, c1, 0x3EFFFFFF)            // of r^2
@@ -31,6 +32,7 @@ struct sexp_native_block {
     SLOT(float, 1, shifter, 0x4B400000) // 1.5 * 2^23
     SLOT(float, 2, ln2, 0x3F317218)     // ln 2
     GAP(3, 7)
+    // Fit on |r| <= ln2/2: a0 + a1*r + a2*r^2 + a3*r^3 = exp(r) to 2^-12.7 relative
     SLOT(float, 8, a0, 0x3F800000)              // of r^0
     SLOT(float, 9, a1, 0x3F8003DE)              // of r
     SLOT(float, 10, a2, 0x3F00F2D6)             // of r^2
@@ -83,8 +85,12 @@ struct expf_polynomial : kernel<one_argument<float>, __orvane_sexp_native_data, 
     }
 };
 
+// Largest known error of expf: 0.7493 ulp at 0xBFB9E7DD
+// Largest known error of expf, slow path: 0.5 ulp at 0xC2B27DD9
 ORVANE_EXPORT(expf, , expf_table)
 ORVANE_TWIN(expf, _rm, expf, )
+// Largest known error of expf_native: 1776 ulp at 0x42A9D231
+// Largest known error of expf_native, slow path: 0.5 ulp at 0xC2BC79BE
 ORVANE_EXPORT(expf, _native, expf_polynomial)
 ORVANE_TWIN(expf, _half, expf, _native)
 

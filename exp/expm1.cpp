@@ -1,4 +1,5 @@
-// expm1 and expm1f: e^x - 1 without cancellation near 0. The tables hold significand fields, and 2^k enters by an OR.
+// expm1 and expm1f: e^x - 1 without cancellation near 0. The tables hold significand fields, to which an OR gives the
+// exponent of 2^k.
 #include "exp/exp_kernels.h"
 
 namespace orvane {
@@ -8,6 +9,7 @@ ORVANE_SLOW_PATH(__orvane_sexpm1_cout_rare, const float* x, float* result);
 
 struct dexpm1_block {
     TABLE(0, exp2_split, exp2_split_128)
+    // Fit on |r| <= ln2/256: r + p2*r^2 + p3*r^3 + p4*r^4 + p5*r^5 = exp(r) - 1 to 2^-56.1 relative
     SLOT(double, 32, p5, 0x3F81111168877F38)          // 0.008333335878830547, polynomial
     SLOT(double, 33, p4, 0x3FA55555C2A9C0F3)          // 0.04166667939432669, polynomial
     SLOT(double, 34, p3, 0x3FC555555555541D)          // 0.166666666666658, polynomial
@@ -28,6 +30,7 @@ struct dexpm1_block {
 struct dexpm1_native_block {
     TABLE(0, exp2_significands, exp2_significands_128)
     GAP(16, 17)
+    // Fit on |r| <= ln2/256: r + p2*r^2 + p3*r^3 = exp(r) - 1 to 2^-30.2 relative
     SLOT(double, 18, p3, 0x3FC555555555541D)          // 0.166666666666658
     SLOT(double, 19, p2, 0x3FDFFFFFFFFFFE5C)          // 0.4999999999999767
     SLOT(double, 20, inv_ln2_128, 0x40671547652B82FE) // 184.6649652337873
@@ -42,6 +45,7 @@ struct dexpm1_native_block {
 };
 struct sexpm1_block {
     TABLE(0, exp2_split, exp2f_split_64)
+    // Fit on |r| <= ln2/128: r + p2*r^2 + p3*r^3 = exp(r) - 1 to 2^-29.1 relative
     SLOT(float, 8, p3, 0x3E2AAABF) // 0.16666696965694427
     SLOT(float, 9, p2, 0x3F00000F) // 0.5000008940696716
     GAP(10, 11)
@@ -59,6 +63,7 @@ struct sexpm1_block {
 struct sexpm1_native_block {
     TABLE(0, exp2_significands, exp2f_significands_32)
     GAP(2, 2)
+    // Fit on |r| <= ln2/64: r + p2*r^2 = exp(r) - 1 to 2^-15.6 relative
     SLOT(float, 3, p2, 0x3F00000F) // 0.5000008940696716
     GAP(4, 12)
     SLOT(float, 13, minus_one, 0xBF800000) // -1.0
@@ -166,9 +171,17 @@ using dexpm1_native = expm1_plain<double, __orvane_dexpm1_native_data, __orvane_
 using sexpm1_default = expm1_compensated<float, __orvane_sexpm1_data, __orvane_sexpm1_cout_rare>;
 using sexpm1_native = expm1_plain<float, __orvane_sexpm1_native_data, __orvane_sexpm1_cout_rare>;
 
+// Largest known error of expm1: 0.6104 ulp at 0xBF5001D0C354D6F7
+// Largest known error of expm1, slow path: 0.517 ulp at 0x4086286A386D1842
 ORVANE_EXPORT(expm1, , dexpm1_default)
+// Largest known error of expm1_native: 8.3e-10 relative at 0x3F662E42FF0935C8
+// Largest known error of expm1_native, slow path: 0.517 ulp at 0x4086286A386D1842
 ORVANE_EXPORT(expm1, _native, dexpm1_native)
+// Largest known error of expm1f: 0.5591 ulp at 0x3BEFA11B
+// Largest known error of expm1f, slow path: 0.5 ulp at 0x42B0F783
 ORVANE_EXPORT(expm1f, , sexpm1_default)
+// Largest known error of expm1f_native: 283.7 ulp at 0x3C31723D
+// Largest known error of expm1f_native, slow path: 0.5 ulp at 0x42B0F783
 ORVANE_EXPORT(expm1f, _native, sexpm1_native)
 
 } // namespace orvane

@@ -5,7 +5,7 @@ namespace orvane {
 
 namespace {
 
-// A NaN goes on as it came, a signalling one too: the bits are copied and no operation touches them.
+// A NaN is returned as it came, a signalling one too: its bits are copied and no operation touches them.
 template <class T> int fract_rare(const T* x, T* result, T* out) {
     const bool infinite = is_infinite(*x);
     __builtin_memcpy(out, x, sizeof(T));

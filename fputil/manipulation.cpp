@@ -20,7 +20,7 @@ ORVANE_SLOW_PATH(__orvane_slogb_cout_rare, const float* x, float* result);
 ORVANE_SLOW_PATH(__orvane_dnextafter_cout_rare, const double* x, const double* y, double* result);
 ORVANE_SLOW_PATH(__orvane_snextafter_cout_rare, const float* x, const float* y, float* result);
 
-// The exponent field lies from this bit of a word on.
+// The lowest bit of the exponent field in a word.
 template <class T> constexpr int field_shift = sizeof(T) == 8 ? 20 : 23;
 
 // x with words put in place of those that words() shows.
@@ -153,9 +153,9 @@ struct snextafter_block {
 ORVANE_BLOCK(dnextafter_block, __orvane_dnextafter_data)
 ORVANE_BLOCK(snextafter_block, __orvane_snextafter_data)
 
-// One step of the pattern: down where the signs differ or x is the larger pattern, which of two negative numbers is
-// the lower one. The range test is one signed comparison, since the subtraction of the base wraps words of subnormals
-// and zeros to the top.
+// The pattern of x moves by one: down where the signs differ or x has the larger pattern (of two negative numbers the
+// smaller number has it), else up. The range test is one signed comparison, since subtracting the base wraps the
+// words of subnormals and zeros to the top.
 template <class T, const auto& Block, auto& Rare> struct nextafter_kernel : kernel<two_arguments<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         auto a = [&](auto v) ORVANE_LAMBDA { return (words(v) & c.abs_word) - c.range_base; };

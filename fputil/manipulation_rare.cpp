@@ -3,7 +3,7 @@
 
 namespace orvane {
 
-// Pairs (+v, -v), taken by the sign bit; products of two overflow or underflow.
+// Pairs (+v, -v), indexed by the sign bit; a product of two of them overflows or underflows.
 #define ORVANE_SIGNED_PAIR(T, name, v)                                                                               \
     ORVANE_TABLE(T, name, 2);                                                                                        \
     constexpr T name[2] = {v, -(v)};
@@ -93,7 +93,7 @@ template <class T> int logb_rare(const T* x, T* result) {
 
 template <class T> int nextafter_rare(const T* x, const T* y, T* result) {
     if (is_nan(*x) || is_nan(*y)) return *result = nan_of(*x, *y), ordinary;
-    if (*x == *y) return *result = *y, ordinary; // of two zeros the second
+    if (*x == *y) return *result = *y, ordinary; // where both are zeros, the second one
     if (is_zero(*x)) return *result = of_type<T>::least[is_negative(*y)], underflow;
     const bool down = is_negative(*x) != is_negative(*y) || magnitude(*x) > magnitude(*y);
     *result = std::bit_cast<T>(bits(*x) + (down ? pattern<T>(-1) : pattern<T>(1)));

@@ -14,8 +14,8 @@ ORVANE_SLOW_PATH(__orvane_sremainder_cout_rare, const float* x, const float* y, 
 ORVANE_SLOW_PATH(__orvane_dremquo_cout_rare, const double* x, const double* y, double* result, int32_t* out);
 ORVANE_SLOW_PATH(__orvane_sremquo_cout_rare, const float* x, const float* y, float* result, int32_t* out);
 
-// Lanes whose exponents are too far apart, and lanes whose y is small or at the top of its range, infinite or NaN: the
-// subtraction of `y_base` wraps words of small y to the top. A and Y are magnitudes.
+// Lanes whose exponents are too far apart, and lanes whose y is small or at the top of its range, infinite or NaN:
+// the subtraction of `y_base` wraps words of small y to the top. A and Y are magnitudes.
 template <class T, int W>
 ORVANE_INLINE lane_bits<W> beyond_one_quotient(const auto& c, lanes<T, W> A, lanes<T, W> Y) {
     constexpr int shift = sizeof(T) == 8 ? 20 : 23;
@@ -49,8 +49,8 @@ template <class T, const auto& Block, auto& Rare> struct fmod_kernel : kernel<tw
         auto special = beyond_one_quotient(c, A, Y);
         auto q = round_to<toward_zero>(x / y);
         auto s = x & c.sign_mask;
-        auto r = fma(-q, s ^ y, A); // |q| |y| off |x|, exactly
-        r = r + keep(r < lanes<T, W>(T(0)), Y); // the division can round q up to a whole number
+        auto r = fma(-q, s ^ y, A); // |x| - |q| |y|, exactly
+        r = r + keep(r < lanes<T, W>(T(0)), Y); // where x / y was rounded up to an integer, q is one too large
         return answer{s | r, special};
     }
 };
@@ -84,8 +84,8 @@ ORVANE_BLOCK(sremainder_block, __orvane_sremquo_data)
 ORVANE_BLOCK_TWIN(__orvane_dremainder_data, __orvane_dremquo_data)
 ORVANE_BLOCK_TWIN(__orvane_sremainder_data, __orvane_sremquo_data)
 
-// x less the whole multiple n of y that is nearest by the quotient as rounded; `beyond` where what is left is more
-// than half of y, so that one more y goes off, toward zero.
+// x - n y with n the integer nearest to the rounded quotient; `beyond` marks lanes where the rest is still more than
+// half of y, so that y is taken off once more, toward zero.
 template <class T, int W> struct nearest_multiple {
     lanes<T, W> n, r, v;
     lanes<int_of<T>, W> beyond;

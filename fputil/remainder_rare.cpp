@@ -23,7 +23,7 @@ template <class T> unpacked<T> unpack(T v) {
     const int n = shift_to_leading<T>(fraction);
     return {fraction << n, 1 - exponent_bias<T> - n};
 }
-// The inverse, of any nonzero significand; what a subnormal result shifts out are zeros.
+// The inverse, for any nonzero significand. A subnormal result shifts out zeros only, so that it is exact.
 template <class T> T pack(unpacked<T> u) {
     const int n = shift_to_leading<T>(u.significand);
     const auto m = u.significand << n;
@@ -32,7 +32,7 @@ template <class T> T pack(unpacked<T> u) {
     return std::bit_cast<T>((m ^ leading_bit<T>) | pattern<T>(field) << fraction_bits<T>);
 }
 
-// A = q Y + remainder for A > Y > 0; of q the low 32 bits.
+// A = q Y + remainder for A > Y > 0; only the low 32 bits of q are kept.
 template <class T> struct quotient_and_remainder {
     uint32_t q;
     T remainder;
@@ -42,7 +42,7 @@ template <class T> quotient_and_remainder<T> long_division(T A, T Y) {
     const auto [my, ey] = unpack(Y);
     auto m = mx;
     uint32_t q = 0;
-    // One bit: m, below 2 my, less my where that fits, doubled for the next.
+    // One quotient bit: m is below 2 my; my is subtracted where it fits, and the rest doubled for the next bit.
     auto step = [&] {
         const auto rest = m - my;
         const bool fits = m >= my;
@@ -72,7 +72,7 @@ template <class T> int fmod_rare(const T* x, const T* y, T* result) {
     return ordinary;
 }
 
-// Without a remainder.
+// Arguments without a remainder.
 template <class T> T no_remainder() { return sizeof(T) == 4 ? invalid<T> : invalid_operation<T>(); }
 
 template <class T> int remquo_rare(const T* x, const T* y, T* result, int32_t* out) {
@@ -130,7 +130,7 @@ ORVANE_SLOW_PATH(__orvane_sremainder_cout_rare, const float* x, const float* y, 
 }
 ORVANE_SLOW_PATH(__orvane_dremquo_cout_rare, const double* x, const double* y, double* result, int32_t* out) {
     remquo_rare(x, y, result, out);
-    return ordinary; // whatever remainder tells
+    return ordinary; // whatever status remainder has
 }
 ORVANE_SLOW_PATH(__orvane_sremquo_cout_rare, const float* x, const float* y, float* result, int32_t* out) {
     return remquo_rare(x, y, result, out);

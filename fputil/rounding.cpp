@@ -43,8 +43,8 @@ struct sround_block {
 ORVANE_BLOCK(dround_block, __orvane_dround_data)
 ORVANE_BLOCK(sround_block, __orvane_sround_data)
 
-// Ties to even first; a tie that went down has exactly one half left and goes up by one. From 2^52 (2^23) on nothing
-// is left, so no value is too large.
+// Rounds ties to even first; where that rounded a tie down, exactly one half is left, and the result goes up by one.
+// From 2^52 (2^23) on nothing is left, so the formula holds for all sizes.
 template <class T, const auto& Block> struct round_kernel : kernel<one_argument<T>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto a = andnot(lanes<T, W>(c.sign_mask), x);

@@ -11,8 +11,8 @@ ORVANE_SLOW_PATH(__orvane_sfmin_cout_rare, const float* x, const float* y, float
 ORVANE_SLOW_PATH(__orvane_dfdim_cout_rare, const double* x, const double* y, double* result);
 ORVANE_SLOW_PATH(__orvane_sfdim_cout_rare, const float* x, const float* y, float* result);
 
-// min(a, b) and max(a, b) give b on a tie; where the magnitudes a of x and b of y are equal the operands are turned
-// round.
+// min(a, b) and max(a, b) give b on a tie. a and b are the magnitudes of x and y; where they are equal, x and y
+// change places.
 struct smaller {
     static ORVANE_INLINE auto of(auto x, auto y, auto, auto) { return min(x, y); }
 };

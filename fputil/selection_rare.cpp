@@ -12,7 +12,7 @@ template <class T> int selection_rare(const T* x, const T* y, T* result) {
     return ordinary;
 }
 
-// Of a difference a NaN is the result.
+// fdim: a NaN in either argument is the result, quieted; the second one's where both are NaN.
 template <class T> int difference_rare(const T* x, const T* y, T* result) {
     if (is_nan(*x)) *result = *x * T(1.0);
     if (is_nan(*y)) *result = *y * T(1.0);

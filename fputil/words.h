@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-// Constants that stand in no block of their own.
+// Constants of kernels that have no block of their own.
 template <class T> struct fputil_pool;
 template <> struct fputil_pool<double> {
     SLOT(int32_t, 0, largest_word, 0x7FEFFFFF) // of a finite magnitude

@@ -5,7 +5,7 @@ namespace orvane {
 
 namespace {
 
-// Of the float routines the processor's own, which is negative.
+// The NaN of a domain error: in float the processor's default NaN, which is negative.
 template <class T> constexpr T no_result = sizeof(T) == 8 ? T(f64(0x7FF8000000000000)) : T(f32(0xFFC00000));
 
 template <class T> int asinh_rare(T x, T* result) {

@@ -25,6 +25,8 @@ struct ssinh_block {
     GAP(21, 21)
     SLOT(int32_t, 22, large_limit, 0x42AEAC4E) // 87.33653, compared as an integer
     GAP(23, 23)
+    // Fit on |r| <= ln2/2: r + s1*r^3 + s2*r^5 = sinh(r) to 2^-26.2 relative
+    // Fit on |r| <= ln2/2: 1 + c1*r^2 + c2*r^4 + c3*r^6 = cosh(r) to 2^-33.2 relative
     SLOT(float, 24, c1, 0x3F000000)           // 0.5, coefficient of r^2 in cosh r - 1
     SLOT(float, 25, s1, 0x3E2AAA57)           // 0.16666542, coefficient of r^3 in sinh r
     SLOT(float, 26, c2, 0x3D2AAA72)           // 0.041666456, coefficient of r^4
@@ -44,6 +46,8 @@ struct scosh_block {
     GAP(21, 21)
     SLOT(int32_t, 22, large_limit, 0x42AEAC4E) // 87.33653, compared as an integer
     GAP(23, 23)
+    // Fit on |r| <= ln2/2: r + s1*r^3 + s2*r^5 = sinh(r) to 2^-26.2 relative
+    // Fit on |r| <= ln2/2: 1 + c1*r^2 + c2*r^4 + c3*r^6 = cosh(r) to 2^-33.2 relative
     SLOT(float, 24, c1, 0x3F000000)           // 0.5, coefficient of r^2 in cosh r - 1
     SLOT(float, 25, s1, 0x3E2AAA57)           // 0.16666542, coefficient of r^3 in sinh r
     SLOT(float, 26, c2, 0x3D2AAA72)           // 0.041666456, coefficient of r^4
@@ -61,6 +65,8 @@ struct ssinh_native_block {
     SLOT(float, 20, shifter, 0x4B400000) // 1.5 * 2^23
     GAP(21, 21)
     SLOT(int32_t, 22, large_limit, 0x42AEAC4E) // 87.33653, compared as an integer
+    // Fit on |r| <= ln2/2: a0*r + a1*r^3 = sinh(r) to 2^-13.9 relative
+    // Fit on |r| <= ln2/2: 1 + b0*r^2 + b1*r^4 = cosh(r) to 2^-20.3 relative
     SLOT(float, 23, a0, 0x3F7FFBC9)            // 0.9999357, sinh r / r, constant term, not 1
     SLOT(float, 24, b0, 0x3EFFFB2F)            // 0.49996325, (cosh r - 1)/r^2, constant term
     SLOT(float, 25, a1, 0x3E2CCD2E)            // 0.16875145, sinh r / r, r^2 term
@@ -78,6 +84,8 @@ struct scosh_native_block {
     SLOT(float, 20, shifter, 0x4B400000) // 1.5 * 2^23
     GAP(21, 21)
     SLOT(int32_t, 22, large_limit, 0x42AEAC4E) // 87.33653, compared as an integer
+    // Fit on |r| <= ln2/2: a0*r + a1*r^3 = sinh(r) to 2^-13.9 relative
+    // Fit on |r| <= ln2/2: 1 + b0*r^2 + b1*r^4 = cosh(r) to 2^-20.3 relative
     SLOT(float, 23, a0, 0x3F7FFBC9)            // 0.9999357, sinh r / r, constant term, not 1
     SLOT(float, 24, b0, 0x3EFFFB2F)            // 0.49996325, (cosh r - 1)/r^2, constant term
     SLOT(float, 25, a1, 0x3E2CCD2E)            // 0.16875145, sinh r / r, r^2 term
@@ -99,6 +107,8 @@ struct dsinh_block {
     SLOT(double, 57, shifter, 0x42C8000000000000) // 1.5 * 2^45: leaves 7 fractional bits
     SLOT(int32_t, 58, large_limit, 0x40861D99)    // high word of about 707.7
     GAP(59, 59)
+    // Fit on |r| <= ln2/256: r + s1*r^3 + s2*r^5 = sinh(r) to 2^-68.1 relative
+    // Fit on |r| <= ln2/256: 1 + c1*r^2 + c2*r^4 = cosh(r) to 2^-65.4 relative
     SLOT(double, 60, c1, 0x3FDFFFFFFFFFFDBD) // 0.49999999999996786
     SLOT(double, 61, s1, 0x3FC55555555554AD) // 0.166666666666662
     SLOT(double, 62, c2, 0x3FA55555CF16D299) // 0.04166668084090936
@@ -114,6 +124,8 @@ struct dcosh_block {
     SLOT(double, 49, ln2_lo, 0xBDAC610CA86C3899)  // -1.2905320270077144e-11
     SLOT(double, 50, shifter, 0x42B8000000000000) // 1.5 * 2^44: leaves 8 fractional bits
     SLOT(uint32_t, 51, index_mask, 0x000000FF)
+    // Fit on |r| <= ln2/512: r + s1*r^3 = sinh(r) to 2^-47.6 relative
+    // Fit on |r| <= ln2/512: 1 + c1*r^2 + c2*r^4 = cosh(r) to 2^-65.4 relative
     SLOT(double, 52, c1, 0x3FDFFFFFFFFFFDBD)  // 0.49999999999996786
     SLOT(double, 53, s1, 0x3FC5555570813E14)  // 0.16666667931939172
     SLOT(double, 54, c2, 0x3FA55555CF16D299)  // 0.04166668084090936
@@ -221,13 +233,25 @@ using dcosh = cosh_kernel<double, __orvane_dcosh_data, __orvane_dcosh_cout_rare>
 using scosh = cosh_kernel<float, __orvane_scosh_data, __orvane_scosh_cout_rare>;
 using scosh_native = cosh_kernel<float, __orvane_scosh_native_data, __orvane_scosh_cout_rare>;
 
+// Largest known error of sinh: 1.896 ulp at 0x3F6CC4ADEE8765F2
+// Largest known error of sinh, slow path: 0.5159 ulp at 0x4086330FE3651662
 ORVANE_EXPORT(sinh, , dsinh)
 ORVANE_TWIN(sinh, _native, sinh, )
+// Largest known error of sinhf: 1.546 ulp at 0x3EC3278E
+// Largest known error of sinhf, slow path: 0.5 ulp at 0xC2B2753E
 ORVANE_EXPORT(sinhf, , ssinh)
+// Largest known error of sinhf_native: 1079 ulp at 0x397FFFFF
+// Largest known error of sinhf_native, slow path: 0.5 ulp at 0xC2B2753E
 ORVANE_EXPORT(sinhf, _native, ssinh_native)
+// Largest known error of cosh: 1.516 ulp at 0x4032B2872AE27762
+// Largest known error of cosh, slow path: 0.5164 ulp at 0x4086331171B3E7C8
 ORVANE_EXPORT(cosh, , dcosh)
 ORVANE_TWIN(cosh, _native, cosh, )
+// Largest known error of coshf: 2.079 ulp at 0x41003122
+// Largest known error of coshf, slow path: 0.5 ulp at 0xC2B2753E
 ORVANE_EXPORT(coshf, , scosh)
+// Largest known error of coshf_native: 380.4 ulp at 0x40FF1487
+// Largest known error of coshf_native, slow path: 0.5 ulp at 0xC2B2753E
 ORVANE_EXPORT(coshf, _native, scosh_native)
 
 } // namespace orvane

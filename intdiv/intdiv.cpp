@@ -17,7 +17,7 @@ struct intdiv_pool {
 };
 ORVANE_BLOCK(intdiv_pool, __orvane_intdiv_pool)
 
-// 1 / b from its estimate r0, in two factors whose product has the bias: (a r1) e is a / b lifted just over it.
+// 1 / b from its estimate r0 as two factors, whose product has the bias: (a r1) e lies just above a / b.
 template <int W> struct reciprocal { lanes<double, W> r1, e; };
 template <int W>
 ORVANE_INLINE reciprocal<W> refined(const intdiv_pool& c, lanes<double, W> bd, lanes<float, W> estimate) {
@@ -40,8 +40,8 @@ ORVANE_INLINE lanes<int32_t, W> quotient(const intdiv_pool& pool, lanes<int32_t,
         a, b, estimate);
 }
 
-// There is no unsigned conversion: u goes into the low word of the shifter, which is taken off again, exactly; and
-// the quotient comes back in the low word of the shifter.
+// There is no unsigned conversion: u is put into the low word of the shifter's pattern and the shifter subtracted
+// again, which is exact. The quotient comes back in the same way, in the low word of its sum with the shifter.
 template <int W>
 ORVANE_INLINE lanes<double, W> quotient_in_shifter(const intdiv_pool& c, lanes<double, W> a, lanes<double, W> b) {
     auto bd = b + c.neg_shifter;

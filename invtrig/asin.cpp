@@ -1,8 +1,9 @@
 // asin, acos, asinpi, acospi: one fold, so that a single polynomial in t, 0 <= t <= 1/4, serves the whole range.
 //
 // Below 1/2 it works on t = x^2; from there up on t = w = (1 - |x|) / 2, since asin |x| = pi/2 - 2 asin(sqrt(w)).
-// With R the argument of the remaining arc sine, asin R = R + R Q(t) or, over pi, asin(R) / pi = R J(t). A NaN takes
-// different signs through R and through t: the last step's operands are in order so that all widths give the same.
+// With R the argument of the remaining arc sine, asin R = R + R Q(t) or, over pi, asin(R) / pi = R J(t). A NaN has
+// one sign in R and another in t; the order of the last step's operands is fixed, so that all widths return the same
+// NaN.
 #include "frame/_orvane_template.h"
 #include "frame/rare.h"
 #include "invtrig/coefficients.h"
@@ -18,22 +19,30 @@ ORVANE_SLOW_PATH(__orvane_sasinpi_cout_rare, const float* x, float* result);
 ORVANE_SLOW_PATH(__orvane_dacospi_cout_rare, const double* x, double* result);
 ORVANE_SLOW_PATH(__orvane_sacospi_cout_rare, const float* x, float* result);
 
+// Fit on 0 <= t <= 1/4: 1 + t*asin_long(t) = asin(sqrt(t))/sqrt(t) to 2^-54.9 relative
 inline constexpr coefficients<double, 12> asin_long = {{0x3FA07520C70EB909, 0xBF90FB17F7DBB0ED, 0x3F943F44BFBC3BAE,
                                                         0x3F7A583395D45ED5, 0x3F88F8DC2AFCCAD6, 0x3F8C6DBBCB88BD57,
                                                         0x3F91C6DCF538AD2E, 0x3F96E89CEBDEFADD, 0x3F9F1C72E13AD8BE,
                                                         0x3FA6DB6DB3B445F8, 0x3FB333333337E0DE, 0x3FC555555555529C}};
+// Fit on 0 <= t <= 1/4: 1/pi + t*asinpi_long(t) = asin(sqrt(t))/sqrt(t)/pi to 2^-54.9 relative
 inline constexpr coefficients<double, 12> asinpi_long = {
     {0x3F84F4523BC020D8, 0xBF759EE439EEE799, 0x3F79C78AE09A5457, 0x3F60C57DF579794A, 0x3F6FCBA466EA069B,
      0x3F7219262ADC70A8, 0x3F76A256C108AAED, 0x3F7D2B0EA1978F74, 0x3F83CE53573AD4F4, 0x3F8D1A452B1C8F4E,
      0x3F98723A1D5E7F21, 0x3FAB2995E7B7B28B}};
+// Fit on 0 <= t <= 1/4: 1 + t*asin_short(t) = asin(sqrt(t))/sqrt(t) to 2^-30.8 relative
 inline constexpr coefficients<double, 6> asin_short = {{0x3FA36C5AF645A11E, 0x3F8CE147EA9E9282, 0x3FA056B4151FA155,
                                                         0x3FA6C8ED2A4CCE54, 0x3FB33399EBF85B6A, 0x3FC5555480C83A45}};
+// Fit on 0 <= t <= 1/4: 1/pi + t*asinpi_short(t) = asin(sqrt(t))/sqrt(t)/pi to 2^-30.8 relative
 inline constexpr coefficients<double, 6> asinpi_short = {{0x3F88BAFFDA4549F0, 0x3F7262B57524FB3B, 0x3F84CD955BDDED9F,
                                                           0x3F8D02B66C2AD236, 0x3F9872BCE76EFA44,
                                                           0x3FAB2994D916CB05}};
+// Fit on 0 <= t <= 1/4: 1 + t*asinf_long(t) = asin(sqrt(t))/sqrt(t) to 2^-26.7 relative
 inline constexpr coefficients<float, 5> asinf_long = {{0x3D2EDC07, 0x3CC32A6B, 0x3D3A9AB4, 0x3D997C12, 0x3E2AAAFF}};
+// Fit on 0 <= t <= 1/4: 1/pi + t*asinpif_long(t) = asin(sqrt(t))/sqrt(t)/pi to 2^-26.6 relative
 inline constexpr coefficients<float, 5> asinpif_long = {{0x3C5EA355, 0x3BF87E20, 0x3C6D978C, 0x3CC36C37, 0x3D594D1B}};
+// Fit on 0 <= t <= 1/4: 1 + asinf_short(t) = asin(sqrt(t))/sqrt(t) to 2^-14.9 relative
 inline constexpr coefficients<float, 3> asinf_short = {{0x3DC4C6AE, 0x3E2876B2, 0x380561A3}};
+// Fit on 0 <= t <= 1/4: asinpif_short(t) = asin(sqrt(t))/sqrt(t)/pi to 2^-14.9 relative
 inline constexpr coefficients<float, 3> asinpif_short = {{0x3CFA8B09, 0x3D567E9D, 0x3EA2FAD7}};
 
 struct dasin_block {
@@ -45,6 +54,7 @@ struct dasin_block {
     GAP(5, 5)
     SLOT(double, 6, two, 0x4000000000000000)
     GAP(7, 8)
+    // Fit on |d| <= 2^-9.4: 1 - d*(sq_c0 + sq_c1*d) = 1/sqrt(1 + d/2) to 2^-32.9 relative
     SLOT(double, 9, sq_c1, 0xBFB7FFFFFFFFFE97)
     SLOT(double, 10, sq_c0, 0x3FCFFFFFFFFFFF9D)
     TABLE(11, poly_long, asin_long)
@@ -65,6 +75,7 @@ struct dacos_block {
     GAP(5, 5)
     SLOT(double, 6, two, 0x4000000000000000)
     GAP(7, 8)
+    // Fit on |d| <= 2^-9.4: 1 - d*(sq_c0 + sq_c1*d) = 1/sqrt(1 + d/2) to 2^-32.9 relative
     SLOT(double, 9, sq_c1, 0xBFB7FFFFFFFFFE97)
     SLOT(double, 10, sq_c0, 0x3FCFFFFFFFFFFF9D)
     TABLE(11, poly_long, asin_long)
@@ -85,6 +96,7 @@ struct dasinpi_block {
     GAP(5, 5)
     SLOT(double, 6, two, 0x4000000000000000)
     GAP(7, 8)
+    // Fit on |d| <= 2^-9.4: 1 - d*(sq_c0 + sq_c1*d) = 1/sqrt(1 + d/2) to 2^-32.9 relative
     SLOT(double, 9, sq_c1, 0xBFB7FFFFFFFFFE97)
     SLOT(double, 10, sq_c0, 0x3FCFFFFFFFFFFF9D)
     TABLE(11, poly_long, asinpi_long)
@@ -104,6 +116,7 @@ struct dacospi_block {
     GAP(5, 5)
     SLOT(double, 6, two, 0x4000000000000000)
     GAP(7, 8)
+    // Fit on |d| <= 2^-9.4: 1 - d*(sq_c0 + sq_c1*d) = 1/sqrt(1 + d/2) to 2^-32.9 relative
     SLOT(double, 9, sq_c1, 0xBFB7FFFFFFFFFE97)
     SLOT(double, 10, sq_c0, 0x3FCFFFFFFFFFFF9D)
     TABLE(11, poly_long, asinpi_long)
@@ -124,6 +137,7 @@ struct sasin_block {
     GAP(5, 6)
     SLOT(float, 7, two, 0x40000000)
     GAP(8, 8)
+    // Fit on |d| <= 2^-9.4: 1 - d*sq_c0 = 1/sqrt(1 + d/2) to 2^-22.2 relative
     SLOT(float, 9, sq_c0, 0x3E800001)
     TABLE(10, poly_long, asinf_long)
     SLOT(float, 15, pi_half, 0x3FC90FDB)
@@ -143,6 +157,7 @@ struct sacos_block {
     GAP(5, 6)
     SLOT(float, 7, two, 0x40000000)
     GAP(8, 8)
+    // Fit on |d| <= 2^-9.4: 1 - d*sq_c0 = 1/sqrt(1 + d/2) to 2^-22.2 relative
     SLOT(float, 9, sq_c0, 0x3E800001)
     TABLE(10, poly_long, asinf_long)
     SLOT(float, 15, pi_half, 0x3FC90FDB)
@@ -306,9 +321,25 @@ struct arc_cosine : kernel<one_argument<T>, Block, Rare> {
     ORVANE_EXPORT(family, _native, d##family##_fast)                                                                 \
     ORVANE_EXPORT(family##f, , s##family##_default)                                                                  \
     ORVANE_EXPORT(family##f, _native, s##family##_fast)
+// Largest known error of asin: 2.136 ulp at 0x3FE03E4A49A34FE1
+// Largest known error of asin_native: 1.005e-09 relative at 0xBFE000000790B6DF, with one processor's estimates
+// Largest known error of asinf: 2.266 ulp at 0x3F00105A
+// Largest known error of asinf_native: 535.2 ulp at 0x3F000041, with one processor's estimates
 ORVANE_ARCS(asin, arc_sine)
+// Largest known error of acos: 1.289 ulp at 0x3FE347987CF09E3D
+// Largest known error of acos_native: 5.47e-10 relative at 0x3FEF1118007FF639, with one processor's estimates
+// Largest known error of acosf: 1.244 ulp at 0xBF003512
+// Largest known error of acosf_native: 532.5 ulp at 0x3F7FFE01, with one processor's estimates
 ORVANE_ARCS(acos, arc_cosine)
+// Largest known error of asinpi: 2.463 ulp at 0xBFE6327ED57A90E7
+// Largest known error of asinpi_native: 1.005e-09 relative at 0xBFE000000789E72C, with one processor's estimates
+// Largest known error of asinpif: 2.676 ulp at 0xBF33EB67
+// Largest known error of asinpif_native: 680.6 ulp at 0x3F00006E
 ORVANE_ARCS(asinpi, arc_sine)
+// Largest known error of acospi: 2.401 ulp at 0x3FEFFFFFFD8E49B0
+// Largest known error of acospi_native: 5.47e-10 relative at 0x3FEF1118007FD8ED, with one processor's estimates
+// Largest known error of acospif: 2.457 ulp at 0x3F6D8E54
+// Largest known error of acospif_native: 531.6 ulp at 0x3F7FFB18
 ORVANE_ARCS(acospi, arc_cosine)
 
 } // namespace orvane

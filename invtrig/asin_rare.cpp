@@ -8,7 +8,7 @@ namespace {
 
 template <class T> struct at_one { T plus, minus; };
 
-// A NaN itself, quiet; outside the domain the positive NaN.
+// A NaN gives itself, quieted; arguments outside the domain give the positive NaN.
 template <class T> int outside(T x, T* result, const at_one<T>* exact = nullptr) {
     if (x != x) return *result = x + x, ordinary;
     if (exact && (x == 1 || x == -1)) return *result = x == 1 ? exact->plus : exact->minus, ordinary;

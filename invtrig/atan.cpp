@@ -14,6 +14,7 @@ ORVANE_SLOW_PATH(__orvane_satanpi_cout_rare, const float* x, float* result);
 inline constexpr table<double, 32> atan_quarters = {{
 #include "invtrig/tables/atan_quarters.inc"
 }};
+// Fit on |r| <= 8/63: r + r^3*atan_near_quarter(r^2) = atan(r) to 2^-54.8 relative
 inline constexpr coefficients<double, 6> atan_near_quarter = {{0x3FB2E9B9F5C4FE97, 0xBFB74257C46790CC,
                                                                0x3FBC71BFEFF916A0, 0xBFC249248EEF04DA,
                                                                0x3FC999999998741E, 0xBFD555555555554D}};
@@ -172,9 +173,13 @@ template <class T, const auto& Block, auto& Rare> struct atan_estimated : kernel
 using atanf_default = atan_settled<float, __orvane_satan_data>;
 using atan_native = atan_estimated<double, __orvane_datan_native_data, __orvane_datan_cout_rare>;
 using atanf_native = atan_estimated<float, __orvane_satan_native_data, __orvane_satan_cout_rare>;
+// Largest known error of atan: 2.62 ulp at 0x3FC00722905BB690
 ORVANE_EXPORT_SETTLED(atan, , atan_table_kernel)
+// Largest known error of atan_native: 2.404e-09 relative at 0xBFC39A5F6B3B8C46, with one processor's estimates
 ORVANE_EXPORT(atan, _native, atan_native)
+// Largest known error of atanf: 2.466 ulp at 0x3F80BAD6
 ORVANE_EXPORT_SETTLED(atanf, , atanf_default)
+// Largest known error of atanf_native: 3771 ulp at 0xAD7FFD12, with one processor's estimates
 ORVANE_EXPORT(atanf, _native, atanf_native)
 
 template <class T, const auto& Block, auto& Rare, class Quotient, bool Native> struct atanpi_kernel
@@ -198,9 +203,17 @@ using atanpi_native =
     atanpi_kernel<double, __orvane_datanpi_native_data, __orvane_datanpi_cout_rare, word_estimate_short, true>;
 using atanpif_default = atanpi_kernel<float, __orvane_satanpi_data, __orvane_satanpi_cout_rare, newton, false>;
 using atanpif_native = atanpi_kernel<float, __orvane_satanpi_native_data, __orvane_satanpi_cout_rare, newton, true>;
+// Largest known error of atanpi: 2.984 ulp at 0x3FEFFFFDA3952463, with one processor's estimates
+// Largest known error of atanpi, slow path: 0.75 ulp at 0x002885345A13B249
 ORVANE_EXPORT(atanpi, , atanpi_default)
+// Largest known error of atanpi_native: 2.418e-09 relative at 0x3EC00B280241C687, with one processor's estimates
+// Largest known error of atanpi_native, slow path: 0.75 ulp at 0x002885345A13B249
 ORVANE_EXPORT(atanpi, _native, atanpi_native)
+// Largest known error of atanpif: 3.245 ulp at 0xBF7F975D, with one processor's estimates
+// Largest known error of atanpif, slow path: 0.5 ulp at 0x8026F5F3
 ORVANE_EXPORT(atanpif, , atanpif_default)
+// Largest known error of atanpif_native: 3773 ulp at 0xB9C90FD9, with one processor's estimates
+// Largest known error of atanpif_native, slow path: 0.5 ulp at 0x809CA39A
 ORVANE_EXPORT(atanpif, _native, atanpif_native)
 
 } // namespace orvane

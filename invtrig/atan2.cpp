@@ -10,6 +10,7 @@ ORVANE_SLOW_PATH(__orvane_satan2_cout_rare, const float* y, const float* x, floa
 ORVANE_SLOW_PATH(__orvane_datan2pi_cout_rare, const double* y, const double* x, double* result);
 ORVANE_SLOW_PATH(__orvane_satan2pi_cout_rare, const float* y, const float* x, float* result);
 
+// Fit on |q| <= 1: q + q^3*atan2_accurate(q^2) = atan(q) to 2^-53.8 relative
 inline constexpr coefficients<double, 19> atan2_accurate = {
     {0xBEF4FDB537ABC7A3, 0x3F2CED0A36665209, 0xBF52E67C93954C23, 0x3F6F5A1DAE82AFB3, 0xBF82B2EC618E4BAD,
      0x3F914F4C661116A5, 0xBF9A5E83B081F69C, 0x3FA169980CB6AD4F, 0xBFA4EFA2E563C1BC, 0x3FA7EC0FBC50683B,
@@ -171,13 +172,29 @@ using atan2pi_default = ORVANE_ATAN2(d, atan2pi, , double, word_estimate_long, h
 using atan2pi_native = ORVANE_ATAN2(d, atan2pi, _native, double, word_estimate_short, two_chains_summed, false);
 using atan2pif_default = ORVANE_ATAN2(s, atan2pi, , float, division, horner_summed, false);
 using atan2pif_native = ORVANE_ATAN2(s, atan2pi, _native, float, newton, two_chains_summed, false);
+// Largest known error of atan2: 3.013 ulp at 0x3FF0056B0E84C078,0x3FF000973BB7EF31
+// Largest known error of atan2, slow path: 0.5099 ulp at 0xFF956A412DA9AC1B,0x7FC61CB7B557274E
 ORVANE_EXPORT(atan2, , atan2_default)
+// Largest known error of atan2_native: 2.427e-09 relative at 0x3FEFA35DAC1970EB,0x4019D2FFFFE78DE5, with one processor's estimates
+// Largest known error of atan2_native, slow path: 0.5092 ulp at 0x000597A4B02301B8,0x002683957D9ECC38
 ORVANE_EXPORT(atan2, _native, atan2_native)
+// Largest known error of atan2f: 3.406 ulp at 0x3FC0FFF9,0x4036911B
+// Largest known error of atan2f, slow path: 0.5 ulp at 0x40A9837D,0x7D114C1C
 ORVANE_EXPORT(atan2f, , atan2f_default)
+// Largest known error of atan2f_native: 3774 ulp at 0xBF7D6725,0x667D68FA, with one processor's estimates
+// Largest known error of atan2f_native, slow path: 0.5 ulp at 0x40A9837D,0x7D114C1C
 ORVANE_EXPORT(atan2f, _native, atan2f_native)
+// Largest known error of atan2pi: 3.776 ulp at 0xBFEFC43DB9064DAD,0x3FEFFFFFFFE3C9AD, with one processor's estimates
+// Largest known error of atan2pi, slow path: 0.75 ulp at 0x400AD3062B88CA30,0x7FD1D9453A574B0D
 ORVANE_EXPORT(atan2pi, , atan2pi_default)
+// Largest known error of atan2pi_native: 2.427e-09 relative at 0x3FEFA3129C39107E,0x4019D2FFFFF83195, with one processor's estimates
+// Largest known error of atan2pi_native, slow path: 0.75 ulp at 0x801D4353621FAF6D,0x3FE8328CE5BA67F1
 ORVANE_EXPORT(atan2pi, _native, atan2pi_native)
+// Largest known error of atan2pif: 2.832 ulp at 0x3F800012,0x3F809987
+// Largest known error of atan2pif, slow path: 0.5 ulp at 0x84B9AFB9,0x00A2DC1B
 ORVANE_EXPORT(atan2pif, , atan2pif_default)
+// Largest known error of atan2pif_native: 3774 ulp at 0xBB412921,0x40F5F0F5, with one processor's estimates
+// Largest known error of atan2pif_native, slow path: 0.5 ulp at 0x84B9AFB9,0x00A2DC1B
 ORVANE_EXPORT(atan2pif, _native, atan2pif_native)
 
 } // namespace orvane

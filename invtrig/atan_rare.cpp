@@ -1,5 +1,5 @@
-// The slow paths of atan, for infinities alone, and of atanpi: of what lies below 2^-53 or above 2^54, where the
-// kernels' range ends well outside.
+// The slow paths of atan, for infinities alone, and of atanpi, for magnitudes outside the kernels' range, which is
+// wider than 2^-53 to 2^54: there x / pi or 1/2 is the result.
 #include "invtrig/atan_rare.h"
 
 namespace orvane {

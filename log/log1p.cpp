@@ -9,6 +9,8 @@ ORVANE_SLOW_PATH(__orvane_slog1p_cout_rare, const float* x, float* result);
 struct dlog1p_block {
     TABLE(0, log_pairs, ln_pairs)
     TABLE(129, log_single, ln_single)
+    // Fit on |r| <= 2^-9.5: r + p2*r^2 + p3*r^3 + p4*r^4 + p5*r^5 = log(1 + r) to 2^-52.2 relative
+    // Of the fast tier. Fit on |r| <= 2^-9.5: r + p2*r^2 + p3*r^3 = log(1 + r) to 2^-30.5 relative
     SLOT(double, 194, p5, 0x3FC9999CACDB4D0A) // 0.2000003665949424, polynomial
     SLOT(double, 195, p4, 0xBFD0000148058EE1) // -0.2500003054940248, polynomial
     SLOT(double, 196, p3, 0x3FD55555555543C5) // 0.33333333333308374, polynomial
@@ -40,6 +42,7 @@ struct slog1p_block {
     SLOT(float, 19, z_mask, 0xFFFFFF00)     // clears the low 8 bits of z
     SLOT(uint32_t, 20, exponent_field, 0x7F800000)
     SLOT(uint32_t, 21, scale_base, 0x7B000000)
+    // Fit on |r| <= 2^-7.8: r + p2*r^2 + p3*r^3 = log(1 + r) to 2^-26.9 relative
     SLOT(float, 22, p3, 0x3EAAAB39) // 0.33333757519721985
     SLOT(float, 23, p2, 0xBF000036) // -0.5000032186508179
     SLOT(float, 24, mantissa_mask, 0x007FFFFF)
@@ -57,6 +60,7 @@ struct slog1p_native_block {
     SLOT(float, 17, abs_mask, 0x7FFFFFFF)
     GAP(18, 30)
     SLOT(float, 31, one, 0x3F800000)
+    // Fit on |r| <= 1/3: r + c0*r^2 + c1*r^3 + c2*r^4 + c3*r^5 = log(1 + r) to 2^-13.3 relative
     SLOT(float, 32, c0, 0xBF000000)          // -0.5
     SLOT(float, 33, c1, 0x3EAA7160)          // 0.33289623260498047
     SLOT(float, 34, c2, 0xBE88E8FE)          // -0.2674025893211365
@@ -154,9 +158,17 @@ struct log1pf_polynomial : kernel<one_argument<float>, __orvane_slog1p_native_da
 using dlog1p_default = log1p_compensated<double, __orvane_dlog1p_data, __orvane_dlog1p_cout_rare>;
 using slog1p_default = log1p_compensated<float, __orvane_slog1p_data, __orvane_slog1p_cout_rare>;
 
+// Largest known error of log1p: 0.7442 ulp at 0xBF4FE632575E881F, with one processor's estimates
+// Largest known error of log1p, slow path: 0.5 ulp at 0x7FA76AED761392E1
 ORVANE_EXPORT(log1p, , dlog1p_default)
+// Largest known error of log1p_native: 3.316e-10 relative at 0xBF52001FFFE6FEC3, with one processor's estimates
+// Largest known error of log1p_native, slow path: 0.5 ulp at 0x7F925670D2784D03
 ORVANE_EXPORT(log1p, _native, log1p_plain)
+// Largest known error of log1pf: 0.622 ulp at 0x3B000AB3, with one processor's estimates
+// Largest known error of log1pf, slow path: 0.5 ulp at 0x7BBA24CE
 ORVANE_EXPORT(log1pf, , slog1p_default)
+// Largest known error of log1pf_native: 1568 ulp at 0xBE628188
+// Largest known error of log1pf_native, slow path: 0.5 ulp at 0x7F68E407
 ORVANE_EXPORT(log1pf, _native, log1pf_polynomial)
 
 } // namespace orvane

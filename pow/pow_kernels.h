@@ -106,8 +106,8 @@ template <const auto& Block, auto& Rare> struct pow_by_chords : kernel<two_argum
     }
 };
 
-// x is no positive normal number, in one subtraction; the largest finite one counts as none. What is no number in the
-// other argument is none in P either, and needs no test.
+// Whether x is anything but a positive normal number, by one subtraction; the largest finite number counts as special
+// too. A NaN in the other argument makes P a NaN, which the test of P's size marks, so it needs no test of its own.
 template <int W>
 ORVANE_INLINE lanes<int32_t, W> pattern_out_of_range(lanes<float, W> x, const auto& bias, const auto& limit) {
     return (signed_bits(x) - bias) >= limit;

@@ -66,7 +66,7 @@ template <class T> exponent_parts<T> parts_of(T y) {
     return {y, yh, yl};
 }
 
-// log2 |x| = G + gl; V is its head, good enough to see how large it is.
+// log2 |x| = G + gl; V is the head alone, which is good enough for tests of its size.
 template <class T> struct scalar_log2 { T G, gl, V; };
 template <class T> scalar_log2<T> log2_in_parts(T x) {
     using f = power_format<T>;

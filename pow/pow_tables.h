@@ -13,8 +13,8 @@ inline constexpr table<hi_lo<double>, 513> pow_log2_pairs = {{
 inline constexpr table<double, 256> exp2_single_256 = {{
 #include "pow/tables/exp2_256.inc"
 }};
-// 2^(j/2048) for interpolation along chords: a hair below, so that the error goes to both sides. A block whose entry
-// 0 is 1 gives x^0 = 1 in double.
+// 2^(j/2048) for interpolation along chords, made slightly smaller so that the error is as large on both sides. The
+// block whose entry 0 is exactly 1 gives x^0 = 1 in double.
 inline constexpr table<double, 2049> exp_chords = {{
 #include "pow/tables/exp_tab.inc"
 }};

@@ -12,12 +12,15 @@ struct dpown_block {
     TABLE(130, log_tab, pown_log2_pairs)
     TABLE(387, exp_pairs, exp2_pairs_128)
     GAP(419, 419)
+    // Fit on |u| <= 2^-10.4: u + lp0*u + lp1*u^2 + lp2*u^3 + lp3*u^4 + lp4*u^5 + lp5*u^6 = log2(1 - u/neg_c)
+    // to 2^-65.3 relative
     SLOT(double, 420, lp5, 0xBF9B4EA0E9419F52)
     SLOT(double, 421, lp4, 0x3FA7A334DDFC9F86)
     SLOT(double, 422, lp3, 0xBFB550472A8BB463)
     SLOT(double, 423, lp2, 0x3FC47FD462B3B816)
     SLOT(double, 424, lp1, 0xBFD62E4346694107)
     SLOT(double, 425, lp0, 0x3E79C3A6966457EE)
+    // Fit on |r| <= 2^-8: 1 + xp1*r + xp2*r^2 + xp3*r^3 + xp4*r^4 + xp5*r^5 = exp2(r) to 2^-60.4 relative
     SLOT(double, 426, xp5, 0x3F55D87FE78A6731)
     SLOT(double, 427, xp4, 0x3F83B2AB6FBA4E77)
     SLOT(double, 428, xp3, 0x3FAC6B08D704A0BF)
@@ -133,9 +136,17 @@ using pown_default = pown_in_pairs<integer_power, __orvane_dpown_data, __orvane_
 using pown_native = pown_by_chords<integer_power, __orvane_dpown_cout_rare>;
 using rootn_default = pown_in_pairs<integer_root, __orvane_drootn_data, __orvane_drootn_cout_rare>;
 using rootn_native = pown_by_chords<integer_root, __orvane_drootn_cout_rare>;
+// Largest known error of pown: 1.467 ulp at 0x3FF001E733D625E5,0xFFEA8736
+// Largest known error of pown, slow path: 0.7522 ulp at 0x3F8865C853688698,0x000000A0
 ORVANE_EXPORT(pown, , pown_default)
+// Largest known error of pown_native: 2.421e-07 relative at 0xBFEFF6FFF0359898,0x0009D528, with one processor's estimates
+// Largest known error of pown_native, slow path: 0.7518 ulp at 0x4021B481ECD97981,0xFFFFFEBB
 ORVANE_EXPORT(pown, _native, pown_native)
+// Largest known error of rootn: 0.5116 ulp at 0x84816CE75EF2CE6C,0x0003B2FB
+// Largest known error of rootn, slow path: 0.5066 ulp at 0x800E31217696B579,0x00003555
 ORVANE_EXPORT(rootn, , rootn_default)
+// Largest known error of rootn_native: 7.161e-09 relative at 0xBFEFFFFFC2AD777E,0x7FFFFC71, with one processor's estimates
+// Largest known error of rootn_native, slow path: 0.5076 ulp at 0x800E31216FDC70AD,0x00003555
 ORVANE_EXPORT(rootn, _native, rootn_native)
 
 } // namespace orvane

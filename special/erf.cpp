@@ -18,6 +18,9 @@ struct derf_block {
     SLOT(double, 194, shifter, 0x42C0000000000000) // 2^45
     SLOT(double, 195, tiny, 0x2FF0000000000000) // 2^-256
     GAP(196, 197)
+    // Fit on |d| <= 1/256, 1/128 <= x <= 6, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erf(x) + slope*d*(1 - u +
+    // u^2*(a0 + a1*u + a2*u^2 + a3*u^3) + d^2*(h0 + u*(b0 + b1*u + b2*u^2) + d^2*(c0 + c1*u))) = erf(x + d)
+    // to 2^-52.6 relative
     SLOT(double, 198, a3, 0xBFA6C16DB05BDEA5)
     SLOT(double, 199, a2, 0x3FC1111235A363B1)
     SLOT(double, 200, b2, 0x3FCC71CA1C71EB57)
@@ -30,6 +33,8 @@ struct derf_block {
     SLOT(double, 207, h0, 0xBFD5555555555555)
     GAP(208, 209)
     SLOT(uint64_t, 210, idx_mask, 0x00000000FFFFFFFF)
+    // Fit on |d| <= 1/256, 1/128 <= x <= 6, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erf(x) + slope*d*(1 + u*(w0 +
+    // w1*u) + d^2*(m0 + m1*u)) = erf(x + d) to 2^-34.9 relative
     SLOT(double, 211, w1, 0x3FE55557BBBBDCA6)
     SLOT(double, 212, w0, 0xBFF0000180001429)
     SLOT(double, 213, m1, 0x3FE0000400005666)
@@ -50,9 +55,13 @@ struct serf_block {
     GAP(102, 102)
     SLOT(float, 103, tiny, 0x2F800000) // 2^-32
     GAP(104, 105)
+    // Fit on |d| <= 1/256, 1/128 <= x <= 3.93, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erf(x) + slope*d*(1 - u +
+    // c3*d^2) = erf(x + d) to 2^-25.5 relative
     SLOT(float, 106, c3, 0xBEAAAADE)
     GAP(107, 121)
     SLOT(float, 122, sq_limit, 0x40D74E66)
+    // Fit on 0 <= x <= sqrt(sq_limit), z = x^2: x*(p0 + p1*z + p2*z^2 + p3*z^3 + p4*z^4 + p5*z^5)^2 = erf(x)
+    // to 2^-12.6 relative
     SLOT(float, 123, p0, 0x3F87F527)
     SLOT(float, 124, p1, 0xBE34718D)
     SLOT(float, 125, p2, 0x3D175FFF)
@@ -98,7 +107,9 @@ template <class Series> struct erf_kernel : kernel<one_argument<double>, __orvan
 };
 using derf_kernel = erf_kernel<full_series>;
 using derf_native_kernel = erf_kernel<short_series>;
+// Largest known error of erf: 2.542 ulp at 0xBF70007F4999232A
 ORVANE_EXPORT_SETTLED(erf, , derf_kernel)
+// Largest known error of erf_native: 4.948e-11 relative at 0xBF6FFFFFFC6714EF
 ORVANE_EXPORT_SETTLED(erf, _native, derf_native_kernel)
 
 struct serf_kernel : kernel<one_argument<float>, __orvane_serf_data> {
@@ -114,6 +125,7 @@ struct serf_kernel : kernel<one_argument<float>, __orvane_serf_data> {
         return sg | fma(T2, v, T1);
     }
 };
+// Largest known error of erff: 1.929 ulp at 0x3B61B9F3
 ORVANE_EXPORT_SETTLED(erff, , serf_kernel)
 
 // x p(x^2)^2 below the limit, 1 above.
@@ -126,6 +138,7 @@ struct serf_native_kernel : kernel<one_argument<float>, __orvane_serf_data> {
         return select(small, x * p, andnot(lanes<float, W>(c.abs_mask), x) | c.one);
     }
 };
+// Largest known error of erff_native: 4096 ulp at 0xC0260278
 ORVANE_EXPORT_SETTLED(erff, _native, serf_native_kernel)
 
 } // namespace orvane

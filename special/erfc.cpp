@@ -17,6 +17,9 @@ struct derfc_block {
     SLOT(double, 875, one, 0x3FF0000000000000)
     SLOT(double, 876, lo_scale, 0x37F0000000000000) // 2^-128
     SLOT(double, 877, shifter, 0x42C0000000000000) // 2^45
+    // Fit on |d| <= 1/256, 0 <= x <= x_cap, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erfc(x) - slope*d*(1 - u +
+    // u^2*(e8 + e7*u + e6*u^2 + e5*u^3 + e4*u^4 + e3*u^5 + e2*u^6 + e1*u^7) + d^2*(h0 + u*(f6 + f5*u + f4*u^2 +
+    // f3*u^3 + f2*u^4 + f1*u^5) + d^2*(g4 + g3*u + g2*u^2 + g1*u^3))) = erfc(x + d) to 2^-54.2 relative
     SLOT(double, 878, e1, 0xBF2282C89A04C65F)
     SLOT(double, 879, e2, 0x3F472360BAC04E70)
     SLOT(double, 880, f1, 0xBF8441DF86900A46)
@@ -50,6 +53,9 @@ struct derfc_native_block {
     SLOT(double, 439, one, 0x3FF0000000000000)
     SLOT(double, 440, lo_scale, 0x37F0000000000000) // 2^-128
     SLOT(double, 441, shifter, 0x42D0000000000000) // 2^46
+    // Fit on |d| <= 1/128, 0 <= x <= x_cap, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erfc(x) - slope*d*(1 + h1*u +
+    // u^2*(e6 + e5*u + e4*u^2 + e3*u^3 + e2*u^4 + e1*u^5) + d^2*(f4 + f3*u + f2*u^2 + f1*u^3)) = erfc(x + d)
+    // to 2^-33.9 relative
     SLOT(double, 442, e1, 0xBF6A1FDD30652EA1)
     SLOT(double, 443, e2, 0x3F8A1F05F5094FB6)
     SLOT(double, 444, f1, 0x3FCCBC5887DF9127)
@@ -75,6 +81,8 @@ struct serfc_block {
     SLOT(float, 84, one, 0x3F800000)
     SLOT(float, 85, shifter, 0x48000000) // 2^17
     SLOT(float, 86, lo_scale, 0x27800000) // 2^-48
+    // Fit on |d| <= 1/128, 0 <= x <= x_cap, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erfc(x) - slope*d*(1 + u*(e4 +
+    // e3*u + e2*u^2 + e1*u^3) + d^2*(f2 + f1*u)) = erfc(x + d) to 2^-25.8 relative
     SLOT(float, 87, e1, 0x3E08A7CA)
     SLOT(float, 88, e2, 0xBEAACF22)
     SLOT(float, 89, f1, 0x3F005B36)
@@ -93,6 +101,8 @@ struct serfc_native_block {
     SLOT(float, 44, one, 0x3F800000)
     SLOT(float, 45, shifter, 0x48800000) // 2^18
     SLOT(float, 46, lo_scale, 0x27800000) // 2^-48
+    // Fit on |d| <= 1/64, 0 <= x <= x_cap, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erfc(x) - slope*d*(1 + u*(e3 +
+    // e2*u + e1*u^2)) = erfc(x + d) to 2^-15.3 relative
     SLOT(float, 47, e1, 0xBEAB6147)
     SLOT(float, 48, e2, 0x3F2B4F03)
     SLOT(float, 49, e3, 0xBF7FFF8B)
@@ -159,9 +169,17 @@ using derfc_native_kernel =
 using serfc_kernel = erfc_kernel<float, __orvane_serfc_data, __orvane_serfc_cout_rare, serfc_step>;
 using serfc_native_kernel =
     erfc_kernel<float, __orvane_serfc_native_data, __orvane_serfc_cout_rare, serfc_native_step>;
+// Largest known error of erfc: 2.065 ulp at 0x40397AF7A88EA619
+// Largest known error of erfc, slow path: 0.5 ulp at 0x403B39DC41E48BFD
 ORVANE_EXPORT(erfc, , derfc_kernel)
+// Largest known error of erfc_native: 7.638e-10 relative at 0x403475FFFFFFF0FC
+// Largest known error of erfc_native, slow path: 0.5 ulp at 0x403B39DC41E48BFD
 ORVANE_EXPORT(erfc, _native, derfc_native_kernel)
+// Largest known error of erfcf: 1.615 ulp at 0x40943F9D
+// Largest known error of erfcf, slow path: 0.5 ulp at 0x4120DDFC
 ORVANE_EXPORT(erfcf, , serfc_kernel)
+// Largest known error of erfcf_native: 404.2 ulp at 0x41073FFF
+// Largest known error of erfcf_native, slow path: 0.5 ulp at 0x4120DDFC
 ORVANE_EXPORT(erfcf, _native, serfc_native_kernel)
 
 } // namespace orvane

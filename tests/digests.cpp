@@ -1,6 +1,6 @@
 #include "digests.h"
 
-#include "estimates.h"
+#include "tools/estimates.h"
 #include "machine_code.h"
 #include "tools/whole_file.h"
 

@@ -1,7 +1,7 @@
 // Every kernel and every slow path against recorded digests of its results, over arguments by rule.
 #include "digests.h"
 
-#include "estimates.h"
+#include "tools/estimates.h"
 
 using namespace orvane;
 

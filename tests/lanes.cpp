@@ -1,6 +1,6 @@
 #include "lanes.h"
 
-#include "estimates.h"
+#include "tools/estimates.h"
 
 #include <filesystem>
 #include <fstream>

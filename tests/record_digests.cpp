@@ -1,7 +1,7 @@
 // Records the digests anew: those of every processor, and those of kernels fed by estimates for this kind of
 // processor. Refuses as long as a lane of the independent models disagrees.
 #include "digests.h"
-#include "estimates.h"
+#include "tools/estimates.h"
 #include "lanes.h"
 #include "tools/whole_file.h"
 

@@ -68,18 +68,30 @@ lane_caller::lane_caller(const call_plan& plan, const void* function) : p(plan),
     out_object = own_out_object.data();
 }
 
+constexpr int registers[] = {rdi, rsi, rdx};
+
+unsigned char* lane_caller::argument_lanes(size_t j) {
+    const place& a = p.arguments[j];
+    return a.where == place::in::vector_registers   ? in.vector[a.first]
+           : a.where == place::in::integer_register ? (unsigned char*)&in.integer[registers[a.first]]
+                                                    : stack.data() + (a.offset - 8);
+}
+const unsigned char* lane_caller::result_lanes(size_t j) const {
+    const place& r = p.results[j];
+    return r.where == place::in::vector_registers   ? out.vector[r.first]
+           : r.where == place::in::integer_register ? (unsigned char*)&out.integer[rax] + r.offset
+           : r.where == place::in::result_object    ? result_object.data() + r.offset
+                                                    : (unsigned char*)out_object;
+}
+
 void lane_caller::place_arguments(const std::vector<words>& arguments) {
-    constexpr int registers[] = {rdi, rsi, rdx};
     if (p.memory_form) in.integer[rdi] = (uint64_t)result_object.data();
     if (p.out_register >= 0) in.integer[registers[p.out_register]] = (uint64_t)out_object;
     for (size_t j = 0; j < p.arguments.size(); j++) {
-        const place& a = p.arguments[j];
-        const int size = size_of(a.type);
-        unsigned char* at = a.where == place::in::vector_registers   ? in.vector[a.first]
-                            : a.where == place::in::integer_register ? (unsigned char*)&in.integer[registers[a.first]]
-                                                                     : stack.data() + (a.offset - 8);
+        const lane_type type = p.arguments[j].type;
+        unsigned char* at = argument_lanes(j);
         for (size_t i = 0; i < arguments[j].size(); i++)
-            write_lane(at + i * size, a.type, arguments[j][i]);
+            write_lane(at + i * size_of(type), type, arguments[j][i]);
     }
 }
 
@@ -89,11 +101,7 @@ void lane_caller::take_results(std::vector<words>& results) const {
     results.resize(p.results.size());
     for (size_t j = 0; j < p.results.size(); j++) {
         const place& r = p.results[j];
-        const unsigned char* at = r.where == place::in::vector_registers ? out.vector[r.first]
-                                  : r.where == place::in::integer_register
-                                      ? (unsigned char*)&out.integer[rax] + r.offset
-                                  : r.where == place::in::result_object ? result_object.data() + r.offset
-                                                                        : (unsigned char*)out_object;
+        const unsigned char* at = result_lanes(j);
         results[j].resize(stored_lanes(p.width));
         for (size_t i = 0; i < results[j].size(); i++)
             results[j][i] = read_lane(at + i * size_of(r.type), r.type);

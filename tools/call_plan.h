@@ -45,6 +45,8 @@ public:
     void take_results(std::vector<words>& results) const;
     machine_state in, out;
     std::vector<unsigned char> stack, result_object;
+    unsigned char* argument_lanes(size_t j); // where the lanes of an argument go, and those of a result come from
+    const unsigned char* result_lanes(size_t j) const;
     void* out_object; // where the out-pointer points: own memory unless set
     std::vector<unsigned char> own_out_object;
 

@@ -1,6 +1,6 @@
 // Reductions of an angle: by multiples of pi, and for large arguments to x = 2 pi (k + j / 2^B) + rh + rl from the
-// fraction of a turn, of which 64 bits (float) or 128 bits (double) are formed in integers. Straight-line code over all
-// lanes; Inf and NaN run through and give what they give.
+// fraction of a turn, of which 64 bits (float) or 128 bits (double) are formed in integers. Straight-line code over
+// all lanes; Inf and NaN run through and give what they give.
 #pragma once
 
 #include "frame/_orvane_template.h"
@@ -18,12 +18,13 @@ template <class V> ORVANE_INLINE V less_multiples_of_pi(const auto& c, V n, V v)
     return v;
 }
 
-// What the short path does not reach, of |x|. (A large path takes it anew: that is cheaper than lanes made of bits.)
+// Whether |x| is too large for the short path, or NaN. (A large path compares once more, which costs less than
+// turning the bits of the first comparison back into lanes.)
 template <class T, int W> ORVANE_INLINE auto is_large(const auto& c, lanes<T, W> ax) {
     return not_less_equal(ax, lanes<T, W>(c.large_limit));
 }
 
-// What the large reduction leaves to a slow path: infinities and NaN.
+// The lanes that the large reduction leaves to a slow path: infinities and NaN.
 template <class T, int W> ORVANE_INLINE auto not_finite(const auto& c, lanes<T, W> x) {
     lanes<uint_of<T>, W> exponent;
     if constexpr (requires { c.exp_mask; }) exponent = c.exp_mask;
@@ -37,7 +38,7 @@ template <class T, int W> struct reduced_angle {
     lanes<T, W> rh, rl;
 };
 
-// What the reduction reads besides its rows.
+// The constants of the reduction, beside its table of rows.
 template <class T> struct reduction_constants;
 template <> struct reduction_constants<float> {
     SLOT(uint32_t, 0, sign_mask, 0x80000000)
@@ -129,8 +130,8 @@ template <sign_of_argument Sign, int W> ORVANE_INLINE reduced_angle<float, W> re
                                        (lo << 5) & c.low_of_lo);
 }
 
-// The fraction in columns of 32 bits; a product reads low words alone. Sums are bracketed for a short way from the
-// lowest column to the highest.
+// The fraction as sums of 32-bit columns; a multiplication reads only the low word of each lane. The sums are
+// bracketed so that the carry has a short way from the lowest column to the highest.
 template <sign_of_argument Sign, int W> ORVANE_INLINE reduced_angle<double, W> reduce_large_f64(lanes<double, W> x) {
     const auto& c = reduction_constants_anew<double>();
     using U = lanes<uint64_t, W>;

@@ -7,8 +7,8 @@ namespace {
 
 constexpr const scalar_reduction_table& T = __dsin_g_ReductionTab[0];
 
-// |x| below 2^30: less k pi/4 for the nearest even number k of octants at or above, pi/4 in parts whose products with k
-// are exact.
+// |x| below 2^30: |x| - k pi/4, where k is the number of octants rounded up to an even one, and pi/4 has several
+// parts whose products with k are exact.
 scalar_remainder reduce_medium(double ax, int s) {
     const double y = T.four_over_pi * ax;
     // The integer part of y from its bits, the leading one put back on top.
@@ -39,8 +39,8 @@ scalar_remainder reduce_medium(double ax, int s) {
     return {r, (Ap - r) + Bp, int32_t((n + 1) >> 1) * (1 - 2 * s)};
 }
 
-// |x| from 2^30 on: times 4 / pi in pieces of 25 bits, of which those that count whole periods are left out; x is split
-// so that products with a piece are exact.
+// |x| from 2^30 on: times 4 / pi in pieces of 25 bits, of which those that count whole periods are left out; x is
+// split so that products with a piece are exact.
 scalar_remainder reduce_large(uint64_t ax, int s) {
     const int E = int(ax >> 52);
     const double xs = f64(ax - 0x0C80000000000000); // |x| 2^-200

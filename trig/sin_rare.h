@@ -19,7 +19,8 @@ struct scalar_angle_table {
 };
 ORVANE_TABLE(scalar_angle_table, __dsin_g_CoutTab, 1);
 
-// An argument less a multiple of pi/2, in two pieces, and the signed number of quarter turns, of which two bits count.
+// An argument less a multiple of pi/2, in two pieces, and the signed number of quarter turns, of which two bits
+// count.
 struct scalar_remainder {
     double r, r_lo;
     int32_t q;
@@ -36,7 +37,7 @@ angle_and_rest scalar_angle(double x); // not tiny, finite
 // sin(2 pi j/64 + rr + m), j modulo 64; the cosine a quarter turn, 16 rows, on.
 double scalar_sine(uint32_t j, double rr, double m);
 
-// |x| below 2^-252: the sine and the cosine, which round as they should under any mode.
+// |x| below 2^-252: the sine and the cosine, rounded rightly under every rounding mode.
 inline bool is_tiny(double x) { return biased_exponent(x) < 771; }
 inline double tiny_sine(double x) {
     const auto& c = __dsin_g_CoutTab[0];
@@ -44,8 +45,8 @@ inline double tiny_sine(double x) {
 }
 inline double tiny_cosine(double x) { return 1.0 - __builtin_fabs(x); }
 
-// Infinities and NaN, of which all circular functions make a NaN; false for finite x. Of a quiet NaN without the invalid
-// flag.
+// Infinities and NaN, for which all circular functions return NaN; false for finite x. A quiet NaN does not raise the
+// invalid flag.
 template <class T> bool circular_of_not_finite(T x, T* result, int* code) {
     if (biased_exponent(x) != top_exponent<T>) return false;
     if (is_nan(x))

@@ -20,6 +20,8 @@ struct dsincos_block {
     SLOT(double, 12, pi_2, 0x3CA1A62633145C06)
     SLOT(double, 13, pi_3, 0x395C1CD129024E09)
     GAP(14, 17)
+    // Fit on |r| <= pi/2: r + s1*r^3 + s2*r^5 + s3*r^7 + s4*r^9 + s5*r^11 + s6*r^13 + s7*r^15 = sin(r)
+    // to 2^-52.3 relative
     SLOT(double, 18, s1, 0xBFC55555555554A7) // r^3
     SLOT(double, 19, s2, 0x3F8111111110A4A6) // r^5
     GAP(20, 20)
@@ -40,6 +42,7 @@ struct dsincos_rm_block {
     GAP(6, 8)
     SLOT(double, 9, pi_1, 0x400921FB54442D18)
     SLOT(double, 10, pi_2, 0x3CA1A62633145C06)
+    // Fit on |r| <= pi/2: r + s1*r^3 + s2*r^5 + s3*r^7 + s4*r^9 = sin(r) to 2^-27.1 relative
     SLOT(double, 11, s1, 0xBFC55554AD3EAF1F)
     SLOT(double, 12, s2, 0x3F8110EA968A0185)
     SLOT(double, 13, s3, 0xBF29F67D9395D587)
@@ -54,6 +57,8 @@ struct dsincos_ha_block {
     SLOT(double, 261, row_mask, 0x00000000000001FF)
     SLOT(double, 262, quarter, 0x0000000000000080) // 128 rows, a quarter turn
     GAP(263, 265)
+    // Fit on |r| <= pi/512: r + ha_s1*r^3 + ha_s2*r^5 = sin(r) to 2^-61.1 relative
+    // Fit on |r| <= pi/512: 1 + ha_c1*r^2 + ha_c2*r^4 + ha_c3*r^6 = cos(r) to 2^-78.8 relative
     SLOT(double, 266, ha_s1, 0xBFC5555555554448)
     SLOT(double, 267, ha_s2, 0x3F81110FABB3551C)
     SLOT(double, 268, ha_c1, 0xBFE0000000000000)
@@ -139,10 +144,18 @@ using dsincos_rm = dsincos_short<pointer_out<double>, __orvane_dsincos_rm_data, 
 using dsincosreg = dsincos_large<pair_result<double>, __orvane_dsincosreg_data, __orvane_dsincosreg_cout_rare>;
 using dsincosreg_native =
     dsincos_short<pair_result<double>, __orvane_dsincosreg_native_data, __orvane_dsincosreg_cout_rare>;
+// Largest known error of sincos: 3.403 ulp at 0x3FBB4AE103DA0F38
+// Largest known error of sincos, large arguments: 0.5027 ulp at 0x5139A31870434371
 ORVANE_EXPORT(sincos, , dsincos)
+// Largest known error of sincos_rm: 6.819e-09 absolute at 0x40293E0D74817963
+// Largest known error of sincos_rm, slow path: 0.5121 ulp at 0x490473DF31C4DB07
 ORVANE_EXPORT(sincos, _rm, dsincos_rm)
 ORVANE_TWIN(sincos, _native, sincos, _rm)
+// Largest known error of sincosreg: 3.39 ulp at 0xBFBDBF9925FA6818
+// Largest known error of sincosreg, large arguments: 0.5026 ulp at 0xEC35B59471BDED5D
 ORVANE_EXPORT(sincosreg, , dsincosreg)
+// Largest known error of sincosreg_native: 6.819e-09 absolute at 0xBFAC122FCEA735B0
+// Largest known error of sincosreg_native, slow path: 0.5123 ulp at 0x7E01601DD29F0203
 ORVANE_EXPORT(sincosreg, _native, dsincosreg_native)
 
 } // namespace orvane

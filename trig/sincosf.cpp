@@ -25,10 +25,12 @@ struct ssincos_block {
     SLOT(float, 10, npi_1, 0xBFC90FDB) // -pi/2, first piece
     SLOT(float, 11, npi_2, 0x333BBD2E) // second piece
     SLOT(float, 12, npi_3, 0x26F72CED)
+    // Fit on |r| <= pi/4: fc0 + fc1*r^2 + fc2*r^4 + fc3*r^6 = cos(r) to 2^-23.6 relative
     SLOT(float, 13, fc3, 0xBAB1FCEB) // cosine polynomial, r^6
     SLOT(float, 14, fc2, 0x3D2A9DD3) // r^4
     SLOT(float, 15, fc1, 0xBEFFFFCB) // r^2
     SLOT(float, 16, fc0, 0x3F800000) // 1.0
+    // Fit on |r| <= pi/4: r + r*(fs0 + fs1*r^2 + fs2*r^4 + fs3*r^6) = sin(r) to 2^-27.1 relative
     SLOT(float, 17, fs3, 0xB94C7DCE) // sine polynomial, r^7
     SLOT(float, 18, fs2, 0x3C088303) // r^5
     SLOT(float, 19, fs1, 0xBE2AAAA0) // r^3
@@ -110,9 +112,13 @@ template <class Signature> struct ssincos_kernel : kernel<Signature, __orvane_ss
 
 using ssincos = ssincos_kernel<pointer_out<float>>;
 using ssincosreg = ssincos_kernel<pair_result<float>>;
+// Largest known error of sincosf: 2.134 ulp at 0xC077D1D6
+// Largest known error of sincosf, large arguments: 2.054 ulp at 0x5A611FCF
 ORVANE_EXPORT_SETTLED(sincosf, , ssincos)
 ORVANE_TWIN_SETTLED(sincosf, _rm, sincosf, )
 ORVANE_TWIN_SETTLED(sincosf, _native, sincosf, )
+// Largest known error of sincosregf: 2.152 ulp at 0x40779C6A
+// Largest known error of sincosregf, large arguments: 2.106 ulp at 0xE14E31B1
 ORVANE_EXPORT_SETTLED(sincosregf, , ssincosreg)
 ORVANE_TWIN_SETTLED(sincosregf, _native, sincosregf, )
 

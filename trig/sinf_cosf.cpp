@@ -13,6 +13,8 @@ struct ssin_block {
     GAP(65, 65)
     SLOT(float, 66, exp_mask, 0x7F800000)
     SLOT(float, 67, large_limit, 0x49000000) // 524288.0 = 2^19
+    // Fit on |r| <= pi/256: r + lg_s1*r^3 + lg_s2*r^5 = sin(r) to 2^-40.3 relative
+    // Fit on |r| <= pi/256: 1 + lg_c1*r^2 + lg_c2*r^4 = cos(r) to 2^-50.1 relative
     SLOT(float, 68, lg_s1, 0xBE2AAAAB)
     SLOT(float, 69, lg_s2, 0x3C08885C)
     SLOT(float, 70, lg_c1, 0xBF000000)
@@ -21,6 +23,7 @@ struct ssin_block {
     SLOT(float, 76, pi_1, 0x40490FDB)
     SLOT(float, 77, pi_2, 0xB3BBBD2E)
     SLOT(float, 78, pi_3, 0xA7772CED)
+    // Fit on |r| <= pi/2: r + s1*r^3 + s2*r^5 + s3*r^7 + s4*r^9 = sin(r) to 2^-24.6 relative
     SLOT(float, 79, s1, 0xBE2AAAA6) // r^3
     SLOT(float, 80, s2, 0x3C088766) // r^5
     SLOT(float, 81, s3, 0xB94FB7FF) // r^7
@@ -34,6 +37,8 @@ struct ssin_rm_block {
     SLOT(float, 65, large_limit, 0x461C4000) // 10000.0
     SLOT(float, 66, exp_mask, 0x7F800000)
     GAP(67, 67)
+    // Fit on |r| <= pi/256: r + lg_s1*r^3 + lg_s2*r^5 = sin(r) to 2^-40.3 relative
+    // Fit on |r| <= pi/256: 1 + lg_c1*r^2 + lg_c2*r^4 = cos(r) to 2^-50.1 relative
     SLOT(float, 68, lg_s1, 0xBE2AAAAB)
     SLOT(float, 69, lg_s2, 0x3C08885C)
     SLOT(float, 70, lg_c1, 0xBF000000)
@@ -42,6 +47,7 @@ struct ssin_rm_block {
     SLOT(float, 76, pi_1, 0x40490FDB)
     SLOT(float, 77, pi_2, 0xB3BBBD2E)
     GAP(78, 78)
+    // Fit on |r| <= pi/2: c0*r + c1*r^3 + c2*r^5 = sin(r) to 2^-12.7 absolute
     SLOT(float, 79, c0, 0x3F7FF87C) // r, 0.99988532, not 1
     SLOT(float, 80, c1, 0xBE29E72F) // r^3
     SLOT(float, 81, c2, 0x3BF84524) // r^5
@@ -54,6 +60,8 @@ struct scos_block {
     GAP(65, 65)
     SLOT(float, 66, exp_mask, 0x7F800000)
     SLOT(float, 67, large_limit, 0x49000000) // 524288.0
+    // Fit on |r| <= pi/256: r + lg_s1*r^3 + lg_s2*r^5 = sin(r) to 2^-40.3 relative
+    // Fit on |r| <= pi/256: 1 + lg_c1*r^2 + lg_c2*r^4 = cos(r) to 2^-50.1 relative
     SLOT(float, 68, lg_s1, 0xBE2AAAAB)
     SLOT(float, 69, lg_s2, 0x3C08885C)
     SLOT(float, 70, lg_c1, 0xBF000000)
@@ -62,6 +70,7 @@ struct scos_block {
     SLOT(float, 76, pi_1, 0x40490FDB)
     SLOT(float, 77, pi_2, 0xB3BBBD2E)
     SLOT(float, 78, pi_3, 0xA7772CED)
+    // Fit on |r| <= pi/2: r + s1*r^3 + s2*r^5 + s3*r^7 + s4*r^9 = sin(r) to 2^-24.5 relative
     SLOT(float, 79, s1, 0xBE2AAAA6) // r^3, as in sinf
     GAP(80, 82)
     SLOT(float, 83, s2, 0x3C088764) // r^5
@@ -79,6 +88,8 @@ struct scos_rm_block {
     SLOT(float, 65, large_limit, 0x461C4000) // 10000.0
     SLOT(float, 66, exp_mask, 0x7F800000)
     GAP(67, 67)
+    // Fit on |r| <= pi/256: r + lg_s1*r^3 + lg_s2*r^5 = sin(r) to 2^-40.3 relative
+    // Fit on |r| <= pi/256: 1 + lg_c1*r^2 + lg_c2*r^4 = cos(r) to 2^-50.1 relative
     SLOT(float, 68, lg_s1, 0xBE2AAAAB)
     SLOT(float, 69, lg_s2, 0x3C08885C)
     SLOT(float, 70, lg_c1, 0xBF000000)
@@ -86,6 +97,7 @@ struct scos_rm_block {
     GAP(72, 74)
     SLOT(float, 75, pi_1, 0x40490FDB)
     SLOT(float, 76, pi_2, 0xB3BBBD2E)
+    // Fit on |r| <= pi/2: c0*r + c1*r^3 + c2*r^5 = sin(r) to 2^-12.7 absolute
     SLOT(float, 77, c0, 0x3F7FF87C)
     SLOT(float, 78, c1, 0xBE29E73F) // r^3
     SLOT(float, 79, c2, 0x3BF84524)
@@ -158,11 +170,19 @@ using ssin = ssin_kernel<__orvane_ssin_data>;
 using ssin_rm = ssin_kernel<__orvane_ssin_rm_data>;
 using scos = scos_kernel<__orvane_scos_data>;
 using scos_rm = scos_kernel<__orvane_scos_rm_data>;
+// Largest known error of sinf: 2.37 ulp at 0x48A48F61
+// Largest known error of sinf, large arguments: 0.586 ulp at 0x789C2E15
 ORVANE_EXPORT(sinf, , ssin)
+// Largest known error of sinf_rm: 0.0001505 absolute at 0x3FB5D472
+// Largest known error of sinf_rm, large arguments: 0.578 ulp at 0x4E56DE06
 ORVANE_EXPORT(sinf, _rm, ssin_rm)
 ORVANE_TWIN(sinf, _native, sinf, _rm)
 ORVANE_TWIN(sinf, _half, sinf, _rm)
+// Largest known error of cosf: 2.467 ulp at 0xC8C8B912
+// Largest known error of cosf, large arguments: 0.5925 ulp at 0x76087DF9
 ORVANE_EXPORT(cosf, , scos)
+// Largest known error of cosf_rm: 0.0001511 absolute at 0xC03F8257
+// Largest known error of cosf_rm, large arguments: 0.5848 ulp at 0xFC7A0C95
 ORVANE_EXPORT(cosf, _rm, scos_rm)
 ORVANE_TWIN(cosf, _native, cosf, _rm)
 ORVANE_TWIN(cosf, _half, cosf, _rm)

@@ -1,0 +1,106 @@
+// The polynomials of the kernels' blocks against what their comments say that they are: function, interval and error.
+#include "tools/fits/stated.h"
+#include "tools/whole_file.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <regex>
+#include <set>
+
+using namespace orvane;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::vector<fits::stated_fit> all_fits() {
+    std::vector<fits::stated_fit> all;
+    for (const auto& file : fits::sources_with_fits(ORVANE_SOURCES))
+        for (auto& f : fits::stated_fits(file))
+            all.push_back(f);
+    return all;
+}
+
+// Stated to a tenth of a bit.
+TEST(Fits, ReachTheErrorsThatTheirCommentsState) {
+    const auto all = all_fits();
+    ASSERT_GT(all.size(), 100u);
+    for (const auto& f : all)
+        EXPECT_NEAR(fits::error_exponent(f), f.exponent, 0.051)
+            << f.file.string() << ":" << f.line << ": build/fit-errors --write puts the computed error there";
+}
+
+// What kernels evaluate by horner(...), which is most polynomials: each slot that stands in one has its fit stated in
+// a file of the folder.
+TEST(Fits, AreStatedForEveryPolynomial) {
+    static const std::regex slot(R"(\bc\.(\w+))");
+    std::map<std::string, std::set<std::string>> stated; // by folder
+    for (const auto& f : all_fits())
+        stated[f.file.parent_path().filename()].insert(f.coefficients.begin(), f.coefficients.end());
+    int polynomials = 0;
+    for (const auto& [folder, coefficients] : stated)
+        for (const auto& source : fs::directory_iterator(fs::path(ORVANE_SOURCES) / folder)) {
+            const std::string name = source.path().filename(), text = contents_of(source.path());
+            if (!source.is_regular_file() || name.find("_rare") != name.npos || name.find("gamma") != name.npos)
+                continue;
+            for (size_t at = text.find("horner("); at != text.npos; at = text.find("horner(", at + 1)) {
+                size_t end = at + 7;
+                for (int open = 1; open; end++)
+                    open += text[end] == '(' ? 1 : text[end] == ')' ? -1 : 0;
+                const std::string call = text.substr(at, end - at);
+                polynomials++;
+                for (std::sregex_iterator i(call.begin(), call.end(), slot), last; i != last; ++i)
+                    if ((*i)[1] != "poly" && (*i)[1] != "one" && (*i)[1] != "h0")
+                        EXPECT_TRUE(coefficients.contains((*i)[1]))
+                            << folder << "/" << name << ": " << call << ": no fit names " << (*i)[1];
+            }
+        }
+    EXPECT_GT(polynomials, 50);
+}
+
+// The reader of these comments itself: what it computes and what it refuses.
+class StatedFits : public testing::Test {
+protected:
+    fs::path file = fs::temp_directory_path() / ("orvane_fits_" + std::to_string(getpid()) + ".h");
+    ~StatedFits() { fs::remove(file); }
+    std::vector<fits::stated_fit> of(const std::string& text) {
+        write_whole(file, text);
+        return fits::stated_fits(file);
+    }
+};
+TEST_F(StatedFits, AreComputedFromTheSlotsThatFollow) {
+    const auto f =
+        of("SLOT(double, 0, c1, 0x4008000000000000)\n"
+           "    // A comment. Fit on |r| <= 1/2^3: 1 + c1*r + c2*r^2\n"
+           "    // = (1 + r)^2 to 2^-5.0 absolute; more words.\n"
+           "SLOT(double, 1, c1, 0x4000000000000000) // 2\n"
+           "SLOT(float, (at) + 2, c2, 0x3F000000)\n"
+           "// Fit on 0 <= x <= 1, |y| <= 1/2, s = x + y: array(s) - y = 2*s^2 + 3*s + 1 - y to 2^-3.0 relative\n"
+           "constexpr coefficients<float, 3> array = {\n    {0x40000000, 0x40400000, 0x3FC00000}};\n");
+    ASSERT_EQ(f.size(), 2u);
+    EXPECT_EQ(f[0].line, 2);
+    EXPECT_EQ(f[0].coefficients, (std::vector<std::string>{"c1", "c2"}));
+    EXPECT_NEAR(fits::error_exponent(f[0]), -7, 1e-9); // r^2 / 2 at 1/8
+    EXPECT_FALSE(f[0].relative);
+    // 1/2 over the smallest 2 s^2 + 3 s + 1 - y, which is 2 s^2 + 2 s + 1 + x with its least at x = 0, s = -1/2.
+    EXPECT_NEAR(fits::error_exponent(f[1]), 0, 1e-9);
+}
+TEST_F(StatedFits, RefuseWhatTheyDoNotUnderstand) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"// Fit on |r| <= 1: c1*r = exp(r)\nint x;\n", "ends with"},
+        {"// Fit on |r| <= 1: c1*r to 2^-3 relative\n", "is written"},
+        {"// Fit on r < 1: 1 + r = exp(r) to 2^-3 relative\n", "no interval"},
+        {"// Fit on |r| <= 1: 1 + c9*r = exp(r) to 2^-3 relative\n", "'c9'"},
+        {"// Fit on |r| <= 1: 1 + (r = exp(r) to 2^-3 relative\n", ") is missing"}};
+    for (const auto& [text, why] : cases) {
+        SCOPED_TRACE(text);
+        try {
+            of(text);
+            ADD_FAILURE();
+        } catch (const std::exception& e) {
+            EXPECT_NE(std::string(e.what()).find(why), std::string::npos) << e.what();
+            EXPECT_NE(std::string(e.what()).find(":1: "), std::string::npos) << e.what();
+        }
+    }
+}
+
+} // namespace

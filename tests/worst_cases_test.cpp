@@ -1,0 +1,118 @@
+// The largest known errors of data/worst_cases.txt, measured again, and what is said of them elsewhere.
+#include "tools/extended.h"
+#include "tools/whole_file.h"
+#include "tools/worst_cases.h"
+
+#include "support.h"
+
+#include <set>
+
+using namespace orvane;
+
+namespace {
+
+const std::string file = ORVANE_SOURCES "/data/worst_cases.txt";
+
+bool is_gamma(const kernel_row& row) { return row.base().find("gamma") != std::string::npos; }
+
+void measure_again(const std::vector<worst_case>& rows) {
+    truth t;
+    for (const auto& w : rows) {
+        SCOPED_TRACE(line_of(w));
+        one_lane kernel(*w.row, library_under_test());
+        kernel(w.arguments);
+        EXPECT_EQ(to_string(kernel.path()), to_string(w.path));
+        EXPECT_EQ(to_string(measure_of(*w.row, w.path)), to_string(w.measure));
+        EXPECT_NEAR(kernel.error(t, w.measure), w.error, 1e-5 * w.error);
+        EXPECT_EQ(w.estimates != 0, kernel.is_fed_by_estimates() && w.path != lane_path::slow);
+    }
+}
+std::vector<worst_case> rows_of(uint64_t estimates) {
+    auto rows = read_worst_cases(file);
+    std::erase_if(rows, [&](const worst_case& w) { return w.estimates != estimates; });
+    return rows;
+}
+
+TEST(WorstCases, OnAnyProcessor) { measure_again(rows_of(0)); }
+TEST(WorstCases, OnProcessorsWithTheseEstimates) {
+    const auto rows = rows_of(estimates_of_this_processor());
+    if (rows.empty()) GTEST_SKIP() << "the file has no rows for a processor with these estimates";
+    measure_again(rows);
+}
+
+// All that is not exact, or rounded once, has its rows, one for each path and kind of processor.
+TEST(WorstCases, CoverEveryKernelThatRounds) {
+    std::set<std::tuple<const kernel_row*, lane_path, uint64_t>> rows;
+    std::set<std::pair<const kernel_row*, lane_path>> paths;
+    for (const auto& w : read_worst_cases(file)) {
+        EXPECT_TRUE(rows.insert({w.row, w.path, w.estimates}).second) << "twice: " << line_of(w);
+        EXPECT_TRUE(w.row->twin_name.empty()) << "a twin: " << line_of(w);
+        paths.insert({w.row, w.path});
+    }
+    const std::set<std::string> rounded_once{"div", "inv", "sqrt"}; // in double, and their default tiers
+    for (const auto& row : library_rows()) {
+        if (!row.twin_name.empty() || !extended_reference_of(row)) continue;
+        if (rounded_once.contains(row.base()) && (row.tier == "default" || row.in == lane_type::f64)) continue;
+        const bool scalar = row.path == kernel_path::all_lanes;
+        EXPECT_TRUE(paths.contains({&row, scalar ? lane_path::slow : lane_path::vector})) << row.name << row.suffix();
+        EXPECT_EQ(paths.contains({&row, lane_path::large}), std::isfinite(large_from(row)))
+            << row.name << row.suffix();
+    }
+}
+
+TEST(WorstCases, StandAboveTheExportsOfTheirKernels) {
+    auto rows = read_worst_cases(file);
+    std::erase_if(rows, [](const worst_case& w) { return is_gamma(*w.row); });
+    int placed = 0;
+    for (const auto& source : sources_with_error_lines(ORVANE_SOURCES)) {
+        const std::string text = contents_of(source);
+        EXPECT_EQ(text, with_error_lines(text, rows, &placed))
+            << source << ": build/orvane-search --lines writes them";
+    }
+    EXPECT_EQ(placed, (int)rows.size());
+}
+
+// The search itself: what it prints is a row of the file, and mistakes are told in one line.
+std::string output_of(const std::string& arguments, int* status) {
+    FILE* pipe = popen((ORVANE_TOOL_FOLDER "/orvane-search " + arguments + " 2>&1").c_str(), "r");
+    std::string text(4096, 0);
+    text.resize(fread(text.data(), 1, text.size(), pipe));
+    *status = pclose(pipe);
+    return text;
+}
+TEST(Search, FindsAnErrorNearTheLargestKnown) {
+    const auto copy = std::filesystem::temp_directory_path() / ("orvane_worst_" + std::to_string(getpid()) + ".txt");
+    write_whole(copy, "# kept\n");
+    int status;
+    const std::string said = output_of("expm1 -s 0.5 --append --file " + copy.string(), &status);
+    EXPECT_EQ(status, 0) << said;
+    const auto found = read_worst_cases(copy);
+    EXPECT_TRUE(contents_of(copy).starts_with("# kept\n"));
+    std::filesystem::remove(copy);
+    ASSERT_FALSE(found.empty()) << said;
+    for (const auto& known : rows_of(0))
+        if (known.row == found[0].row && known.path == found[0].path) {
+            EXPECT_GT(found[0].error, 0.9 * known.error);
+        }
+}
+TEST(Search, TellsMistakesInOneLine) {
+    const std::pair<const char*, const char*> cases[] = {{"", "name one kernel"},
+                                                         {"exq", "no family 'exq'"},
+                                                         {"floor", "exact"},
+                                                         {"exp --every", "float kernels of one argument"},
+                                                         {"exp --seconds -1", "seconds"},
+                                                         {"pownf --at 0x3F82A0F1", "takes 2"},
+                                                         {"pownf --at 1,2", "no bit pattern"},
+                                                         {"exp --from 2 --to 1", "--from is larger"},
+                                                         {"exp --library /nowhere.so", "cannot open"},
+                                                         {"exp --append --file /nowhere", "cannot read"}};
+    for (const auto& [arguments, why] : cases) {
+        int status;
+        const std::string said = output_of(arguments, &status);
+        EXPECT_NE(status, 0) << arguments;
+        EXPECT_NE(said.find(why), said.npos) << arguments << ": " << said;
+        EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << arguments << ": " << said;
+    }
+}
+
+} // namespace
