@@ -1,8 +1,4 @@
-<<<<<<<< HEAD:tools/error_limits.cpp
-#include "error_limits.h"
-========
 #include "opencl_limits.h"
->>>>>>>> i17b:tools/opencl_limits.cpp
 
 #include <cmath>
 #include <map>

@@ -11,9 +11,7 @@
 #include "call_plan.h"
 #include "signature.h"
 #include "whole_file.h"
-#ifdef ORVANE_WITH_MPFR
 #include "truth.h"
-#endif
 
 #include <CLI/CLI.hpp>
 #include <charconv>
@@ -212,9 +210,7 @@ public:
     std::string header() const {
         if (as_json) return "";
         std::string s = "input -> result (bits)";
-#ifdef ORVANE_WITH_MPFR
         s += "  true value  error in ulps";
-#endif
         return s + "\n";
     }
     std::string line(const lane_words& in, const lane_words& out) {
@@ -224,14 +220,11 @@ public:
         for (size_t j = 0; j < in.size(); j++)
             s += (j ? "," : "") + shown(row.argument(j), in[j]);
         s += " ->";
-#ifdef ORVANE_WITH_MPFR
         const bool known = value(row, in.data());
-#endif
         for (size_t j = 0; j < out.size(); j++) {
             const lane_type t = row.result(j);
             s += " " + shown(t, out[j]) + " (" + pattern(t, out[j]) + ")";
             json r{{"value", shown(t, out[j])}, {"bits", pattern(t, out[j])}};
-#ifdef ORVANE_WITH_MPFR
             if (known) {
                 char digits[64], error[32];
                 mpfr_snprintf(digits, sizeof digits, "%.20Rg", value.value(j));
@@ -243,7 +236,6 @@ public:
                 compared = true;
                 if (!(e <= worst) || where.empty()) worst = e, where = in;
             }
-#endif
             lane["results"].push_back(r);
         }
         if (!as_json) return s + "\n";
@@ -262,9 +254,7 @@ private:
     bool compared = false;
     double worst = 0;
     lane_words where; // of the worst error
-#ifdef ORVANE_WITH_MPFR
     truth value;
-#endif
 };
 
 // A progress bar on a terminal, by the share of the input that is read.
