@@ -6,20 +6,14 @@
 namespace orvane {
 
 ORVANE_SLOW_PATH(__orvane_dlgamma_cout_rare, const double* x, double* result);
-ORVANE_SLOW_PATH(__orvane_slgamma_cout_rare, const float* x, float* result);
 ORVANE_SLOW_PATH(__orvane_dlgammar_cout_rare, const double* x, double* result, int* sign);
-ORVANE_SLOW_PATH(__orvane_slgammar_cout_rare, const float* x, float* result, int* sign);
 
 template <class Signature, auto& Rare> struct lgamma_kernel : kernel<Signature, no_block, Rare> {
     static constexpr bool all_lanes = true;
 };
 using dlgamma_kernel = lgamma_kernel<one_argument<double>, __orvane_dlgamma_cout_rare>;
-using slgamma_kernel = lgamma_kernel<one_argument<float>, __orvane_slgamma_cout_rare>;
 using dlgammar_kernel = lgamma_kernel<pointer_out<double, int32_t>, __orvane_dlgammar_cout_rare>;
-using slgammar_kernel = lgamma_kernel<pointer_out<float, int32_t>, __orvane_slgammar_cout_rare>;
 ORVANE_EXPORT(lgamma, , dlgamma_kernel)
-ORVANE_EXPORT(lgammaf, , slgamma_kernel)
 ORVANE_EXPORT(lgammar, , dlgammar_kernel)
-ORVANE_EXPORT(lgammarf, , slgammar_kernel)
 
 } // namespace orvane
