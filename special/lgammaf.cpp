@@ -63,18 +63,6 @@ struct slgamma_block {
 ORVANE_BLOCK(slgamma_block, __orvane_slgamma_data)
 ORVANE_BLOCK_TWIN(__orvane_slgammar_data, __orvane_slgamma_data)
 
-// The sign of gamma(x): of its pole at a zero, -1 where the integer below a negative |x| is even, else +1.
-template <class T, int W> ORVANE_INLINE auto sign_of_gamma(lanes<T, W> x) {
-    using V = lanes<T, W>;
-    constexpr T whole = sizeof(T) == 8 ? T(0x1p52) : T(0x1p23);
-    auto A = andnot(V(T(-0.0)), x);
-    auto F = round_to<downward>(A);
-    auto odd = bits(F + V(whole)) << (8 * sizeof(T) - 1);
-    auto minus = keep((x < V(T(0))) & (F != A) & (A < V(whole)), ~signed_bits(as<T>(odd))) |
-                 keep(x == V(T(0)), signed_bits(x));
-    return minus;
-}
-
 // y below 2^-6: log gamma(1 + x) - ln x and so on, four lanes at a time.
 template <int W> struct slgamma_wide {
     using V = lanes<double, W>;

@@ -132,4 +132,7 @@ template <class T, class V> [[gnu::always_inline]] inline V gamma_row_product(ui
     return G;
 }
 
+// How much further the slow path can be from the vector path at negative arguments, relative: what fit-gamma proves.
+constexpr double tgamma_reflection_margin = 0x1p-60;
+
 } // namespace orvane

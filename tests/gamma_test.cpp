@@ -197,12 +197,18 @@ TEST(Gamma, SlowPathsDecideFewLanes) {
                                                                          {"lgammaf", -8.9, 0, 1e-3},
                                                                          {"tgammaf", 0.5, 20, 1e-3},
                                                                          {"tgammaf", 0, 4, 1e-3},
-                                                                         {"tgammaf", -30, 0, 1e-3}}) {
+                                                                         {"tgammaf", -30, 0, 1e-3},
+                                                                         {"lgamma", 0.5, 20, 0.03},
+                                                                         {"lgamma", 0, 4, 0.03},
+                                                                         {"lgamma", -20, 0, 0.08},
+                                                                         {"tgamma", 0.5, 20, 0.03},
+                                                                         {"tgamma", 0, 171, 0.04},
+                                                                         {"tgamma", -20, 0, 0.05}}) {
         sweep f(name);
         const auto x = spread(f.row().in, lo, hi, 200'000, false, 41);
         EXPECT_LE((double)slow_lanes(f, x) / x.size(), most) << name << " from " << lo << " to " << hi;
     }
-    for (auto name : {"lgammaf", "lgammarf", "tgammaf"}) {
+    for (auto name : families) {
         sweep f(name);
         words x;
         for (double v : std::initializer_list<double>{NAN, infinity, -infinity, 0.0, -0.0, -1.0, -2.0, -17.0, -0x1p60,
@@ -236,12 +242,12 @@ TEST(Gamma, OtherRoundingModesCostAUnitInTheLastPlace) {
                     for (int k = 0; k < 8; k++) {
                         const long double v = value_of(row.in, lanes[k]);
                         const auto truth = name[0] == 't' ? tgammal(v) : lgammal(v);
-                        ASSERT_LE(approximate_ulps(row.out, y[0][k], truth), is_wide ? 1.02 : 1.01)
+                        ASSERT_LE(approximate_ulps(row.out, y[0][k], truth), is_wide ? 1.1 : 1.01)
                             << name << std::hex << " of " << lanes[k] << " under " << rounding;
                     }
                 }
             }
-        if (!is_wide) EXPECT_TRUE(differs) << name;
+        EXPECT_TRUE(differs) << name;
     }
 }
 
@@ -332,8 +338,8 @@ TEST(Gamma, X87StateOfTheCaller) {
         lane_caller call = s.caller(4);
         int rounded_down = 0;
         for (double x : std::initializer_list<double>{
-                 NAN,  infinity, 0.0,  tiny, 0.3,   1.3,   1.6,    3.5,    40.2,   171.9,   600.5, 1e306, -tiny,
-                 -0.5, -1.5,     -2.7, -3.2, -14.5, -15.5, -30.25, -181.5, -200.5, -1000.5, -3.0,  -1e300}) {
+                 NAN,  infinity, 0.0,  tiny, 0.3,   1.3,   1.6,    3.5,    40.2,   171.9,  600.5,   1e306, -tiny,
+                 -0.5, -1.5,     -2.7, -3.2, -14.5, -15.5, -30.25, -168.3, -181.5, -200.5, -1000.5, -3.0,  -1e300}) {
             const words lanes(4, word_of(lane_type::f64, x));
             auto under = [&](uint16_t control) {
                 std::vector<words> results;

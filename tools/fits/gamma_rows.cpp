@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <stdexcept>
 
 namespace orvane::fits {
 
@@ -233,7 +234,7 @@ double margin_of(const double_row& row, const std::vector<part>& parts, const re
         const real a = s.lo - centre, b = s.hi - centre;
         if (!zero_at_centre) {
             for (int i = 0; i < 64; i++)
-                on(a + (b - a) * i / 64, a + (b - a) * (i + 1) / 64, 8);
+                on(a + (b - a) * i / 64, a + (b - a) * (i + 1) / 64, 1);
             continue;
         }
         // Toward the zero by halves, to the neighbours of 1 and 2.
@@ -242,7 +243,7 @@ double margin_of(const double_row& row, const std::vector<part>& parts, const re
                 for (int k = 0; k < 54; k++)
                     for (int i = 0; i < 8; i++) {
                         const real far = end * power_of_two(-k), p = far * (16 - i) / 16, q = far * (15 - i) / 16;
-                        on(smaller(p, q), larger(p, q), k < 2 ? 128 : 4);
+                        on(smaller(p, q), larger(p, q), 1);
                     }
     }
     return std::nextafter(tables::rounded_f64(most * (real(1) + power_of_two(-20))), 1.0);
@@ -329,8 +330,148 @@ file lgamma_rows() {
                 text};
 }
 
+// A function given by its series around any centre, on [lo, hi].
+part exact_part(const real& lo, const real& hi, exact_polynomial (*series)(const real&)) {
+    return {lo, hi, series, nullptr};
+}
+// The largest error of a row of a series, absolute.
+real fit_error(const double_row& row, const part& p, const real& centre) {
+    const polynomial off = (p.slow(centre) - exact_polynomial(row.all())).c;
+    real worst = 0;
+    for (int i = 0; i < 1024; i++)
+        worst = larger(worst, bound_of(off, p.lo - centre + (p.hi - p.lo) * i / 1024,
+                                       p.lo - centre + (p.hi - p.lo) * (i + 1) / 1024));
+    return worst;
+}
+
+// ln around sixteenths from 1 to 2.
+file lgamma_ln_rows() {
+    std::string text;
+    real worst = 0;
+    for (int i = 0; i <= 16; i++) {
+        const real centre = real(1) + real(i) / 16;
+        const auto p =
+            exact_part(i ? centre - real(1) / 32 : centre, i < 16 ? centre + real(1) / 32 : centre, log_series);
+        const auto wide = exact_part(centre - real(1) / 32, centre + real(1) / 32, log_series);
+        const auto row = fit_double_row({wide}, nullptr, centre, 12, i == 0);
+        worst = larger(worst, fit_error(row, p, centre));
+        text += text_of(row, 0, false);
+    }
+    return {"special/tables/lgamma_ln.inc", heading("ln around sixteenths, absolute: ", log2_of(worst)) + text};
+}
+// sin(pi r) / (pi r) in z = r^2.
+exact_polynomial sine_series(const real&) {
+    polynomial c{real(1)};
+    for (int k = 1; k < 40; k++)
+        c.push_back(-c.back() * tables::pi() * tables::pi() / (2 * k * (2 * k + 1)));
+    return c;
+}
+file lgamma_sine_row() {
+    const auto p = exact_part(0, real(1) / 4, sine_series);
+    auto row = fit_double_row({p}, nullptr, 0, 11, false);
+    const auto error = fit_error(row, p, 0);
+    return {"special/tables/lgamma_sine.inc",
+            heading("sin(pi r) / (pi r) in r^2, absolute: ", log2_of(error)) + text_of(row, 0, true)};
+}
+
+// gamma of the slow path on the unit from n on, in u = x - centre; in the piece of `where` below 2.
+exact_polynomial exact_gamma(int n, double where, const real& centre) {
+    if (n < 2) {
+        const auto& piece = gamma_piece_of<double>(where);
+        return horner_up(piece.c, exact_polynomial({centre + piece.shift, real(1)}));
+    }
+    exact_polynomial p = gamma_row_product<double>(n, exact_polynomial({centre - n, real(1)}));
+    for (int i = 1; i <= (n >= 16 ? n % 16 : n - 2); i++)
+        p = p * exact_polynomial({centre - i, real(1)});
+    return p;
+}
+// The slow path's rounding there, relative: the polynomial's or the product's, of its factors, and two roundings for
+// the last product or quotient.
+real gamma_rounding(int n, double where, const real& lo, const real& hi) {
+    if (n < 2) {
+        const auto& piece = gamma_piece_of<double>(where);
+        const auto P = horner_up(piece.c, bounded<64>(lo + piece.shift, hi + piece.shift, power_of_two(-64)));
+        return P.error / P.least() + power_of_two(-63);
+    }
+    const auto G = gamma_row_product<double>(n, bounded<64>(lo - n, hi - n));
+    return G.error / G.least() + power_of_two(-64) * ((n >= 16 ? n % 16 : n - 2) + 1);
+}
+
+// gamma of the slow path in double on eighths, and the margins that its rounding and theirs need.
+std::vector<file> tgamma_rows() {
+    std::string text, margins;
+    real worst_fit = 0;
+    auto unit = [&](int n) {
+        for (int i = 0; i < 8; i++) {
+            const real lo = real(n) + real(i) / 8, hi = lo + real(1) / 8, centre = n == 1 ? lo : (lo + hi) / 2;
+            const double where = tables::rounded_f64((lo + hi) / 2);
+            const part p = {lo, hi, [=](const real& c) { return exact_gamma(n, where, c); }, nullptr};
+            const auto row = fit_double_row({p}, nullptr, centre, 12, false);
+            const polynomial off = (p.slow(centre) - exact_polynomial(row.all())).c;
+            real fit = 0;
+            for (int k = 0; k < 32; k++) {
+                const real a = lo - centre + (hi - lo) * k / 32, b = a + (hi - lo) / 32;
+                const real least = magnitude(value(row.all(), (a + b) / 2)) * (1 - 1.0 / 32); // slopes are below 6
+                fit = larger(fit, (bound_of(off, a, b) + evaluation_error(row, a, b)) / least);
+            }
+            worst_fit = larger(worst_fit, fit);
+            real rounding = 0;
+            for (int k = 0; k < 32; k++)
+                rounding = larger(rounding,
+                                  gamma_rounding(n, where, lo + (hi - lo) * k / 32, lo + (hi - lo) * (k + 1) / 32));
+            const real margin = (fit + rounding + power_of_two(-75)) * (real(1) + power_of_two(-20));
+            if (getenv("VERBOSE"))
+                printf("tgamma from %g: fit 2^%.2f rounding 2^%.2f\n", tables::rounded_f64(lo), log2_of(fit),
+                       log2_of(rounding));
+            writer w;
+            w.f64(tables::rounded_f64(margin)), w.end_row();
+            margins += w.text;
+            text += text_of(row, 0, false);
+        }
+    };
+    unit(1);
+    for (int n = 8; n <= 168; n += 8)
+        unit(n);
+    unit(2);
+    // The sine: rounded as the slow path's text says, for r from 0 to 1/2; and reflection's four further roundings.
+    real sine = 0;
+    for (int i = 0; i < 256; i++) {
+        const bounded<64> r(real(i) / 512 + power_of_two(-60), real(i + 1) / 512);
+        const bounded<64> z = r * r, q = z * horner(tgamma_constants<double>::sin_c, z) + 1; // s / r, a rounding more
+        sine = larger(sine, q.error / q.least() + power_of_two(-62));
+    }
+    auto check = [&](const char* what, const real& proven, double margin) {
+        printf("tgamma, %s: proven 2^%.2f, margin 2^%.2f\n", what, log2_of(proven), std::log2(margin));
+        if (real(margin) < proven) throw std::runtime_error("tgamma: a margin is too small");
+    };
+    check("reflection", sine + power_of_two(-62) + power_of_two(-66), tgamma_reflection_margin);
+    return {
+        {"special/tables/tgamma_eighths.inc",
+         heading("the slow path's gamma on eighths, with the evaluation's rounding, relative: ", log2_of(worst_fit)) +
+             text},
+        {"special/tables/tgamma_margins.inc",
+         "// for each eighth what the slow path can be from the row, relative\n" + margins}};
+}
+exact_polynomial slow_sine(const real&) {
+    const exact_polynomial z({real(0), real(1)});
+    return exact_polynomial(1) + z * horner(tgamma_constants<double>::sin_c, z);
+}
+file tgamma_sine_row() {
+    const auto p = exact_part(0, real(1) / 4, slow_sine);
+    auto row = fit_double_row({p}, nullptr, 0, 11, false);
+    const auto error = fit_error(row, p, 0);
+    return {"special/tables/tgamma_sine.inc",
+            heading("the slow path's sin(pi r) / (pi r) in r^2, absolute: ", log2_of(error)) + text_of(row, 0, true)};
+}
+
 } // namespace
 
-std::vector<file> gamma_rows() { return {lgammaf_rows(), ln_rows(), tgammaf_rows(), lgamma_rows()}; }
+std::vector<file> gamma_rows() {
+    std::vector<file> files = tgamma_rows();
+    for (auto rows :
+         {lgammaf_rows, ln_rows, tgammaf_rows, lgamma_rows, lgamma_ln_rows, lgamma_sine_row, tgamma_sine_row})
+        files.push_back(rows());
+    return files;
+}
 
 } // namespace orvane::fits

@@ -83,13 +83,17 @@ struct exact_polynomial {
         return a + b * exact_polynomial(-1);
     }
 };
-// A bound of |p| for u from lo to hi: its value in the middle and the largest slope.
-inline real bound_of(const polynomial& p, const real& lo, const real& hi) {
-    const real middle = (lo + hi) / 2, reach = larger(magnitude(lo), magnitude(hi));
-    real slope = 0;
-    for (size_t k = p.size(); k-- > 1;)
-        slope = slope * reach + magnitude(p[k]) * (int)k;
-    return magnitude(value(p, middle)) + (hi - lo) / 2 * slope;
+// A bound of |p| for u from lo to hi: the magnitudes of its terms in powers of the distance from the middle.
+inline real bound_of(polynomial p, const real& lo, const real& hi) {
+    const real middle = (lo + hi) / 2, reach = (hi - lo) / 2;
+    real bound = 0, power = 1;
+    for (size_t n = 0; n < p.size();
+         n++, power = power * reach) { // each pass of Horner's scheme leaves a coefficient
+        for (size_t k = p.size() - 1; k-- > n;)
+            p[k] = p[k] + middle * p[k + 1];
+        bound = bound + magnitude(p[n]) * power;
+    }
+    return bound;
 }
 
 } // namespace orvane::fits
