@@ -1,4 +1,4 @@
-// The slow paths of lgamma and lgammar, which run on every lane, in extended precision.
+// The slow paths of lgamma and lgammar, in extended precision.
 #include "special/lgamma_rare.h"
 #include "log/log_tables.h"
 #include "special/lgamma_pieces.h"

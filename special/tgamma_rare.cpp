@@ -1,4 +1,4 @@
-// The slow paths of tgamma and tgammaf, which run on every lane: float in double, double in extended precision.
+// The slow paths of tgamma and tgammaf: float in double, double in extended precision.
 //
 // On |x| < 2 a polynomial on a piece of [1, 2); from there on a product of quadratics for gamma on the one unit
 // interval of each 8 or 16, and a product of shifted arguments to reach it. Negative arguments by reflection,
