@@ -4,9 +4,10 @@
 //     orvane-bench [FAMILY_REGEX ...] [--benchmark_...]
 #include "bench/peers.h"
 #include "bench/table.h"
+#include "tools/whole_file.h"
 
-#include <cmath>
 #include <cerrno>
+#include <cmath>
 #include <cstring>
 #include <dlfcn.h>
 #include <fstream>
@@ -21,29 +22,51 @@ using namespace orvane::bench;
 
 namespace {
 
-bool has_huge_arguments(const kernel_row& row) {
+// Further ranges of arguments that a family is measured over, each beside the peers.
+std::vector<lane_set> further_ranges_of(const kernel_row& row) {
     const auto base = row.base();
-    return base == "sin" || base == "cos" || base == "tan" || base == "sincos" || base == "sincosreg";
+    const bool is_float = row.in == lane_type::f32;
+    if (base == "sin" || base == "cos" || base == "tan" || base == "sincos" || base == "sincosreg") {
+        const double top = std::exp2(is_float ? 127.99 : 1023.99);
+        return {{"huge", 0x1p30, top, true}};
+    }
+    if (base == "tgamma")
+        return {{"0 to 4", 0, 4},
+                is_float ? lane_set{"0 to 35", 0, 35} : lane_set{"0 to 171", 0, 171.4},
+                {"1e-10 up", 1e-10, is_float ? 30.0 : 160.0, true},
+                is_float ? lane_set{"-30 to 0", -30, 0} : lane_set{"-20 to 0", -20, 0},
+                is_float ? lane_set{"-30 to 30", -30, 30} : lane_set{"-160 to 0", -160, 0}};
+    if (base == "lgamma" || base == "lgammar")
+        return {{"0 to 4", 0, 4},
+                {"0.5 to 100", 0.5, 100},
+                {"0 to 1000", 0, 1000},
+                {"1e-10 to 1e10", 1e-10, 1e10, true},
+                is_float ? lane_set{"-8.9 to 0", -8.9, 0} : lane_set{"-20 to 0", -20, 0},
+                is_float ? lane_set{"-30 to 30", -30, 30} : lane_set{"-500 to 0", -500, 0}};
+    return {};
 }
 std::vector<lane_set> lane_sets_of(const kernel_row& row) {
     std::vector<lane_set> sets = {ordinary};
     if (!row.special.empty()) sets.push_back(special);
-    if (has_huge_arguments(row)) sets.push_back(huge);
+    for (const auto& range : further_ranges_of(row))
+        sets.push_back(range);
     return sets;
 }
 
 // Argument lanes of a row: evenly spread over its ordinary range; in the special set one lane of every 64, at a
-// random place, is the row's special one; huge ones are spread evenly in the exponent up to the largest numbers.
-void fill(buffer& b, const kernel_row& row, int width, lane_set set, unsigned seed = 1) {
+// random place, is the row's special one; a further range is spread evenly, or evenly in the exponent.
+void fill(buffer& b, const kernel_row& row, int width, const lane_set& set, unsigned seed = 1) {
     std::mt19937_64 random(seed);
     for (int j = 0; j < row.arguments(); j++)
         with_type(row.argument(j), [&]<class T>(type<T>) {
-            const double lo = row.range[j ? 2 : 0], hi = row.range[j ? 3 : 1];
+            const bool own = set.lo != set.hi;
+            const double lo = own ? set.lo : row.range[j ? 2 : 0], hi = own ? set.hi : row.range[j ? 3 : 1];
             T* lane = b.argument[j].as<T>();
             for (int i = 0; i < lanes_of_buffer; i++) {
                 if constexpr (std::is_integral_v<T>) lane[i] = std::uniform_int_distribution<T>(T(lo), T(hi))(random);
-                else if (set == huge)
-                    lane[i] = std::exp2(std::uniform_real_distribution<T>(30, std::numeric_limits<T>::max_exponent)(random));
+                else if (set.by_exponent)
+                    lane[i] =
+                        (T)std::exp2(std::uniform_real_distribution<double>(std::log2(lo), std::log2(hi))(random));
                 else lane[i] = (T)std::uniform_real_distribution<double>(lo, hi)(random);
             }
         });
@@ -59,7 +82,7 @@ void fill(buffer& b, const kernel_row& row, int width, lane_set set, unsigned se
 }
 
 // The largest error of the first result over many lanes of a set, in units of the last place of the true value.
-double largest_error(const kernel_row& row, const pass& run, const family_peers& peers, lane_set set) {
+double largest_error(const kernel_row& row, const pass& run, const family_peers& peers, const lane_set& set) {
     if (!peers.truth) return -1;
     auto b = std::make_unique<buffer>();
     std::vector<long double> truth(lanes_of_buffer);
@@ -83,7 +106,7 @@ double largest_error(const kernel_row& row, const pass& run, const family_peers&
 }
 
 // A call in the wrong form would be measured as gladly as a right one: all widths must give the same lanes.
-void check_widths(const kernel_row& row, const std::vector<pass>& runs, lane_set set) {
+void check_widths(const kernel_row& row, const std::vector<pass>& runs, const lane_set& set) {
     auto first = std::make_unique<buffer>(), b = std::make_unique<buffer>();
     const bool has_second = row.has_out() || row.results() > 1;
     for (size_t w = 0; w < runs.size(); w++) {
@@ -105,7 +128,8 @@ void check_widths(const kernel_row& row, const std::vector<pass>& runs, lane_set
 
 buffer lanes; // of the benchmark that runs
 
-void register_benchmark(const std::string& name, const kernel_row& row, int width, lane_set set, const pass& run) {
+void register_benchmark(const std::string& name, const kernel_row& row, int width, const lane_set& set,
+                        const pass& run) {
     benchmark::RegisterBenchmark(name.c_str(), [=, &row](benchmark::State& state) {
         fill(lanes, row, width, set);
         run(lanes); // the results' pages and the caches
@@ -153,18 +177,18 @@ public:
         std::set<std::string> picked;
         for (const entry& e : all)
             for (lane_set set : lane_sets_of(*e.row)) {
-                const std::string name = e.name + '/' + lane_set_names[set];
+                const std::string name = e.name + '/' + set.name;
                 if (std::regex_search(name, regex, std::regex_constants::match_continuous) != inverted)
                     picked.insert(name);
             }
         for (const table_row& r : rows)
             for (const lane_set set : {r.set, special})
-                if (picked.contains(r.ours + '/' + lane_set_names[set]))
+                if (picked.contains(r.ours + '/' + set.name))
                     for (const auto& peer : {r.sleef, r.scalar})
-                        picked.insert(peer + '/' + lane_set_names[set]);
+                        picked.insert(peer + '/' + set.name);
         for (const entry& e : all)
             for (lane_set set : lane_sets_of(*e.row)) {
-                const std::string name = e.name + '/' + lane_set_names[set];
+                const std::string name = e.name + '/' + set.name;
                 if (!picked.contains(name)) continue;
                 register_benchmark(name, *e.row, e.width, set, e.run);
                 benchmarks++;
@@ -218,16 +242,17 @@ private:
             for (int width : widths)
                 rows.push_back({family, names, width, error, sleef ? sleef->name : "", ordinary,
                                 ours + std::to_string(width), add_vector_peer(row, sleef, width), scalar});
-        // Huge arguments take as many steps in every tier: all are held against the most accurate function.
-        if (!has_huge_arguments(row)) return;
-        const double error_of_huge = largest_error(row, runs.back(), peers, huge);
+        // Of further ranges tiers show no difference: all are held against the most accurate function.
         const peer* sleef = peers.accurate ? &*peers.accurate : nullptr;
         std::string names;
         for (const auto& [unused, some] : tiers_beside)
             names += (names.empty() ? "" : " = ") + some;
-        for (int width : widths)
-            rows.push_back({family, names + ", huge", width, error_of_huge, sleef ? sleef->name : "", huge,
-                            ours + std::to_string(width), add_vector_peer(row, sleef, width), scalar});
+        for (const auto& range : further_ranges_of(row)) {
+            const double error_there = largest_error(row, runs.back(), peers, range);
+            for (int width : widths)
+                rows.push_back({family, names + ", " + range.name, width, error_there, sleef ? sleef->name : "",
+                                range, ours + std::to_string(width), add_vector_peer(row, sleef, width), scalar});
+        }
     }
 
     // The peer's benchmark beside vectors of that width; empty if there is none.
@@ -250,10 +275,18 @@ private:
     }
 };
 
+// By family and model number, as documents tell it: nothing of the machine's name.
 std::string processor() {
     std::ifstream info("/proc/cpuinfo");
-    for (std::string line; std::getline(info, line);)
-        if (line.starts_with("model name")) return line.substr(line.find(':') + 2);
+    std::string maker, family, model;
+    for (std::string line; std::getline(info, line);) {
+        const std::string value = line.substr(std::min(line.size(), line.find(':') + 2));
+        if (line.starts_with("vendor_id")) maker = value;
+        else if (line.starts_with("cpu family")) family = value;
+        else if (line.starts_with("model\t")) model = value;
+        if (!maker.empty() && !family.empty() && !model.empty())
+            return maker + " family " + family + " model " + model;
+    }
     return "an unknown processor";
 }
 
@@ -263,7 +296,8 @@ void print_usage() {
          "name,\n"
          "with the f of the float member: orvane-bench 'exp.*' fmodf. Single benchmarks are named "
          "FAMILY/TIER/WIDTH/SET;\n"
-         "--benchmark_filter picks among them by the beginnings of names, and the peers that they stand beside with them.\n");
+         "--json=FILE writes the figures for programs as well. --benchmark_filter picks among them by the beginnings "
+         "of names, and the peers that they stand beside with them.\n");
     benchmark::PrintDefaultHelp();
 }
 
@@ -283,6 +317,13 @@ int main(int argc, char** argv) {
         const std::string_view option = "--benchmark_filter=";
         if (!std::string_view(a).starts_with(option)) return false;
         filter = a + option.size();
+        return true;
+    });
+    std::string json;
+    std::erase_if(arguments, [&](const char* a) {
+        const std::string_view option = "--json=";
+        if (!std::string_view(a).starts_with(option)) return false;
+        json = a + option.size();
         return true;
     });
     int count = (int)arguments.size();
@@ -315,8 +356,9 @@ int main(int argc, char** argv) {
                 if (std::regex_match(pattern, parts, std::regex("(.*?)(1|2|3|4|8|16)(_(?:rm|native|half))?")) &&
                     std::find(families.begin(), families.end(), parts[1]) != families.end()) {
                     const std::string tier = parts[3].matched ? parts[3].str().substr(1) : "default";
-                    std::cerr << "orvane-bench: no family is named " << pattern << ": families carry neither width nor tier; say "
-                              << parts[1] << " --benchmark_filter=" << parts[1] << '/' << tier << '/' << parts[2] << '\n';
+                    std::cerr << "orvane-bench: no family is named " << pattern
+                              << ": families carry neither width nor tier; say " << parts[1]
+                              << " --benchmark_filter=" << parts[1] << '/' << tier << '/' << parts[2] << '\n';
                     return 1;
                 }
                 std::cerr << "orvane-bench: no family that is built is named " << pattern << "; built are";
@@ -347,12 +389,21 @@ int main(int argc, char** argv) {
         return 1;
     }
     benchmark::Shutdown();
-    printf("On %s: nanoseconds a lane, medians; a ratio is the peer's time over ours. The vector peer is SLEEF's function\n"
-           "(u10: within 1.0 ulp) or, marked C, what the compiler makes of scalar code; it runs 128 bits a call beside "
-           "vectors that\nfit them and else 256. libm (for conversions an inlined loop) runs one lane; ulp is our largest "
-           "error over 65536 lanes.\n\n",
-           processor().c_str());
+    printf(
+        "On %s: nanoseconds a lane, medians; a ratio is the peer's time over ours. The vector peer is SLEEF's "
+        "function\n"
+        "(u10: within 1.0 ulp) or, marked C, what the compiler makes of scalar code; it runs 128 bits a call beside "
+        "vectors that\nfit them and else 256. libm (for conversions an inlined loop) runs one lane; ulp is our "
+        "largest "
+        "error over 65536 lanes.\n\n",
+        processor().c_str());
     print_table(plan.rows, reporter);
+    if (!json.empty()) try {
+            write_whole(json, as_json(plan.rows, reporter, processor()));
+        } catch (const std::exception& e) {
+            std::cerr << "orvane-bench: " << e.what() << '\n';
+            return 1;
+        }
     if (fflush(stdout)) {
         std::cerr << "orvane-bench: cannot write standard output: " << strerror(errno) << '\n';
         return 1;

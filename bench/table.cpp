@@ -39,10 +39,10 @@ void print_table(const std::vector<table_row>& rows, const gathering_reporter& m
         std::vector<std::string> line = {r.family, r.tiers, std::to_string(r.width),
                                          text(r.error < 100 ? "%.2f" : "%.3g", r.error)};
         bool any = false;
-        for (const lane_set set : {r.set, special}) {
+        for (const lane_set& set : {r.set, special}) {
             auto of = [&](const std::string& name) {
                 const bool has_set = r.set == ordinary || set == r.set;
-                return has_set ? measured.nanoseconds(name + '/' + lane_set_names[set]) : -1;
+                return has_set ? measured.nanoseconds(name + '/' + set.name) : -1;
             };
             const double ours = of(r.ours), sleef = of(r.sleef), scalar = of(r.scalar);
             any |= ours >= 0; // not picked by a filter otherwise
@@ -88,12 +88,12 @@ std::string as_json(const std::vector<table_row>& rows, const gathering_reporter
     for (const table_row& r : rows)
         for (const lane_set set : {r.set, special}) {
             if (r.set != ordinary && set != r.set) continue;
-            auto of = [&](const std::string& name) { return measured.nanoseconds(name + '/' + lane_set_names[set]); };
+            auto of = [&](const std::string& name) { return measured.nanoseconds(name + '/' + set.name); };
             auto rounded = [](double ns) { return std::round(ns * 1000) / 1000; };
             if (of(r.ours) < 0) continue;
             json row{{"family", r.family},
                      {"tiers", tiers_of(r)},
-                     {"set", lane_set_names[set]},
+                     {"set", set.name},
                      {"width", r.width},
                      {"ns", rounded(of(r.ours))}};
             if (!r.sleef.empty()) {

@@ -9,17 +9,23 @@
 
 namespace orvane::bench {
 
-// Names of benchmarks: FAMILY/TIER/WIDTH/SET for an export, FAMILY/PEER/SET for a peer. Huge arguments are those that
-// the circular functions reduce by many bits of 1 / pi.
-enum lane_set { ordinary, special, huge };
-inline const char* const lane_set_names[] = {"ordinary", "special", "huge"};
+// Names of benchmarks: FAMILY/TIER/WIDTH/SET for an export, FAMILY/PEER/SET for a peer. Ordinary lanes are those of
+// the list of exports, special ones have one lane in 64 that goes to a slow path; further sets are ranges of their
+// own, such as the huge arguments that circular functions reduce by many bits of 1 / pi.
+struct lane_set {
+    std::string name;
+    double lo = 0, hi = 0; // both 0: the range in the list
+    bool by_exponent = false;
+    bool operator==(const lane_set& o) const { return name == o.name; }
+};
+inline const lane_set ordinary{"ordinary"}, special{"special"};
 
 struct table_row {
     std::string family, tiers;
     int width;
     double error; // in ulp; negative: not measured
     std::string sleef_name;
-    lane_set set; // ordinary, with special lanes beside them, or huge
+    lane_set set; // ordinary, with special lanes beside them, or a further range
     // Names of benchmarks without the set; empty where there is no such peer.
     std::string ours, sleef, scalar;
 };

@@ -20,6 +20,9 @@
 //     template <int W> static auto large_path(block, x..., answer)    an inline path for the lanes that the formula
 //                                                                      left as special; gives all results, and as
 //                                                                      special what needs the slow path
+//     template <int W> static auto beyond(block, x...)                beside large_path: where a vector has lanes that
+//                                                                      this marks, large_path(block, x...) takes the
+//                                                                      formula's place, which then sees none of them
 //     template <int W> static auto reduce(block, x...)                a step before the formula that gives what
 //     template <int W> static auto large_reduce(block, x..., reduced) vector_path(block, x..., reduced) takes; where
 //                                                                      reduced.special has lanes, large_reduce gives
@@ -97,6 +100,7 @@ template <class A> ORVANE_INLINE auto results_of(const A& a) {
     };
 ORVANE_HAS_MEMBER(settle)
 ORVANE_HAS_MEMBER(large_path)
+ORVANE_HAS_MEMBER(beyond)
 ORVANE_HAS_MEMBER(reduce)
 #undef ORVANE_HAS_MEMBER
 
@@ -104,6 +108,9 @@ template <class A>
 concept has_special = requires(A a) {
     a.special.v;
 };
+
+// The bits of the lanes of a chunk that count.
+template <int C> inline constexpr unsigned live_lanes = C < 4 ? (1u << C) - 1 : ~0u;
 
 // The answers of N chunks of C lanes, one finished before the next begins. Special lanes are bits in an integer
 // register from then on, so that no vector register is kept for them; the ordinary path ORs these and never packs a
@@ -135,7 +142,7 @@ template <class A, int C, size_t N> struct answers {
         each<N>([&](auto i) ORVANE_LAMBDA { m |= (special[i] & live) << (C * i); });
         return m;
     }
-    static constexpr unsigned live = C < 4 ? (1u << C) - 1 : ~0u;
+    static constexpr unsigned live = live_lanes<C>;
     // A chunk's answer for the steps behind the branch, its special lanes made from their bits where these alone were
     // kept.
     ORVANE_INLINE A again(auto i) const {
@@ -155,6 +162,7 @@ template <class A, int C, size_t N> struct answers {
 ORVANE_STEP(formula, vector_path)
 ORVANE_STEP(settle, settle)
 ORVANE_STEP(large_path, large_path)
+ORVANE_STEP(beyond, beyond)
 ORVANE_STEP(reduce, reduce)
 ORVANE_STEP(large_reduce, large_reduce)
 #undef ORVANE_STEP
@@ -225,11 +233,24 @@ template <class K, int W> struct admission {
         return all;
     }
 
+    // Whether some chunk has arguments beyond the formula.
+    ORVANE_INLINE bool any_beyond() {
+        unsigned some = 0;
+        each<N>([&](auto i) ORVANE_LAMBDA { some |= run<at_first, beyond>(i).signs(); });
+        return __builtin_expect((some & detail::live_lanes<C>) != 0, 0);
+    }
+
     // What lives on behind the branch gets new names: a large path needs all registers, and a value that it keeps in
     // memory would be there on the ordinary path too.
+    ORVANE_INLINE void rename() {
+        if constexpr (!L::in_memory)
+            each<N>([&](auto i) ORVANE_LAMBDA {
+                detail::applied([](auto&... b) ORVANE_LAMBDA { ((b = finished(b)), ...); }, x[i]);
+            });
+    }
     template <class Answers> ORVANE_INLINE void rename(Answers& a) {
+        rename();
         each<N>([&](auto i) ORVANE_LAMBDA {
-            if constexpr (!L::in_memory) detail::applied([](auto&... b) ORVANE_LAMBDA { ((b = finished(b)), ...); }, x[i]);
             a.chunk[i].first = finished(a.chunk[i].first);
             if constexpr (requires { a.chunk[i].second; }) a.chunk[i].second = finished(a.chunk[i].second);
         });
@@ -289,7 +310,16 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
     admission<K, W> in(i0, i1, v0, v1, v2, v3);
 
     if constexpr (calls_for_all_lanes<K>) return leave_all_to_slow_path(in, wrapper);
-    else if constexpr (detail::has_large_path<K>) {
+    else if constexpr (detail::has_beyond<K>) {
+        if (in.any_beyond()) {
+            in.rename();
+            auto large =
+                in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<behind_branch, large_path>(i); });
+            return conclude(in, large, wrapper);
+        }
+        auto a = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i); });
+        return conclude(in, a, wrapper);
+    } else if constexpr (detail::has_large_path<K>) {
         // Where it runs, the large path's answers take over, with its own special lanes.
         auto a = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i); });
         if (!a.any_special()) return leave(in, a);

@@ -1,10 +1,13 @@
-// The slow paths of lgamma and lgammar, which run on every lane, in extended precision.
+// The slow paths of lgamma and lgammar, in extended precision.
 #include "special/lgamma_rare.h"
 #include "log/log_tables.h"
+#include "special/lgamma_pieces.h"
 
 #include <initializer_list>
 
 namespace orvane {
+
+using namespace lgamma_pieces;
 
 namespace {
 
@@ -96,94 +99,8 @@ extended with_exponent_0(extended_fields f) {
     return ((e * ll_ln2_hi + __libm_logl_table_256[i].hi) + r0) + T;
 }
 
-// An extended value as the exact sum of two doubles, which loads in a quarter of the time that its 80 bits take: the
-// products below wait for their coefficients.
-struct stored_extended {
-    double hi, lo;
-    consteval stored_extended(extended v = 0) : hi(double(v)), lo(double(v - hi)) {}
-    operator extended() const { return extended(hi) + lo; }
-};
-
-// A product of monic quadratics in u without their scale C[22]: (constant, linear) coefficients, v = u^2.
-[[gnu::always_inline]] inline extended product_of_quadratics(const stored_extended* C, extended u, extended v) {
-    extended G = (C[1] * u + v) + C[0];
-#pragma GCC unroll 10
-    for (int i = 1; i <= 10; i++)
-        G = G * ((C[2 * i + 1] * u + v) + C[2 * i]);
-    return G;
-}
-
-// Each binade [2^(j+2), 2^(j+3)) in u from 0 to 1.
-constexpr double _A[] = {0x1p2, 0x1p3, 0x1p4, 0x1p5, 0x1p6, 0x1p7, 0x1p8};
-constexpr double _B[] = {0x1p-2, 0x1p-3, 0x1p-4, 0x1p-5, 0x1p-6, 0x1p-7, 0x1p-8};
-constexpr stored_extended _C5[7][24] = {
-#include "special/tables/lgamma_C5_row_0.inc"
-#include "special/tables/lgamma_C5_rows_1_6.inc"
-};
-extended binade(int j, extended x) {
-    const extended u = (x - _A[j]) * _B[j];
-    return product_of_quadratics(_C5[j], u, u * u) * _C5[j][22];
-}
-
-constexpr stored_extended ld_f24[] = {
-    0xD888B6CF34159B54p-61L, -0xF888E8D7892718A2p-61L, 0xBCB79C8329FD9F44p-64L,  0xF62F273BA12A4639p-65L,
-    0xCB8896FAD69C455Dp-62L, -0xA93AC50A37EC8D38p-66L, 0xE510A424639EBF5Ep-61L,  -0xB4CC43D2C161E057p-63L,
-    0xC65ED41B097486B3p-60L, -0xC6AC672F0C1392C7p-62L, 0x943AF77763601441p-59L,  -0xA292B9AE3276942Ep-61L,
-    0xC8A93F9ECB06E891p-59L, -0xE554E4CCCA6C7B7Bp-61L, 0xFC2E5A4AD33DE19Dp-59L,  -0x92F0F55FBC87F860p-60L,
-    0x9526B75B38670119p-58L, -0xAF60D0112843F6C1p-60L, 0xA7675879D68B587Ep-58L,  -0xC5956500FA3D92E7p-60L,
-    0xB31DFA672D7FB8C0p-58L, -0xD3B22CCBD8587750p-60L, -0x83A27775D86F9A81p-103L};
-extended from_2_25_to_4(extended x) { return (x + -2) * (product_of_quadratics(ld_f24, x, x * x) * ld_f24[22]); }
-
-// Odd and even powers of u = x + shift, the first six coefficients of each in double.
-struct series {
-    extended shift;
-    double p[6];
-    extended pe[3];
-    double q[6];
-    extended qe[2];
-    extended odd(extended u, extended v) const { return u * horner_from(horner(p, v), pe, v); }
-    extended even(extended v) const { return v * horner_from(horner(q, v), qe, v); }
-};
-constexpr extended ld_c146 = -0xF8CDCDE61C520E0Fp-67L;
-constexpr series ld_s200 = {-2,
-                            {f64(0xBEA01D7AFA5D8F52), f64(0xBEC112CD07CFC31A), f64(0xBEE3CBEDB4C918AA),
-                             f64(0xBF078DE5618D8C9F), f64(0xBF2D3FD4C7F68563), f64(0xBF538AC5C2BF540D)},
-                            {-0xF2027E10C7B051ECp-71L, -0x89F000D2ABB03401p-67L, 0xD8773039049E70B6p-65L},
-                            {f64(0x3EB1010986E60253), f64(0x3ED2528A428D30E1), f64(0x3EF580F6D9D0F72D),
-                             f64(0x3F1A127AD811A53D), f64(0x3F40B36AF884AE9A), f64(0x3F67ADD6EADB5718)},
-                            {0xA8991563EC243383p-69L, 0xA51A6625307D3230p-65L}};
-constexpr series ld_s146 = {-0xBB16C31AB5F1FC00p-63L,
-                            {f64(0xBF12680486396DE6), f64(0xBF2E098A8A2332A8), f64(0xBF422633DA3A1496),
-                             f64(0xBF56F9849D3BC6CC), f64(0xBF6E2F1A1F804B5D), f64(0xBF851F9F9516A98F)},
-                            {-0x864D46FA895985C1p-68L, -0x97213C6E35E12043p-66L, 0x8A8A42A401D979B7p-119L},
-                            {f64(0x3F23C51FC332CD9D), f64(0x3F370E61B73B205C), f64(0x3F4CC70680768857),
-                             f64(0x3F6283126F58D7F4), f64(0x3F78FCE02A032428), f64(0x3F9266E797A1433F)},
-                            {0x845A14A6A81B0638p-67L, 0xF7B95E4771C55C99p-65L}};
-constexpr series ld_s100 = {-1,
-                            {f64(0xBF9A04F7E40C8498), f64(0xBFB10C251723B123), f64(0xBFB3B63609CA0CBD),
-                             f64(0xBFB748A3CFCE4717), f64(0xBFBC806766F48C41), f64(0xBFC2703A1D85497E)},
-                            {-0xD45CE0BD54BE3D67p-66L, -0xCD26AADF559676D0p-65L, -0x93C467E37DB0C7A7p-64L},
-                            {f64(0x3FAB79D8D9380F03), f64(0x3FB2669DAD69A12D), f64(0x3FB5564EA1675539),
-                             f64(0x3FB9A01DEE29966A), f64(0x3FC010B36CDA773A), f64(0x3FC5B40CB0FD353C)},
-                            {0x8A8991563ECBBA5Dp-65L, 0xD28D3312983E9844p-64L}};
-extended at(const series& s, extended x) {
-    const extended u = x + s.shift, v = u * u;
-    return s.odd(u, v) + s.even(v);
-}
-extended around_the_minimum(extended x) {
-    const extended u = x + ld_s146.shift, v = u * u;
-    return (ld_s146.even(v) + ld_c146) + ld_s146.odd(u, v);
-}
-
 // log gamma(y) for y from 0.875 to 512.
-[[gnu::noinline]] extended own_lgamma_pos(extended y) {
-    const double rounded = y;
-    if (rounded >= 4) return binade(int(bits(rounded) >> 52) - 0x401, y);
-    if (rounded >= 2.25) return from_2_25_to_4(y);
-    if (rounded >= 1.75) return at(ld_s200, y);
-    if (rounded >= 1.25) return around_the_minimum(y);
-    return at(ld_s100, y);
-}
+[[gnu::noinline]] extended own_lgamma_pos(extended y) { return log_gamma(double(y), y); }
 
 // The zeros of log|gamma| in (-3 - k, -2 - k), the left and the right one of each interval.
 constexpr root_window _LRIB[13] = {

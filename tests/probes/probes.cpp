@@ -10,7 +10,7 @@ namespace orvane {
 // Lanes beyond this are special: the slow path answers them, and no vector path gives what it gives.
 template <class T> constexpr T limit = T(1000);
 
-template <int W, class T> ORVANE_INLINE auto beyond(lanes<T, W> x) {
+template <int W, class T> ORVANE_INLINE auto past_limit(lanes<T, W> x) {
     return not_less_equal(x & as<T>(lanes<uint_of<T>, W>(~uint_of<T>(0) >> 1)), lanes<T, W>(limit<T>));
 }
 template <int W, class T> ORVANE_INLINE auto plus(lanes<T, W> x, T y) { return x + lanes<T, W>(y); }
@@ -28,7 +28,7 @@ template <class T> struct probe_out_settled : kernel<pointer_out<T>> {
 };
 template <class T> struct probe_pair : kernel<pair_result<T>, no_block, probe_rare<T>::one_to_two> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x) {
-        return answer{plus(x, T(1)), plus(x, T(2)), beyond(x)};
+        return answer{plus(x, T(1)), plus(x, T(2)), past_limit(x)};
     }
 };
 template <class T> struct probe_out : probe_pair<T> { using signature = pointer_out<T>; };
@@ -38,35 +38,35 @@ template <int W, class T> ORVANE_INLINE auto whole(lanes<T, W> x) { return trunc
 
 template <class T> struct probe_to_integer : kernel<to_integer<T>, no_block, probe_rare<T>::to_integer> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x) {
-        return answer{whole(x), beyond(x)};
+        return answer{whole(x), past_limit(x)};
     }
 };
 template <class T> struct probe_integer_out : kernel<pointer_out<T, int32_t>, no_block, probe_rare<T>::integer_out> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x) {
-        return answer{plus(x, T(1)), whole(x), beyond(x)};
+        return answer{plus(x, T(1)), whole(x), past_limit(x)};
     }
 };
 template <class T> struct probe_with_integer : kernel<with_integer<T>, no_block, probe_rare<T>::with_integer> {
     static constexpr double spare = 1.0;
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<int32_t, W> n) {
-        return answer{x + convert<T>(n), beyond(x)};
+        return answer{x + convert<T>(n), past_limit(x)};
     }
 };
 
 // Two and three arguments; two with an out-lane behind a pointer (four arrays).
 template <class T> struct probe_two : kernel<two_arguments<T>, no_block, probe_rare<T>::two> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<T, W> y) {
-        return answer{x - y, beyond(x) | beyond(y)};
+        return answer{x - y, past_limit(x) | past_limit(y)};
     }
 };
 template <class T> struct probe_two_out : kernel<two_pointer_out<T>, no_block, probe_rare<T>::two_out> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<T, W> y) {
-        return answer{x - y, whole(y), beyond(x) | beyond(y)};
+        return answer{x - y, whole(y), past_limit(x) | past_limit(y)};
     }
 };
 template <class T> struct probe_three : kernel<three_arguments<T>, no_block, probe_rare<T>::three> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x, lanes<T, W> y, lanes<T, W> z) {
-        return answer{fma(x, y, z), beyond(x) | beyond(y) | beyond(z)};
+        return answer{fma(x, y, z), past_limit(x) | past_limit(y) | past_limit(z)};
     }
 };
 
@@ -107,7 +107,7 @@ template <int W, class T> ORVANE_INLINE auto not_finite(lanes<T, W> x) {
 }
 template <class T> struct probe_large_after : kernel<one_argument<T>, no_block, probe_rare<T>::one> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<T, W> x) {
-        return answer{plus(x, T(1)), beyond(x)};
+        return answer{plus(x, T(1)), past_limit(x)};
     }
     template <int W> static ORVANE_INLINE auto large_path(const auto&, lanes<T, W> x, auto ordinary) {
         return answer{select(ordinary.special, plus(x, T(-64)), ordinary.first), not_finite(x)};
@@ -115,7 +115,7 @@ template <class T> struct probe_large_after : kernel<one_argument<T>, no_block, 
 };
 template <class T> struct probe_large_before : kernel<one_argument<T>, no_block, probe_rare<T>::one> {
     template <int W> static ORVANE_INLINE auto reduce(const auto&, lanes<T, W> x) {
-        return answer{plus(x, T(1)), beyond(x)};
+        return answer{plus(x, T(1)), past_limit(x)};
     }
     template <int W> static ORVANE_INLINE auto large_reduce(const auto&, lanes<T, W> x, auto reduced) {
         return answer{select(reduced.special, plus(x, T(-64)), reduced.first), reduced.special};

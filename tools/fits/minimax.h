@@ -7,6 +7,7 @@
 
 namespace orvane::tables {
 inline bool operator<(const real& a, const real& b) { return mpfr_less_p(a.get(), b.get()); }
+inline bool operator==(const real& a, const real& b) { return mpfr_equal_p(a.get(), b.get()); }
 inline real operator-(const real& a) { return real(0) - a; }
 } // namespace orvane::tables
 

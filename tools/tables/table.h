@@ -14,6 +14,7 @@ class real {
 public:
     real() { mpfr_init2(v, precision); }
     real(double x) : real() { mpfr_set_d(v, x, MPFR_RNDN); }
+    real(long double x) : real() { mpfr_set_ld(v, x, MPFR_RNDN); }
     real(int x) : real() { mpfr_set_si(v, x, MPFR_RNDN); }
     real(const real& o) : real() { mpfr_set(v, o.v, MPFR_RNDN); }
     real& operator=(const real& o) {

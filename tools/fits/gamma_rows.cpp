@@ -1,0 +1,477 @@
+// The rows of the gamma functions' vector paths: polynomials through the Chebyshev points of their cells. They are
+// fitted to the slow path's own polynomials and not to the true functions, so that the distance between the two
+// paths, which the rounding test allows for, is this fit's error and rounding errors alone.
+#include "gamma_rows.h"
+#include "rounding_bounds.h"
+#include "special/lgamma_pieces.h"
+#include "special/lgammaf_pieces.h"
+#include "special/tgamma_pieces.h"
+
+#include <cmath>
+#include <cstdio>
+#include <stdexcept>
+
+namespace orvane::fits {
+
+namespace {
+
+using tables::writer;
+using function = std::function<real(const real&)>;
+
+// The polynomial in x - centre that agrees with f at the Chebyshev points of [lo, hi]: Newton's divided differences,
+// multiplied out.
+polynomial interpolated(const function& f, const real& lo, const real& hi, const real& centre, int degree) {
+    const int n = degree + 1;
+    std::vector<real> u(n), c(n);
+    for (int i = 0; i < n; i++) {
+        u[i] = (lo + hi) / 2 - centre + (hi - lo) / 2 * tables::cos(tables::pi() * (2 * i + 1) / (2 * n));
+        c[i] = f(centre + u[i]);
+    }
+    for (int k = 1; k < n; k++)
+        for (int i = n - 1; i >= k; i--)
+            c[i] = (c[i] - c[i - 1]) / (u[i] - u[i - k]);
+    polynomial p = {c[n - 1]};
+    for (int i = n - 2; i >= 0; i--) { // p (x - u_i) + c_i
+        p.push_back(p.back());
+        for (size_t k = p.size() - 2; k > 0; k--)
+            p[k] = p[k - 1] - u[i] * p[k];
+        p[0] = c[i] - u[i] * p[0];
+    }
+    return p;
+}
+
+std::string heading(const std::string& what, double error) {
+    char s[40];
+    snprintf(s, sizeof s, "error 2^%.1f\n", error);
+    return "// " + what + s;
+}
+
+// A file of rows of eight coefficients in double, from the constant term.
+struct rows_of_eight {
+    std::string text;
+    real worst = 0;
+
+    // f on [lo, hi] in powers of x - lo. With an exact constant term the rest is fitted to (f(x) - f(lo)) / (x - lo).
+    void add(const function& f, const real& lo, const real& hi, bool exact_at_lo, bool relative) {
+        polynomial p;
+        if (exact_at_lo) {
+            const real f0 = f(lo);
+            p = interpolated([&](const real& x) { return (f(x) - f0) / (x - lo); }, lo, hi, lo, 6);
+            p.insert(p.begin(), f0);
+        } else p = interpolated(f, lo, hi, lo, 7);
+        writer w;
+        for (auto& c : p)
+            w.f64(tables::rounded_f64(c)), c = tables::rounded_f64(c);
+        w.end_row();
+        text += w.text;
+        for (int k = 1; k < 64; k++) {
+            const real x = lo + (hi - lo) * k / 64, truth = f(x), off = magnitude(value(p, x - lo) - truth);
+            const real error = relative ? off / magnitude(truth) : off;
+            if (worst < error) worst = error;
+        }
+    }
+    file under(const char* path, const std::string& what) const {
+        return {path, heading(what, log2_of(worst)) + text};
+    }
+};
+
+real power_of_two(int e) { return tables::exp2(real(e)); }
+
+// log gamma of the slow path in float on 16 cells a binade from 2^-6 to 8192.
+file lgammaf_rows() {
+    rows_of_eight rows;
+    for (int e = -6; e < 13; e++)
+        for (int i = 0; i < 16; i++) {
+            const real cell = power_of_two(e) / 16, lo = power_of_two(e) + cell * i;
+            const double middle = tables::rounded_f64(lo + cell / 2);
+            auto f = [&](const real& x) {
+                using namespace lgammaf_pieces;
+                if (middle < 1) return log_gamma(middle + 1, x + 1) - tables::log(x);
+                if (middle > 2 && middle < 4) return log_gamma_from_2_to_4(x);
+                return log_gamma(middle, x);
+            };
+            rows.add(f, lo, lo + cell, i == 0 && (e == 0 || e == 1), true); // 1 and 2 are zeros
+        }
+    return rows.under("special/tables/lgammaf_cells.inc",
+                      "the slow path's log gamma in 16 cells a binade, relative: ");
+}
+
+// ln on 16 cells of [1, 2).
+file ln_rows() {
+    rows_of_eight rows;
+    for (int i = 0; i < 16; i++)
+        rows.add([](const real& x) { return tables::log(x); }, real(1) + real(i) / 16, real(1) + real(i + 1) / 16,
+                 i == 0, false);
+    return rows.under("special/tables/lgammaf_ln.inc", "ln in 16 cells of [1, 2), absolute: ");
+}
+
+// gamma of the slow path in T at x, in the piece or the row that `where` lies in.
+template <class T> real slow_gamma(double where, const real& x) {
+    using constants = tgamma_constants<T>;
+    if (where < 2) {
+        const auto& piece = gamma_piece_of<T>(where);
+        return horner_up(piece.c, x + piece.shift);
+    }
+    const int n = int(where), step = 1 << constants::shift, factors = n >= step ? n % step : n - 2;
+    real p = gamma_row_product<T>(n, x - n);
+    for (int i = 1; i <= factors; i++)
+        p = p * (x - i);
+    return p;
+}
+
+// gamma of the slow path in float on eighths of [1, 35).
+file tgammaf_rows() {
+    rows_of_eight rows;
+    for (int i = 8; i < 8 * 35; i++) {
+        const double where = (i + 0.5) / 8;
+        rows.add([&](const real& x) { return slow_gamma<float>(where, x); }, real(i) / 8, real(i + 1) / 8, false,
+                 true);
+    }
+    return rows.under("special/tables/tgammaf_eighths.inc",
+                      "the slow path's gamma on eighths of [1, 35), relative: ");
+}
+
+// ---- Rows in double: c0 to c2 as hi + lo, then the other coefficients.
+
+// A row that the slow path has two polynomials on is fitted to the true function.
+// A part of a row's range on which the slow path has one polynomial.
+struct part {
+    real lo, hi;
+    std::function<exact_polynomial(const real& centre)> slow; // the slow path's text in u = x - centre
+    // The slow path's text on an interval of x, with the error of its rounding.
+    std::function<bounded<64>(const real& lo, const real& hi)> computed;
+};
+
+struct double_row {
+    polynomial head; // c0 to c2, each the sum of two doubles
+    polynomial tail; // c3 and on, doubles
+    polynomial all() const {
+        polynomial p = head;
+        p.insert(p.end(), tail.begin(), tail.end());
+        return p;
+    }
+};
+double_row fit_double_row(const std::vector<part>& parts, const function& truth, const real& centre, int degree,
+                          bool zero_at_centre) {
+    const real lo = parts.front().lo, hi = parts.back().hi;
+    const polynomial p = parts[0].slow(centre).c;
+    auto slow = [&](const real& u) { return parts.size() == 1 ? value(p, u) : truth(centre + u); };
+    const real a = lo - centre, b = hi - centre;
+    auto through = [&](const function& f, int degree) {
+        if (!zero_at_centre) return interpolated(f, a, b, 0, degree);
+        auto q = interpolated([&](const real& u) { return f(u) / u; }, a, b, 0, degree - 1);
+        q.insert(q.begin(), 0);
+        return q;
+    };
+    double_row row;
+    for (const auto& c : through(slow, degree))
+        row.tail.push_back(tables::rounded_f64(c));
+    row.tail.erase(row.tail.begin(), row.tail.begin() + 3);
+    for (const auto& c : through([&](const real& u) { return slow(u) - value(row.tail, u) * u * u * u; }, 2)) {
+        const double hi = tables::rounded_f64(c);
+        row.head.push_back(real(hi) + tables::rounded_f64(c - hi));
+    }
+    return row;
+}
+
+// The vector path's evaluation of a row on u from lo to hi: a bound of |h + l - row(u)|. Horner's scheme in fused
+// steps down to c3; then three times h = u T + a and, in l, the rest that this rounding leaves, u times the l before,
+// and the low part of the coefficient. u T + a - h is found by two fused steps, of which a - h is exact where u T is
+// small enough, or a is 0.
+real evaluation_error(const double_row& row, const real& lo, const real& hi) {
+    const bounded<53> u(lo, hi);
+    bounded<53> T(tables::rounded_f64(row.tail.back()));
+    for (size_t k = row.tail.size() - 1; k-- > 0;)
+        T = fma(T, u, bounded<53>(tables::rounded_f64(row.tail[k])));
+    // h as an interval, and what h + l is off by.
+    bounded<53> h(T.lo, T.hi);
+    real off = T.error, low = 0;
+    for (int k = 2; k >= 0; k--) {
+        const double a = tables::rounded_f64(row.head[k]), b = tables::rounded_f64(row.head[k] - a);
+        const auto product = u.exact_product(h);
+        const auto next = product.exact_sum(bounded<53>(a));
+        const real rest = half_ulp(next.largest() + low, 53); // |u T + a - h|
+        real lost = half_ulp(rest, 53);
+        // a - h is exact where it has no more bits than the grid of the smaller one.
+        auto grid = [](const real& x) { return half_ulp(x, -1); };
+        if (a != 0 && smaller(grid(magnitude(real(a))), grid(next.least() - low)) < product.largest() + low)
+            lost = lost + half_ulp(magnitude(real(a)) + next.largest(), 53); // a - h is rounded
+        const real sum = rest + magnitude(real(b));
+        lost = lost + half_ulp(sum, 53);
+        const real carried = low * u.largest();
+        if (k < 2) lost = lost + half_ulp(sum + carried, 53);
+        low = sum + carried;
+        off = off * u.largest() + lost;
+        h = {next.lo - low, next.hi + low};
+    }
+    return off;
+}
+
+// The margin of a row relative to its value: how far the slow path can be from the row, with all rounding errors of
+// both, at most over the row.
+double margin_of(const double_row& row, const std::vector<part>& parts, const real& centre, bool zero_at_centre) {
+    real most = 0;
+    for (const auto& s : parts) {
+        const polynomial off = (s.slow(centre) - exact_polynomial(row.all())).c;
+        auto on = [&](const real& lo, const real& hi, int pieces) { // of u
+            real fit = 0;
+            for (int i = 0; i < pieces; i++) {
+                const real step = (hi - lo) / pieces, from = lo + step * i;
+                if (zero_at_centre) { // (slow - row) / u by the same bound, times u
+                    const polynomial slope(off.begin() + 1, off.end());
+                    fit = larger(fit, bound_of(slope, from, from + step) * larger(magnitude(lo), magnitude(hi)) +
+                                          magnitude(off[0]));
+                } else fit = larger(fit, bound_of(off, from, from + step));
+            }
+            const auto slow = s.computed(centre + lo, centre + hi);
+            const real error = fit + slow.error + evaluation_error(row, lo, hi);
+            if (getenv("DEB") && most < error / slow.least())
+                printf("  at %g u %g: fit 2^%.1f slow 2^%.1f eval 2^%.1f\n", tables::rounded_f64(centre),
+                       tables::rounded_f64(lo), log2_of(fit / slow.least()), log2_of(slow.error / slow.least()),
+                       log2_of(evaluation_error(row, lo, hi) / slow.least()));
+            most = larger(most, error / slow.least());
+        };
+        const real a = s.lo - centre, b = s.hi - centre;
+        if (!zero_at_centre) {
+            for (int i = 0; i < 64; i++)
+                on(a + (b - a) * i / 64, a + (b - a) * (i + 1) / 64, 1);
+            continue;
+        }
+        // Toward the zero by halves, to the neighbours of 1 and 2.
+        for (const real& end : {a, b})
+            if (real(0) < magnitude(end))
+                for (int k = 0; k < 54; k++)
+                    for (int i = 0; i < 8; i++) {
+                        const real far = end * power_of_two(-k), p = far * (16 - i) / 16, q = far * (15 - i) / 16;
+                        on(smaller(p, q), larger(p, q), 1);
+                    }
+    }
+    return std::nextafter(tables::rounded_f64(most * (real(1) + power_of_two(-20))), 1.0);
+}
+std::string text_of(const double_row& row, double last, bool with_last) {
+    writer w;
+    for (const auto& c : row.head) {
+        const double hi = tables::rounded_f64(c);
+        w.f64(hi), w.f64(tables::rounded_f64(c - hi));
+    }
+    for (const auto& c : row.tail)
+        w.f64(tables::rounded_f64(c));
+    if (with_last) w.f64(last);
+    w.end_row();
+    return w.text;
+}
+
+real true_log_gamma(const real& x) {
+    real r;
+    int sign;
+    mpfr_lgamma(r.get(), &sign, x.get(), MPFR_RNDN);
+    return r;
+}
+
+// ln(centre + u): its series, of which 80 terms leave less than 2^-300 for |u| up to an eighth of the centre.
+exact_polynomial log_series(const real& centre) {
+    polynomial c{tables::log(centre)};
+    real power = 1;
+    for (int k = 1; k < 80; k++) {
+        power = power / centre;
+        c.push_back(power / (k % 2 ? k : -k));
+    }
+    return c;
+}
+// What the slow path's logarithm adds to its last rounding: its polynomial and table are good to 2^-70.
+bounded<64> computed_log(const real& lo, const real& hi) {
+    const real a = tables::log(lo), b = tables::log(hi);
+    return {a, b, half_ulp(larger(magnitude(a), magnitude(b)), 64) + power_of_two(-70)};
+}
+
+// log gamma of the slow path around 16 grid points a binade, from 1/8 to 512; the last column is the margin.
+file lgamma_rows() {
+    using lgamma_pieces::log_gamma;
+    std::string text;
+    real worst = 0;
+    for (int k = 0; k <= 16 * 12; k++) {
+        const int e = k / 16 - 3, i = k % 16;
+        const real step = power_of_two(e) / 16, centre = power_of_two(e) + step * i;
+        std::vector<real> ends = {centre - step / (i ? 2 : 4)};
+        const real end = centre + step / 2;
+        for (double joint : {0.25, 0.75, 0.875, 1.25, 1.75, 2.25, 4.0, 8.0, 16.0, 32.0, 64.0, 128.0, 256.0})
+            if (ends.back() < joint && joint < end) ends.push_back(joint);
+        if (k == 16 * 12) ends = {centre - step / 4, centre};
+        else ends.push_back(end);
+        std::vector<part> parts;
+        for (size_t n = 0; n + 1 < ends.size(); n++) {
+            const double where = tables::rounded_f64((ends[n] + ends[n + 1]) / 2);
+            if (where < 0.875)
+                parts.push_back({ends[n], ends[n + 1],
+                                 [=](const real& c) {
+                                     return log_gamma(1 + where, exact_polynomial({c + 1, real(1)})) - log_series(c);
+                                 },
+                                 [=](const real& lo, const real& hi) {
+                                     return log_gamma(1 + where, bounded<64>(lo + 1, hi + 1)) - computed_log(lo, hi);
+                                 }});
+            else
+                parts.push_back(
+                    {ends[n], ends[n + 1],
+                     [=](const real& c) {
+                         return log_gamma(where, exact_polynomial({c, real(1)}));
+                     },
+                     [=](const real& lo, const real& hi) { return log_gamma(where, bounded<64>(lo, hi)); }});
+        }
+        const bool zero = centre == 1 || centre == 2;
+        const auto row = fit_double_row(parts, true_log_gamma, centre, 11, zero);
+        const double margin = margin_of(row, parts, centre, zero);
+        if (getenv("VERBOSE")) printf("%g margin 2^%.2f\n", tables::rounded_f64(centre), std::log2(margin));
+        worst = larger(worst, margin);
+        text += text_of(row, margin, true);
+    }
+    return {"special/tables/lgamma_grid.inc",
+            heading("the slow path's log gamma around 16 grid points a binade, the margin last, relative: ",
+                    log2_of(worst)) +
+                text};
+}
+
+// A function given by its series around any centre, on [lo, hi].
+part exact_part(const real& lo, const real& hi, exact_polynomial (*series)(const real&)) {
+    return {lo, hi, series, nullptr};
+}
+// The largest error of a row of a series, absolute.
+real fit_error(const double_row& row, const part& p, const real& centre) {
+    const polynomial off = (p.slow(centre) - exact_polynomial(row.all())).c;
+    real worst = 0;
+    for (int i = 0; i < 1024; i++)
+        worst = larger(worst, bound_of(off, p.lo - centre + (p.hi - p.lo) * i / 1024,
+                                       p.lo - centre + (p.hi - p.lo) * (i + 1) / 1024));
+    return worst;
+}
+
+// ln around sixteenths from 1 to 2.
+file lgamma_ln_rows() {
+    std::string text;
+    real worst = 0;
+    for (int i = 0; i <= 16; i++) {
+        const real centre = real(1) + real(i) / 16;
+        const auto p =
+            exact_part(i ? centre - real(1) / 32 : centre, i < 16 ? centre + real(1) / 32 : centre, log_series);
+        const auto wide = exact_part(centre - real(1) / 32, centre + real(1) / 32, log_series);
+        const auto row = fit_double_row({wide}, nullptr, centre, 12, i == 0);
+        worst = larger(worst, fit_error(row, p, centre));
+        text += text_of(row, 0, false);
+    }
+    return {"special/tables/lgamma_ln.inc", heading("ln around sixteenths, absolute: ", log2_of(worst)) + text};
+}
+// sin(pi r) / (pi r) in z = r^2.
+exact_polynomial sine_series(const real&) {
+    polynomial c{real(1)};
+    for (int k = 1; k < 40; k++)
+        c.push_back(-c.back() * tables::pi() * tables::pi() / (2 * k * (2 * k + 1)));
+    return c;
+}
+file lgamma_sine_row() {
+    const auto p = exact_part(0, real(1) / 4, sine_series);
+    auto row = fit_double_row({p}, nullptr, 0, 11, false);
+    const auto error = fit_error(row, p, 0);
+    return {"special/tables/lgamma_sine.inc",
+            heading("sin(pi r) / (pi r) in r^2, absolute: ", log2_of(error)) + text_of(row, 0, true)};
+}
+
+// gamma of the slow path on the unit from n on, in u = x - centre; in the piece of `where` below 2.
+exact_polynomial exact_gamma(int n, double where, const real& centre) {
+    if (n < 2) {
+        const auto& piece = gamma_piece_of<double>(where);
+        return horner_up(piece.c, exact_polynomial({centre + piece.shift, real(1)}));
+    }
+    exact_polynomial p = gamma_row_product<double>(n, exact_polynomial({centre - n, real(1)}));
+    for (int i = 1; i <= (n >= 16 ? n % 16 : n - 2); i++)
+        p = p * exact_polynomial({centre - i, real(1)});
+    return p;
+}
+// The slow path's rounding there, relative: the polynomial's or the product's, of its factors, and two roundings for
+// the last product or quotient.
+real gamma_rounding(int n, double where, const real& lo, const real& hi) {
+    if (n < 2) {
+        const auto& piece = gamma_piece_of<double>(where);
+        const auto P = horner_up(piece.c, bounded<64>(lo + piece.shift, hi + piece.shift, power_of_two(-64)));
+        return P.error / P.least() + power_of_two(-63);
+    }
+    const auto G = gamma_row_product<double>(n, bounded<64>(lo - n, hi - n));
+    return G.error / G.least() + power_of_two(-64) * ((n >= 16 ? n % 16 : n - 2) + 1);
+}
+
+// gamma of the slow path in double on eighths, and the margins that its rounding and theirs need.
+std::vector<file> tgamma_rows() {
+    std::string text, margins;
+    real worst_fit = 0;
+    auto unit = [&](int n) {
+        for (int i = 0; i < 8; i++) {
+            const real lo = real(n) + real(i) / 8, hi = lo + real(1) / 8, centre = n == 1 ? lo : (lo + hi) / 2;
+            const double where = tables::rounded_f64((lo + hi) / 2);
+            const part p = {lo, hi, [=](const real& c) { return exact_gamma(n, where, c); }, nullptr};
+            const auto row = fit_double_row({p}, nullptr, centre, 12, false);
+            const polynomial off = (p.slow(centre) - exact_polynomial(row.all())).c;
+            real fit = 0;
+            for (int k = 0; k < 32; k++) {
+                const real a = lo - centre + (hi - lo) * k / 32, b = a + (hi - lo) / 32;
+                const real least = magnitude(value(row.all(), (a + b) / 2)) * (1 - 1.0 / 32); // slopes are below 6
+                fit = larger(fit, (bound_of(off, a, b) + evaluation_error(row, a, b)) / least);
+            }
+            worst_fit = larger(worst_fit, fit);
+            real rounding = 0;
+            for (int k = 0; k < 32; k++)
+                rounding = larger(rounding,
+                                  gamma_rounding(n, where, lo + (hi - lo) * k / 32, lo + (hi - lo) * (k + 1) / 32));
+            const real margin = (fit + rounding + power_of_two(-75)) * (real(1) + power_of_two(-20));
+            if (getenv("VERBOSE"))
+                printf("tgamma from %g: fit 2^%.2f rounding 2^%.2f\n", tables::rounded_f64(lo), log2_of(fit),
+                       log2_of(rounding));
+            writer w;
+            w.f64(tables::rounded_f64(margin)), w.end_row();
+            margins += w.text;
+            text += text_of(row, 0, false);
+        }
+    };
+    unit(1);
+    for (int n = 8; n <= 168; n += 8)
+        unit(n);
+    unit(2);
+    // The sine: rounded as the slow path's text says, for r from 0 to 1/2; and reflection's four further roundings.
+    real sine = 0;
+    for (int i = 0; i < 256; i++) {
+        const bounded<64> r(real(i) / 512 + power_of_two(-60), real(i + 1) / 512);
+        const bounded<64> z = r * r, q = z * horner(tgamma_constants<double>::sin_c, z) + 1; // s / r, a rounding more
+        sine = larger(sine, q.error / q.least() + power_of_two(-62));
+    }
+    auto check = [&](const char* what, const real& proven, double margin) {
+        printf("tgamma, %s: proven 2^%.2f, margin 2^%.2f\n", what, log2_of(proven), std::log2(margin));
+        if (real(margin) < proven) throw std::runtime_error("tgamma: a margin is too small");
+    };
+    check("reflection", sine + power_of_two(-62) + power_of_two(-66), tgamma_reflection_margin);
+    return {
+        {"special/tables/tgamma_eighths.inc",
+         heading("the slow path's gamma on eighths, with the evaluation's rounding, relative: ", log2_of(worst_fit)) +
+             text},
+        {"special/tables/tgamma_margins.inc",
+         "// for each eighth what the slow path can be from the row, relative\n" + margins}};
+}
+exact_polynomial slow_sine(const real&) {
+    const exact_polynomial z({real(0), real(1)});
+    return exact_polynomial(1) + z * horner(tgamma_constants<double>::sin_c, z);
+}
+file tgamma_sine_row() {
+    const auto p = exact_part(0, real(1) / 4, slow_sine);
+    auto row = fit_double_row({p}, nullptr, 0, 11, false);
+    const auto error = fit_error(row, p, 0);
+    return {"special/tables/tgamma_sine.inc",
+            heading("the slow path's sin(pi r) / (pi r) in r^2, absolute: ", log2_of(error)) + text_of(row, 0, true)};
+}
+
+} // namespace
+
+std::vector<file> gamma_rows() {
+    std::vector<file> files = tgamma_rows();
+    for (auto rows :
+         {lgammaf_rows, ln_rows, tgammaf_rows, lgamma_rows, lgamma_ln_rows, lgamma_sine_row, tgamma_sine_row})
+        files.push_back(rows());
+    return files;
+}
+
+} // namespace orvane::fits

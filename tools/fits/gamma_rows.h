@@ -1,0 +1,14 @@
+// The rows of the gamma functions' vector paths, as fitted.
+#pragma once
+
+#include "minimax.h"
+
+namespace orvane::fits {
+
+struct file {
+    std::string path, text;
+};
+// The files of rows, each with the error that its fits reach.
+std::vector<file> gamma_rows();
+
+} // namespace orvane::fits
