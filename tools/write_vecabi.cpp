@@ -2,8 +2,8 @@
 //
 //     write-vecabi FOLDER
 //
-// FOLDER is the sources' root; what is written is vecabi/names.inc, vecabi/aliases.ld, include/orvane/math.h and
-// include/orvane/math.inc.
+// FOLDER is the sources' root; what is written is vecabi/names.inc, vecabi/aliases.ld, include/orvane/math.h,
+// include/orvane/math.inc and vecabi/clang/functions.inc.
 #include "vecabi_names.h"
 #include "whole_file.h"
 
@@ -156,6 +156,26 @@ std::string fortran_include() {
     return text;
 }
 
+// ---- what the clang plugin knows ----
+
+std::string plugin_rows() {
+    std::string text = "// " + std::string(written) + " FUNCTION(name, lane type, parameters, vector name, result)\n";
+    for (const auto& c : c_functions()) {
+        if (!c.pure) continue;
+        const bool is_float = c.row->in == lane_type::f32;
+        const std::string type = is_float ? "f32" : "f64";
+        const bool integer = c.row->sclass == signature_class::with_integer;
+        const std::string parameters = integer ? "vi" : c.parameters;
+        const std::string result = c.row->sclass == signature_class::to_integer ? "i32" : type;
+        auto row = [&](const std::string& name, const std::string& of) {
+            text += "FUNCTION(" + name + ", " + type + ", " + parameters + ", " + of + ", " + result + ")\n";
+        };
+        row(c.in_c ? c.name : "orvane_" + c.name, c.name);
+        if (c.family == "ldexp") row(is_float ? "scalbnf" : "scalbn", is_float ? "scalbnf" : "scalbn");
+    }
+    return text;
+}
+
 } // namespace
 
 int main(int argc, char** argv) try {
@@ -165,6 +185,7 @@ int main(int argc, char** argv) try {
     write_whole(root / "vecabi/aliases.ld", linker_lines());
     write_whole(root / "include/orvane/math.h", c_header());
     write_whole(root / "include/orvane/math.inc", fortran_include());
+    write_whole(root / "vecabi/clang/functions.inc", plugin_rows());
 } catch (const std::exception& e) {
     std::cerr << "write-vecabi: " << e.what() << "\n";
     return 1;

@@ -2,7 +2,7 @@
 # GCC on loops over every function: the names that it calls, from the object file, and the results, linked to the shared
 # library, to the archive, and preloaded.
 #     check_gcc.sh SOURCES BUILD SCRATCH
-set -euo pipefail
+set -Eeuo pipefail
 sources=$1 build=$2 scratch=$3 here=$1/tests/vecabi
 . "$here/check.sh"
 
