@@ -3,7 +3,7 @@
 //     write-vecabi FOLDER
 //
 // FOLDER is the sources' root; what is written is vecabi/names.inc, vecabi/aliases.ld, include/orvane/math.h,
-// include/orvane/math.inc and vecabi/clang/functions.inc.
+// include/orvane/math.inc, include/orvane/simd_functions.inc and vecabi/clang/functions.inc.
 #include "vecabi_names.h"
 #include "whole_file.h"
 
@@ -176,6 +176,41 @@ std::string plugin_rows() {
     return text;
 }
 
+// ---- the functions of orvane/simd.hpp ----
+
+const kernel_row& in_tier(const std::string& name, std::initializer_list<const char*> tiers) {
+    for (const char* tier : tiers)
+        if (const kernel_row* row = find_row(library_rows(), name, tier)) return *row;
+    throw std::logic_error("no default tier of " + name);
+}
+
+std::string simd_functions() {
+    std::string text = std::string("// ") + written + " Families in double and in float by tier, for simd.hpp.\n";
+    auto lines = [&](std::initializer_list<const char*> tiers) {
+        for (const auto& c : c_functions()) {
+            if (c.row->in == lane_type::f32) continue;
+            const std::string family = c.family == "lgamma_r" ? "lgammar" : c.family;
+            const kernel_row &d = in_tier(family, tiers), &f = in_tier(family + "f", tiers);
+            const bool integer_out = c.row->sclass == signature_class::pointer_out && c.row->extra == lane_type::i32;
+            const std::string shape = c.parameters == "pp" ? "both"
+                                      : integer_out        ? "integer_out"
+                                                           : std::string(to_string(c.row->sclass));
+            text += "ORVANE_SIMD_" + shape + "(" + c.family + ", " + std::string(d.name) + ", " + d.suffix() + ", " +
+                    std::string(f.name) + ", " + f.suffix() + ")\n";
+        }
+    };
+    lines({"default"});
+    auto tier = [&](const std::string& name, std::initializer_list<const char*> tiers) {
+        text += "\nnamespace " + name + " {\n";
+        lines(tiers);
+        text += "}\n";
+    };
+    tier("rm", {"rm", "default"});
+    tier("half", {"half", "rm", "default"});
+    tier("fast", {"native", "half", "rm", "default"});
+    return text;
+}
+
 } // namespace
 
 int main(int argc, char** argv) try {
@@ -185,6 +220,7 @@ int main(int argc, char** argv) try {
     write_whole(root / "vecabi/aliases.ld", linker_lines());
     write_whole(root / "include/orvane/math.h", c_header());
     write_whole(root / "include/orvane/math.inc", fortran_include());
+    write_whole(root / "include/orvane/simd_functions.inc", simd_functions());
     write_whole(root / "vecabi/clang/functions.inc", plugin_rows());
 } catch (const std::exception& e) {
     std::cerr << "write-vecabi: " << e.what() << "\n";
