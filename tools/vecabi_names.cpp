@@ -208,7 +208,7 @@ std::vector<c_function> all_functions() {
     std::vector<c_function> all;
     for (const auto& row : library_rows()) {
         const std::string base = row.base();
-        if (!row.built || row.tier != "default" || no_c_name.contains(base)) continue;
+        if (row.tier != "default" || no_c_name.contains(base)) continue;
         if (row.sclass == signature_class::integer || row.sclass == integer_pair || row.sclass == conversion)
             continue;
         const std::string f = row.in == lane_type::f32 ? "f" : "";

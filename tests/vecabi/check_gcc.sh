@@ -29,6 +29,14 @@ for form in b c d e; do
     LD_LIBRARY_PATH=$build "$scratch/gcc_$form" "$build/liborvane_l9.so"
 done
 
+# The very line of docs/compilers.md; and sine and cosine of one argument, kept apart by the flags that it names.
+cc -O3 -mavx2 -mfma -I"$sources/include" -DWITHOUT_POINTERS -ffunction-sections -c "$here/loops.c" -o "$scratch/plain.o"
+names_are "$scratch/plain.o" d "${instructions[d]}" -DWITHOUT_POINTERS
+cc -O3 -mavx2 -mfma -I"$sources/include" -fno-builtin-sin -fno-builtin-cos -fno-builtin-sinf -fno-builtin-cosf \
+    -include orvane/math.h -ffunction-sections -c "$here/joined.c" -o "$scratch/both.o"
+[ "$(calls_of "$scratch/both.o" | tr ' ' '\n' | grep _ZGV | sort | xargs)" = \
+    "_ZGVdN4v_cos _ZGVdN4v_sin _ZGVdN8v_cosf _ZGVdN8v_sinf" ]
+
 cc "$scratch/run.o" "$scratch/gcc_d.o" "$build/liborvane_vecabi.a" -lm -o "$scratch/gcc_static"
 "$scratch/gcc_static" "$build/liborvane_l9.so"
 cc -shared "$scratch/gcc_d.o" -lm -o "$scratch/libloops.so"
