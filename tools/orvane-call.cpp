@@ -433,7 +433,8 @@ int run(int argc, char** argv) {
     const call_plan plan = find_plan(name);
 
     if (library_path.empty()) {
-        library_path = fs::read_symlink("/proc/self/exe").parent_path() / "liborvane_l9.so";
+        std::error_code none;
+        library_path = fs::read_symlink("/proc/self/exe", none).parent_path() / "liborvane_l9.so";
         if (!fs::exists(library_path)) library_path = "liborvane_l9.so"; // installed: where the loader looks
     }
     if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma"))

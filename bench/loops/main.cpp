@@ -29,19 +29,19 @@ struct function {
     double lo, hi, ylo, yhi;
 };
 const std::vector<function> functions = {
-#define V "v"
-#define VV "vv"
-#define VVV "vvv"
-#define VI "vv"
-#define IV "v"
+#define V_IN_DOUBLE "_ZGVdN4v"
+#define VV_IN_DOUBLE "_ZGVdN4vv"
+#define VVV_IN_DOUBLE "_ZGVdN4vvv"
+#define VI_IN_DOUBLE "_ZGVdN4vv"
+#define IV_IN_DOUBLE "_ZGVdN8v" // as GCC counts lanes, by the result
+#define V_IN_FLOAT "_ZGVdN8v"
+#define VV_IN_FLOAT "_ZGVdN8vv"
+#define VVV_IN_FLOAT "_ZGVdN8vvv"
+#define VI_IN_FLOAT "_ZGVdN8vv"
+#define IV_IN_FLOAT "_ZGVdN8v"
 #define LOOP(kind, d, f, lo, hi, ylo, yhi)                                                                           \
-    {#d, "_ZGVdN4" kind "_" #d, true, lo, hi, ylo, yhi}, {#f, "_ZGVdN8" kind "_" #f, false, lo, hi, ylo, yhi},
+    {#d, kind##_IN_DOUBLE "_" #d, true, lo, hi, ylo, yhi}, {#f, kind##_IN_FLOAT "_" #f, false, lo, hi, ylo, yhi},
 #include "tests/vecabi/functions.def"
-#undef V
-#undef VV
-#undef VVV
-#undef VI
-#undef IV
 #undef LOOP
 };
 

@@ -7,7 +7,8 @@ for tool in debootstrap lintian dpkg-shlibdeps; do
     command -v $tool >/dev/null || { echo "this test needs $tool: apt-get install debootstrap lintian dpkg-dev" >&2; exit 1; }
 done
 ((EUID == 0)) || { echo "this test makes a root of its own with debootstrap: run it as root" >&2; exit 1; }
-rm -rf "$scratch"
+umount "$root/proc" 2>/dev/null || true
+rm -rf --one-file-system "$scratch"
 mkdir -p "$scratch"
 trap 'tail -n 20 "$scratch/log" 2>/dev/null' ERR
 
@@ -26,6 +27,7 @@ cp "${packages[@]}" "$sources/tests/package/vecabi.c" "$sources/tests/package/co
 # As a user does: the packages first, which bring what they need, then compilers.
 chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
     cd /root
+    mount -t proc proc /proc 2>/dev/null || true
     apt-get -qq update
     apt-get -qq install --yes --no-install-recommends ./*.deb
     orvane-call expf8 1 | grep -q 2.7182817
@@ -36,5 +38,6 @@ chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
     grep -q _ZGVdN8v_lgammaf remarks
     cmake -S . -B build >/dev/null && cmake --build build >/dev/null && build/use_vecabi && build/use_orvane_l9
 ' >>"$scratch/log" 2>&1
-rm -rf "$root"
+umount "$root/proc" 2>/dev/null || true
+rm -rf --one-file-system "$root"
 echo "installed and used in a bare root"
