@@ -4,7 +4,7 @@
 // <!-- begin: NAME --> and <!-- end -->; the text around it is left alone.
 //
 //     write-docs [--check] FOLDER     FOLDER: the project's root; --check: only compares, and fails on a difference
-#include "limits.h"
+#include "opencl_limits.h"
 #include "whole_file.h"
 #include "worst_cases.h"
 

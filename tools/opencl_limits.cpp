@@ -1,4 +1,4 @@
-#include "limits.h"
+#include "opencl_limits.h"
 
 #include <cmath>
 #include <map>
