@@ -30,7 +30,7 @@ chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
     mount -t proc proc /proc 2>/dev/null || true
     apt-get -qq update
     apt-get -qq install --yes --no-install-recommends ./*.deb
-    orvane-call expf8 1 | grep -q 2.7182817
+    orvane-call expf1 1 | grep -q 2.7182817
     apt-get -qq install --yes --no-install-recommends g++ pkg-config cmake make clang-16
     gcc -O3 -mavx2 -mfma vecabi.c -lorvane_vecabi -lm -o gcc-made && ./gcc-made
     clang-16 -O2 -fno-math-errno -mavx2 -mfma -Rpass=orvane -fpass-plugin=$(pkg-config --variable=clang_plugin orvane-vecabi) \

@@ -3,10 +3,10 @@
 #include <orvane/math.h>
 #include <orvane/simd.hpp>
 
-#define LOOP(name, T, f)                                                                                               \
-    extern "C" void loop_##name(T* __restrict r, const T* __restrict x) {                                              \
-        for (int i = 0; i < 256; i++)                                                                                  \
-            r[i] = f(x[i]);                                                                                            \
+#define LOOP(name, T, f)                                                                                             \
+    extern "C" void loop_##name(T* __restrict r, const T* __restrict x) {                                            \
+        for (int i = 0; i < 256; i++)                                                                                \
+            r[i] = f(x[i]);                                                                                          \
     }
 LOOP(exp, double, std::exp)
 LOOP(lgamma, double, std::lgamma)
