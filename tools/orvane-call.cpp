@@ -479,7 +479,11 @@ int run(int argc, char** argv) {
     if (name.empty()) throw failure("name an export, such as expf8_half; orvane-call --list prints all of them");
     const call_plan plan = find_plan(name);
 
-    if (library_path.empty()) library_path = fs::read_symlink("/proc/self/exe").parent_path() / "liborvane_l9.so";
+    if (library_path.empty()) {
+        std::error_code none;
+        library_path = fs::read_symlink("/proc/self/exe", none).parent_path() / "liborvane_l9.so";
+        if (!fs::exists(library_path)) library_path = "liborvane_l9.so"; // installed: where the loader looks
+    }
     if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma"))
         throw failure("this processor lacks AVX2 or FMA, which every export needs");
     const library lib(library_path);

@@ -24,11 +24,16 @@ for program in use_orvane_l9 use_orvane_l9_static; do
     [ "$("$scratch/consumer/$program")" = "1 2.71828175" ]
 done
 
+[[ "$("$scratch/consumer/use_vecabi")" == "2.718 888613"* ]]
+
 export PKG_CONFIG_PATH
 PKG_CONFIG_PATH=$(dirname "$(find "$scratch/prefix" -name orvane.pc)")
 (cd "$scratch" && cc -c -mavx2 -Wno-psabi $(pkg-config --cflags orvane) "$sources/tests/package/consumer.c")
 c++ -std=c++20 -mavx2 -Wno-psabi $(pkg-config --cflags orvane) "$sources/tests/package/wide.cpp" "$scratch/consumer.o" \
     $(pkg-config --libs orvane) -o "$scratch/by_pkg_config"
 [ "$(LD_LIBRARY_PATH=$(pkg-config --variable=libdir orvane) "$scratch/by_pkg_config")" = "1 2.71828175" ]
+cc -O3 -mavx2 -mfma $(pkg-config --cflags orvane-vecabi) "$sources/tests/package/vecabi.c" $(pkg-config --libs orvane-vecabi) -lm \
+    -o "$scratch/vecabi"
+LD_LIBRARY_PATH=$(pkg-config --variable=libdir orvane-vecabi) "$scratch/vecabi" >/dev/null
 [ -f "$scratch/prefix/include/orvane/exports.json" ]
 echo "the installed package works by find_package and by pkg-config"

@@ -1,0 +1,10 @@
+# find_package(orvane [COMPONENTS l9 vecabi]): orvane::orvane_l9, orvane::orvane_vecabi and both as _static.
+include(${CMAKE_CURRENT_LIST_DIR}/orvane-targets.cmake)
+foreach(component ${orvane_FIND_COMPONENTS})
+  if(TARGET orvane::orvane_${component})
+    set(orvane_${component}_FOUND TRUE)
+  elseif(orvane_FIND_REQUIRED_${component})
+    set(orvane_FOUND FALSE)
+    set(orvane_NOT_FOUND_MESSAGE "orvane has no component ${component}: there are l9 and vecabi")
+  endif()
+endforeach()

@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# The Debian packages: lintian's word on each, and a bare Debian in which they are installed and compiled against.
+#     check_debian.sh SOURCES BUILD SCRATCH
+set -Eeuo pipefail
+sources=$1 build=$2 scratch=$3 root=$3/root
+for tool in debootstrap lintian dpkg-shlibdeps; do
+    command -v $tool >/dev/null || { echo "this test needs $tool: apt-get install debootstrap lintian dpkg-dev" >&2; exit 1; }
+done
+((EUID == 0)) || { echo "this test makes a root of its own with debootstrap: run it as root" >&2; exit 1; }
+umount "$root/proc" 2>/dev/null || true
+rm -rf --one-file-system "$scratch"
+mkdir -p "$scratch"
+trap 'tail -n 20 "$scratch/log" 2>/dev/null' ERR
+
+(cd "$build" && cpack -G DEB -B "$scratch") >"$scratch/log" 2>&1
+packages=("$scratch"/*.deb)
+((${#packages[@]} == 3))
+for package in "${packages[@]}"; do
+    tags=$(lintian --allow-root "$package" | grep -v '^N:' || true)
+    [ -z "$tags" ] || { echo "$tags" >&2; exit 1; }
+done
+
+mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' | head -n 1)
+debootstrap --variant=minbase bookworm "$root" "$mirror" >>"$scratch/log" 2>&1
+cp "${packages[@]}" "$sources/tests/package/vecabi.c" "$sources/tests/package/consumer.c" "$sources/tests/package/wide.cpp" \
+    "$sources/tests/package/CMakeLists.txt" "$root/root"
+# As a user does: the packages first, which bring what they need, then compilers.
+chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
+    cd /root
+    mount -t proc proc /proc 2>/dev/null || true
+    apt-get -qq update
+    apt-get -qq install --yes --no-install-recommends ./*.deb
+    orvane-call expf1 1 | grep -q 2.7182817
+    apt-get -qq install --yes --no-install-recommends g++ pkg-config cmake make clang-16
+    gcc -O3 -mavx2 -mfma vecabi.c -lorvane_vecabi -lm -o gcc-made && ./gcc-made
+    clang-16 -O2 -fno-math-errno -mavx2 -mfma -Rpass=orvane -fpass-plugin=$(pkg-config --variable=clang_plugin orvane-vecabi) \
+        vecabi.c -lorvane_vecabi -lm -o clang-made 2>remarks && ./clang-made
+    grep -q _ZGVdN8v_lgammaf remarks
+    cmake -S . -B build >/dev/null && cmake --build build >/dev/null && build/use_vecabi && build/use_orvane_l9
+' >>"$scratch/log" 2>&1
+umount "$root/proc" 2>/dev/null || true
+rm -rf --one-file-system "$root"
+echo "installed and used in a bare root"
