@@ -1,0 +1,96 @@
+// Kernels through the example's JIT: every width gives the bits of width 1, whatever the number of work-items.
+#include "examples/jit/jit.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <random>
+#include <regex>
+
+namespace {
+
+constexpr size_t most = 64;
+const std::string kernels = ORVANE_LLVM_TESTS "/kernels.cl";
+
+struct arrays {
+    std::vector<float> a = std::vector<float>(most + 16), b = a, x = a;
+    std::vector<int> k = std::vector<int>(most + 16), m = k, n = k;
+    std::vector<double> d = std::vector<double>(most + 16), y = d;
+    int count = 9;
+
+    explicit arrays(unsigned seed) {
+        std::mt19937 bits(seed);
+        std::uniform_real_distribution<double> real(-2, 3);
+        for (size_t i = 0; i < a.size(); i++) {
+            a[i] = real(bits), b[i] = real(bits), d[i] = real(bits);
+            k[i] = bits(), m[i] = int(bits() % 200) - 100;
+        }
+        // Divisors that an instruction would trap on.
+        m[3] = 0, k[5] = INT32_MIN, m[5] = -1, m[11] = 0, k[12] = INT32_MIN, m[12] = -1;
+        a[7] = NAN, d[2] = INFINITY;
+    }
+    void run(jit::range_function f, size_t begin, size_t end) {
+        void* pointers[] = {a.data(), b.data(), k.data(), m.data(), d.data(), x.data(), n.data(), y.data()};
+        std::vector<void*> arguments;
+        for (void*& p : pointers)
+            arguments.push_back(&p);
+        arguments.push_back(&count);
+        f(arguments.data(), begin, end);
+    }
+};
+
+template <class T> void expect_same(const std::vector<T>& got, const std::vector<T>& want, const std::string& what) {
+    for (size_t i = 0; i < got.size(); i++)
+        ASSERT_EQ(memcmp(&got[i], &want[i], sizeof(T)), 0)
+            << what << " element " << i << ": " << got[i] << ", with width 1 " << want[i];
+}
+
+std::vector<std::string> names_in(const std::string& file) {
+    std::ifstream in(file);
+    std::vector<std::string> names;
+    const std::regex head(R"(^KERNEL\((\w+)\).*)");
+    std::smatch found;
+    for (std::string line; std::getline(in, line);)
+        if (std::regex_match(line, found, head)) names.push_back(found[1]);
+    return names;
+}
+
+// The IR of one kernel's range.
+std::string function_in(const std::string& ir, const std::string& name) {
+    const auto at = ir.find("@" + name + ".range(");
+    return at == ir.npos ? "" : ir.substr(at, ir.find("\n}\n", at) - at);
+}
+
+const jit::program& scalar() {
+    static const jit::program p(kernels, {.width = 1});
+    return p;
+}
+
+void expect_bits_of_width_one(const jit::options& o, const std::string& label) {
+    const jit::program wide(kernels, o);
+    const auto names = names_in(kernels);
+    ASSERT_GT(names.size(), 40u);
+    for (const std::string& name : names)
+        for (size_t items : {1, 7, 8, 9, 17, 64}) {
+            arrays got(unsigned(items)), want = got;
+            got.run(wide.kernel(name), 0, items);
+            want.run(scalar().kernel(name), 0, items);
+            const std::string what = name + ", " + label + ", " + std::to_string(items) + " items:";
+            expect_same(got.x, want.x, what);
+            expect_same(got.n, want.n, what);
+            expect_same(got.y, want.y, what);
+            if (testing::Test::HasFatalFailure()) break;
+        }
+}
+
+} // namespace
+
+TEST(Jit, WidthOfLlvmsChoice) { expect_bits_of_width_one({}, "width 0"); }
+TEST(Jit, Width4) { expect_bits_of_width_one({.width = 4}, "width 4"); }
+TEST(Jit, Width8) { expect_bits_of_width_one({.width = 8}, "width 8"); }
+TEST(Jit, Width16) { expect_bits_of_width_one({.width = 16}, "width 16"); }
+TEST(Jit, ExactClobbers8) { expect_bits_of_width_one({.width = 8, .exact_clobbers = true}, "width 8, exact"); }
+TEST(Jit, ExactClobbers16) { expect_bits_of_width_one({.width = 16, .exact_clobbers = true}, "width 16, exact"); }
