@@ -143,7 +143,8 @@ void add_range(Function& kernel, const options& o) {
     auto option = [&](StringRef name, Metadata* value) { return MDNode::get(c, {MDString::get(c, name), value}); };
     auto number = [&](unsigned n) { return ConstantAsMetadata::get(ConstantInt::get(Type::getInt32Ty(c), n)); };
     SmallVector<Metadata*, 5> properties{nullptr, option("llvm.loop.parallel_accesses", group)};
-    properties.push_back(option("llvm.loop.vectorize.enable", ConstantAsMetadata::get(ConstantInt::getBool(c, o.width != 1))));
+    if (o.width == 1)
+        properties.push_back(option("llvm.loop.vectorize.enable", ConstantAsMetadata::get(ConstantInt::getFalse(c))));
     if (o.width > 1) {
         properties.push_back(option("llvm.loop.vectorize.width", number(o.width)));
         properties.push_back(option("llvm.loop.interleave.count", number(1)));

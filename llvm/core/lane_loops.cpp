@@ -166,6 +166,31 @@ bool has_private_arrays(const Loop& loop) {
     return false;
 }
 
+// Addresses within such arrays that were computed once, in front of the loop, go back to where they are used.
+bool sink_addresses(Function& f, const Loop& loop) {
+    bool changed = false;
+    for (bool again = true; again; changed |= again) {
+        again = false;
+        for (Instruction& i : make_early_inc_range(instructions(f))) {
+            auto* address = dyn_cast<GetElementPtrInst>(&i);
+            if (!address || loop.contains(address) || !address->hasAllConstantIndices() ||
+                !isa<AllocaInst>(getUnderlyingObject(address)))
+                continue;
+            for (Use& u : make_early_inc_range(address->uses())) {
+                auto* user = cast<Instruction>(u.getUser());
+                if (!loop.contains(user)) continue;
+                auto* phi = dyn_cast<PHINode>(user);
+                Instruction* copy = address->clone();
+                copy->insertBefore(phi ? phi->getIncomingBlock(u)->getTerminator() : user);
+                u.set(copy);
+                again = true;
+            }
+            if (address->use_empty()) address->eraseFromParent();
+        }
+    }
+    return changed;
+}
+
 std::set<const MDNode*> groups_of(const MDNode* n) {
     std::set<const MDNode*> all;
     if (!n) return all;
@@ -738,6 +763,7 @@ bool loops_to_lane_loops(Function& f, const step_options& options, OptimizationR
         for (Loop* loop : loops.getLoopsInPreorder()) {
             if (!over_work_items(*loop) || !tried.insert(loop->getHeader()).second) continue;
             if (findOptionMDForLoop(loop, "llvm.loop.isvectorized") || findOptionMDForLoop(loop, lanes_mark)) continue;
+            changed |= sink_addresses(f, *loop);
             if (loop->isInnermost() && !has_private_arrays(*loop)) continue;
             TargetLibraryInfoImpl libraries{Triple(f.getParent()->getTargetTriple())};
             TargetLibraryInfo library(libraries, &f);

@@ -1,6 +1,6 @@
 // The passes in the new pass manager, and the functions that a JIT calls.
 #include "compat.h"
-#include "orvane/llvm.h"
+#include "passes.h"
 #include "steps.h"
 
 #include <llvm-c/TargetMachine.h>
@@ -17,6 +17,7 @@
 #include <llvm/Transforms/Scalar/SROA.h>
 #include <llvm/Transforms/Scalar/Scalarizer.h>
 #include <llvm/Transforms/Scalar/SimplifyCFG.h>
+#include <llvm/Transforms/Utils/LowerSwitch.h>
 
 using namespace llvm;
 
@@ -57,6 +58,12 @@ struct widen : PassInfoMixin<widen> {
             changed = true;
         }
         if (options.width == 1) return changed_if(changed);
+        if (ir::has_switches(f)) {
+            FunctionPassManager tidy;
+            tidy.addPass(LowerSwitchPass());
+            analyses.invalidate(f, tidy.run(f, analyses));
+            changed = true;
+        }
         if (ir::vectors_to_scalars(f)) {
             analyses.invalidate(f, PreservedAnalyses::none());
             FunctionPassManager tidy;
@@ -129,6 +136,11 @@ void add_late(ModulePassManager& all, const ir::step_options& options) {
 ir::step_options steps(const llvm_options& o) { return {o.width, o.exact_clobbers}; }
 
 } // namespace
+
+void add_widening_passes(ModulePassManager& all, const llvm_options& o) {
+    all.addPass(createModuleToFunctionPassAdaptor(widen(steps(o))));
+}
+void add_late_passes(ModulePassManager& all, const llvm_options& o) { add_late(all, steps(o)); }
 
 void register_passes(PassBuilder& builder, const llvm_options& options) {
     const ir::step_options o = steps(options);

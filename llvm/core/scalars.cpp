@@ -63,4 +63,14 @@ bool vectors_to_scalars(Function& f) {
     return small;
 }
 
+bool has_switches(Function& f) {
+    DominatorTree tree(f);
+    LoopInfo loops(tree);
+    for (BasicBlock& b : f)
+        if (isa<SwitchInst>(b.getTerminator()))
+            for (const Loop* l = loops.getLoopFor(&b); l; l = l->getParentLoop())
+                if (over_work_items(*l)) return true;
+    return false;
+}
+
 } // namespace orvane::ir

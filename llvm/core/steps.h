@@ -31,6 +31,8 @@ bool vectors_to_scalars(llvm::Function&);
 // A loop over work-items that LLVM's vectorizer would leave alone, since it has loops of its own or arrays private to a
 // work-item, becomes one over groups of work-items, with an innermost loop over lanes at every step.
 bool loops_to_lane_loops(llvm::Function&, const step_options&, llvm::OptimizationRemarkEmitter&);
+// Whether a loop over work-items branches by a switch, which the vectorizer does not take.
+bool has_switches(llvm::Function&);
 // Declares the wide forms of the scalar calls of a function and keeps them for the vectorizer.
 bool declare_wide_calls(llvm::Function&);
 

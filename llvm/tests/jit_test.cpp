@@ -75,7 +75,7 @@ void expect_bits_of_width_one(const jit::options& o, const std::string& label) {
     ASSERT_GT(names.size(), 40u);
     for (const std::string& name : names)
         for (size_t items : {1, 7, 8, 9, 17, 64}) {
-            arrays got(unsigned(items)), want = got;
+            arrays got{unsigned(items)}, want = got;
             got.run(wide.kernel(name), 0, items);
             want.run(scalar().kernel(name), 0, items);
             const std::string what = name + ", " + label + ", " + std::to_string(items) + " items:";
@@ -94,3 +94,54 @@ TEST(Jit, Width8) { expect_bits_of_width_one({.width = 8}, "width 8"); }
 TEST(Jit, Width16) { expect_bits_of_width_one({.width = 16}, "width 16"); }
 TEST(Jit, ExactClobbers8) { expect_bits_of_width_one({.width = 8, .exact_clobbers = true}, "width 8, exact"); }
 TEST(Jit, ExactClobbers16) { expect_bits_of_width_one({.width = 16, .exact_clobbers = true}, "width 16, exact"); }
+
+// What each kernel must have become at width 8: the call, or the operation, that shows it.
+TEST(Jit, KernelsBecomeWide) {
+    const jit::program p(kernels, {.width = 8});
+    const std::map<std::string, std::vector<std::string>> wide = {
+        {"one_call", {"@__orvane_l9_expf8("}},
+        {"early_return", {"@__orvane_l9_expf8("}},
+        {"branches", {"@__orvane_l9_tanhf8(", "@__orvane_l9_logf8(", "@__orvane_l9_powf8(", "@__orvane_l9_idiv8("}},
+        {"mixed_types", {"@__orvane_l9_exp8(", "@__orvane_l9_sinf8("}},
+        {"wide_double", {"@__orvane_l9_pow8(", "@__orvane_l9_ldexp8("}},
+        {"helpers", {"@__orvane_l9_coshf8("}},
+        {"helper_with_loop", {"@__orvane_l9_coshf8("}},
+        {"sincos_both", {"@__orvane_l9_sincosregf8(", "@__orvane_l9_sincosreg8("}},
+        {"modf_both", {"@__orvane_l9_modff8("}},
+        {"frexp_both", {"@__orvane_l9_frexpf8("}},
+        {"fract_both", {"@__orvane_l9_fractf8("}},
+        {"remquo_both", {"@__orvane_l9_remquof8(", "@__orvane_l9_remquo8("}},
+        {"lgamma_both", {"@__orvane_l9_lgammarf8("}},
+        {"divide_variables", {"@__orvane_l9_idiv"}},
+        {"divide_unsigned", {"@__orvane_l9_udiv8("}},
+        {"divide_short", {"@__orvane_l9_idiv8("}},
+        {"horner", {"@llvm.fma.v8f32("}},
+        {"n_body", {"@__orvane_l9_expf8(", "@llvm.sqrt.v8f32("}},
+        {"matrix_product", {"@llvm.fmuladd.v8f32("}},
+        {"along_an_axis", {"@__orvane_l9_expf8(", "@__orvane_l9_logf8("}},
+        {"mandelbrot", {"@llvm.fmuladd.v8f32("}},
+        {"newton", {"@__orvane_l9_expf8("}},
+        {"trips_by_lane", {"@__orvane_l9_sinf8("}},
+        {"loop_under_if", {"@__orvane_l9_cosf8("}},
+        {"loop_after_return", {"@__orvane_l9_expf8("}},
+        {"nested_loops", {"<8 x float>"}},
+        {"two_exits", {"@llvm.sqrt.v8f32("}},
+        {"private_array", {"@__orvane_l9_expf8("}},
+        {"private_array_no_loop", {"@__orvane_l9_expf8("}},
+        {"divide_in_loop", {"@__orvane_l9_udiv8("}},
+        {"float4_lanes", {"@__orvane_l9_expf8(", "@__orvane_l9_sincosregf8("}},
+        {"float2_in_loop", {"@__orvane_l9_cosf8("}},
+        {"float8_lanes", {"@__orvane_l9_expf8("}},
+        {"switch_on_value", {"@__orvane_l9_expf8(", "@__orvane_l9_sinf8("}},
+        {"conversions", {"@__orvane_l9_cvtfptoi32rtesatf8("}}};
+    for (const auto& [name, calls] : wide) {
+        const std::string ir = function_in(p.ir, name);
+        for (const auto& call : calls)
+            EXPECT_NE(ir.find(call), ir.npos) << name << " has no " << call;
+        EXPECT_EQ(ir.find(".first("), ir.npos) << name;
+        EXPECT_EQ(ir.find(".second("), ir.npos) << name;
+    }
+    // Two results are one call.
+    const std::string both = function_in(p.ir, "modf_both");
+    EXPECT_EQ(both.find("@__orvane_l9_modff8("), both.rfind("@__orvane_l9_modff8("));
+}
