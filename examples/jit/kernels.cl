@@ -81,3 +81,8 @@ kernel void mandelbrot(global int* rounds, int columns, int most) {
     }
     rounds[i] = n;
 }
+
+kernel void power_double(global const double* x, global double* y, double g) {
+    const size_t i = get_global_id(0);
+    y[i] = pow(x[i], g);
+}

@@ -108,6 +108,7 @@ private:
     std::set<Value*> scalars;
     std::map<BasicBlock*, unsigned> numbers;
     MapVector<AllocaInst*, AllocaInst*> variables; // one lane's variable -> the array of all lanes
+    std::map<AllocaInst*, std::set<segment*>> readers; // segments that read a variable
     SmallVector<AllocaInst*, 32> temporaries;
     AllocaInst* place = nullptr; // where a lane goes on
     BasicBlock* spine = nullptr; // where the code between lane loops grows
@@ -133,6 +134,7 @@ private:
     void find_loops();
     void demote_phis();
     void demote_values();
+    void find_readers();
     void emit(Loop*, standing&);
     void emit_segment(Loop*, segment&, standing&);
     void emit_loop(Loop&, standing&);
@@ -503,6 +505,14 @@ void lane_loop_maker::demote_values() {
     }
 }
 
+void lane_loop_maker::find_readers() {
+    for (auto& s : segments)
+        for (BasicBlock* b : s->blocks)
+            for (Instruction& i : *b)
+                if (auto* load = dyn_cast<LoadInst>(&i))
+                    if (auto* a = dyn_cast<AllocaInst>(load->getPointerOperand()); a && variables.count(a)) readers[a].insert(s.get());
+}
+
 Value* lane_loop_maker::any_at(IRBuilder<>& code, BasicBlock* b) {
     auto* vector = FixedVectorType::get(code.getInt32Ty(), lanes);
     Value* places = code.CreateAlignedLoad(vector, variables[place], Align(32));
@@ -636,12 +646,27 @@ void lane_loop_maker::emit_segment(Loop* loop, segment& s, standing& lanes_at) {
                 i.setMetadata(LLVMContext::MD_access_group, group);
         }
 
+    // What a loop of one segment carries for itself is of no use to a lane that has left it: there it may be anything,
+    // which saves the vector code a choice.
+    BasicBlock* absent = end;
+    if (!all_enter && items[loop].size() == 1) {
+        SmallVector<BasicBlock*, 4> without;
+        for (auto& [to, through] : out)
+            if (to != loop->getHeader()) without.push_back(through);
+        absent = BasicBlock::Create(c, "absent", &f, end);
+        BranchInst::Create(end, absent);
+        without.push_back(absent);
+        for (auto& [a, t] : temporary)
+            if (written.count(a) && a != place && readers[a].size() == 1 && readers[a].count(&s))
+                for (BasicBlock* b : without)
+                    new StoreInst(PoisonValue::get(a->getAllocatedType()), t, b->getTerminator());
+    }
     at_head.SetInsertPoint(head);
     if (all_enter) at_head.CreateBr(doors[0]);
     else
         for (size_t k = 0; k < doors.size(); k++) {
             IRBuilder<> b(tests);
-            BasicBlock* otherwise = k + 1 < doors.size() ? BasicBlock::Create(c, "door", &f, end) : end;
+            BasicBlock* otherwise = k + 1 < doors.size() ? BasicBlock::Create(c, "door", &f, end) : absent;
             b.CreateCondBr(b.CreateICmpEQ(now, b.getInt32(number_of(doors[k]))), doors[k], otherwise);
             tests = otherwise;
         }
@@ -728,6 +753,7 @@ void lane_loop_maker::run() {
     place = new_variable(Type::getInt32Ty(c), "place");
     demote_phis();
     demote_values();
+    find_readers();
     BranchInst* entry = cast<BranchInst>(spine->getTerminator());
     entry->eraseFromParent();
     standing at{targets(), false};
