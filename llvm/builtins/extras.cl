@@ -138,8 +138,6 @@ LENGTHS_OF(double, 0x1p+900, 0x1p-800, 0x1p-530, 0x1p+530)
 #define ARITHMETIC(N, T, U, S, BITS)                                                                                  \
     U##N FN abs(T##N x) { return x < (T##N)0 ? -AS(U##N, x) : AS(U##N, x); }                                                \
     U##N FN abs_diff(T##N x, T##N y) { return x < y ? AS(U##N, y) - AS(U##N, x) : AS(U##N, x) - AS(U##N, y); }         \
-    T##N FN add_sat(T##N x, T##N y) { return __builtin_elementwise_add_sat(x, y); }                                   \
-    T##N FN sub_sat(T##N x, T##N y) { return __builtin_elementwise_sub_sat(x, y); }                                   \
     T##N FN hadd(T##N x, T##N y) { return (x & y) + ((x ^ y) >> (T##N)1); }                                           \
     T##N FN rhadd(T##N x, T##N y) { return (x | y) - ((x ^ y) >> (T##N)1); }                                          \
     T##N FN rotate(T##N x, T##N k) {                                                                                  \
@@ -190,9 +188,19 @@ LENGTHS_OF(double, 0x1p+900, 0x1p-800, 0x1p-530, 0x1p+530)
     BY_HALVES_1(ctz, T, T)                                                                                            \
     BY_HALVES_1(popcount, T, T)
 
+// The compiler's saturating operations widen a short scalar to int, but no vector.
+#define SATURATING(N, T)                                                                                              \
+    T##N FN add_sat(T##N x, T##N y) { return __builtin_elementwise_add_sat(x, y); }                                   \
+    T##N FN sub_sat(T##N x, T##N y) { return __builtin_elementwise_sub_sat(x, y); }
+#define SATURATING_SCALAR(T)                                                                                          \
+    T FN add_sat(T x, T y) { return add_sat((T##2)x, (T##2)y).x; }                                                    \
+    T FN sub_sat(T x, T y) { return sub_sat((T##2)x, (T##2)y).x; }
+
 #define MIN_MAX_OF(T, U, S, WIDE, BITS)                                                                               \
     WIDTHS(MIN_MAX, T, U, S)                                                                                          \
     VECTORS(MIN_MAX_SCALAR_OPERAND, T)                                                                                \
+    VECTORS(SATURATING, T)                                                                                            \
+    SATURATING_SCALAR(T)                                                                                              \
     WIDTHS(ARITHMETIC, T, U, S, BITS)                                                                                 \
     COUNTS(T, U, S, WIDE, BITS)
 INTEGERS(MIN_MAX_OF)
