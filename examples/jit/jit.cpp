@@ -39,8 +39,8 @@ std::unique_ptr<Module> front_end(const std::string& file, const options& o, LLV
     if (sys::fs::createTemporaryFile("kernel", "bc", out)) throw std::runtime_error("no room for a temporary file");
     const std::string command = ORVANE_CLANG " -target spir64-unknown-unknown -x cl -cl-std=CL2.0 -O1 -fno-builtin "
                                              "-Xclang -finclude-default-header -emit-llvm -c " +
-                                std::string(o.relaxed ? "-cl-fast-relaxed-math " : "") + "-o " + out.str().str() + " '" +
-                                file + "'";
+                                std::string(o.relaxed ? "-cl-fast-relaxed-math " : "") + "-o " + out.str().str() +
+                                " '" + file + "'";
     const int failed = system(command.c_str());
     SMDiagnostic why;
     auto m = failed ? nullptr : parseIRFile(out, why, c);
@@ -134,7 +134,8 @@ void add_range(Function& kernel, const options& o) {
         auto* call = dyn_cast<CallInst>(&i);
         if (call && call->getCalledFunction() && call->getCalledFunction()->getName() == "_Z13get_global_idj") {
             auto* dimension = dyn_cast<ConstantInt>(call->getArgOperand(0));
-            call->replaceAllUsesWith(dimension && !dimension->isZero() ? ConstantInt::get(word, 0) : static_cast<Value*>(id));
+            call->replaceAllUsesWith(dimension && !dimension->isZero() ? ConstantInt::get(word, 0)
+                                                                       : static_cast<Value*>(id));
             call->eraseFromParent();
         } else if (const Value* p = getLoadStorePointerOperand(&i))
             if (!isa<AllocaInst>(getUnderlyingObject(p)) && i.getParent() != entry)
@@ -188,7 +189,8 @@ program::program(const std::string& file, const options& o) {
     std::string open;
     for (Function& f : *m) {
         if (!f.isDeclaration() && !f.getName().endswith(".range")) f.setLinkage(GlobalValue::InternalLinkage);
-        if (f.isDeclaration() && !f.use_empty() && f.getName().startswith("_Z") && f.getName() != "_Z13get_global_idj")
+        if (f.isDeclaration() && !f.use_empty() && f.getName().startswith("_Z") &&
+            f.getName() != "_Z13get_global_idj")
             open += " " + f.getName().str();
     }
     if (!open.empty()) throw std::runtime_error("not defined for kernels here:" + open);
@@ -212,7 +214,8 @@ program::program(const std::string& file, const options& o) {
     machine = checked(orc::LLJITBuilder().setJITTargetMachineBuilder(host).create());
     auto& names = machine->getMainJITDylib();
     const char prefix = machine->getDataLayout().getGlobalPrefix();
-    if (!o.library.empty()) names.addGenerator(checked(orc::DynamicLibrarySearchGenerator::Load(o.library.c_str(), prefix)));
+    if (!o.library.empty())
+        names.addGenerator(checked(orc::DynamicLibrarySearchGenerator::Load(o.library.c_str(), prefix)));
     names.addGenerator(checked(orc::DynamicLibrarySearchGenerator::GetForCurrentProcess(prefix)));
     if (auto e = machine->addIRModule(orc::ThreadSafeModule(std::move(m), std::move(context))))
         throw std::runtime_error(toString(std::move(e)));

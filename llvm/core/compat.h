@@ -8,8 +8,8 @@
 #else
 #include <llvm/ADT/Triple.h>
 #endif
-#include <llvm/IR/DerivedTypes.h>
 #include <llvm/IR/Constants.h>
+#include <llvm/IR/DerivedTypes.h>
 #include <llvm/IR/Function.h>
 #include <llvm/IR/Module.h>
 #include <llvm/Transforms/Utils/ModuleUtils.h>
@@ -39,7 +39,8 @@ template <class F> void remove_from_used(llvm::Module& m, F gone) {
     if (!list) return;
     llvm::SmallVector<llvm::GlobalValue*, 32> stays;
     for (llvm::Value* v : llvm::cast<llvm::ConstantArray>(list->getInitializer())->operands())
-        if (!gone(llvm::cast<llvm::Constant>(v))) stays.push_back(llvm::cast<llvm::GlobalValue>(v->stripPointerCasts()));
+        if (!gone(llvm::cast<llvm::Constant>(v)))
+            stays.push_back(llvm::cast<llvm::GlobalValue>(v->stripPointerCasts()));
     list->eraseFromParent();
     if (!stays.empty()) llvm::appendToCompilerUsed(m, stays);
 }

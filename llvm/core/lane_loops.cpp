@@ -1,19 +1,19 @@
 // Loops over work-items that hold loops of their own, made wide.
 //
 // LLVM vectorizes innermost loops. So a loop over work-items i that is not one becomes a loop over groups of W
-// work-items, and its body is cut into segments: stretches without a loop. Each segment gets an innermost loop over the
-// lanes of a group, which LLVM then takes whole:
+// work-items, and its body is cut into segments: stretches without a loop. Each segment gets an innermost loop over
+// the lanes of a group, which LLVM then takes whole:
 //
 //     for i: a; do { b } while (c); d    ->    for groups: for lanes: a
 //                                              do { for lanes: b } while (c)
 //                                              for lanes: d
 //
 // A value that passes from one segment to another lives in an array of W elements, of which nothing but a vector
-// register is left in the end; a value that is the same for all lanes, such as the counter of the loop, stays a scalar
-// between the lane loops. Where lanes part (an if around a loop, a loop that some lanes leave earlier) every lane has
-// the number of the block where it goes on: a segment lets the lanes in that stand at its door, and a loop whose trip
-// count differs from lane to lane runs as long as any lane stands at its head. The last work-items, fewer than W, run
-// in the loop as it was.
+// register is left in the end; a value that is the same for all lanes, such as the counter of the loop, stays a
+// scalar between the lane loops. Where lanes part (an if around a loop, a loop that some lanes leave earlier) every
+// lane has the number of the block where it goes on: a segment lets the lanes in that stand at its door, and a loop
+// whose trip count differs from lane to lane runs as long as any lane stands at its head. The last work-items, fewer
+// than W, run in the loop as it was.
 #include "compat.h"
 #include "steps.h"
 
@@ -100,14 +100,14 @@ private:
     // What is to know of an inner loop before its edges are cut.
     struct facts {
         BasicBlock* from_latch = nullptr; // the block that its phis name for the way back
-        WeakTrackingVH condition; // of a plain loop: all lanes that enter go round equally often
+        WeakTrackingVH condition;         // of a plain loop: all lanes that enter go round equally often
         bool back_if_true = false;
         SmallVector<BasicBlock*, 4> exits;
     };
     std::map<Loop*, facts> facts_of;
     std::set<Value*> scalars;
     std::map<BasicBlock*, unsigned> numbers;
-    MapVector<AllocaInst*, AllocaInst*> variables; // one lane's variable -> the array of all lanes
+    MapVector<AllocaInst*, AllocaInst*> variables;     // one lane's variable -> the array of all lanes
     std::map<AllocaInst*, std::set<segment*>> readers; // segments that read a variable
     SmallVector<AllocaInst*, 32> temporaries;
     AllocaInst* place = nullptr; // where a lane goes on
@@ -226,11 +226,13 @@ std::string lane_loop_maker::refusal() {
             for (const User* u : i.users())
                 if (auto* user = dyn_cast<Instruction>(u); user && !outer.contains(user))
                     return "a value of the loop over work-items is used after it";
-            if (i.getType()->isVectorTy() || any_of(i.operand_values(), [](Value* v) { return v->getType()->isVectorTy(); }))
+            if (i.getType()->isVectorTy() ||
+                any_of(i.operand_values(), [](Value* v) { return v->getType()->isVectorTy(); }))
                 return "it works on vectors of more than four lanes, which are wide by themselves";
             if (isa<AllocaInst>(i)) return "it allocates memory in the loop over work-items";
             auto* call = dyn_cast<CallBase>(&i);
-            if (call && call->isConvergent()) return "it holds a barrier or another call that all work-items make at once";
+            if (call && call->isConvergent())
+                return "it holds a barrier or another call that all work-items make at once";
             if (!touches_memory(i)) continue;
             const auto groups = groups_of(i.getMetadata(LLVMContext::MD_access_group));
             const bool independent = any_of(groups, [&](const MDNode* g) { return parallel.count(g); });
@@ -340,10 +342,11 @@ void lane_loop_maker::clone_and_group() {
     std::iter_swap(region.begin(), std::find(region.begin(), region.end(), wide_header));
 }
 
-// Segments and loops of one loop's body in topological order: depth first over a graph in which each inner loop is one
-// node.
+// Segments and loops of one loop's body in topological order: depth first over a graph in which each inner loop is
+// one node.
 void lane_loop_maker::arrange(Loop* loop, BasicBlock* first, LoopInfo& loops) {
-    auto node_of = [&](BasicBlock* b) -> Loop* { // the loop one level below that holds the block; null: the block itself
+    auto node_of =
+        [&](BasicBlock* b) -> Loop* { // the loop one level below that holds the block; null: the block itself
         Loop* l = loops.getLoopFor(b);
         if (l == loop) return nullptr;
         while (l && l->getParentLoop() != loop)
@@ -382,9 +385,9 @@ void lane_loop_maker::arrange(Loop* loop, BasicBlock* first, LoopInfo& loops) {
         if (i.loop) arrange(i.loop, i.loop->getHeader(), loops);
 }
 
-// A value is a scalar if all lanes that are at work have the same and it can be computed outside the lane loops: steps
-// without memory on such values, and what a loop carries of them from one iteration to the next, since lanes go through
-// a loop together.
+// A value is a scalar if all lanes that are at work have the same and it can be computed outside the lane loops:
+// steps without memory on such values, and what a loop carries of them from one iteration to the next, since lanes go
+// through a loop together.
 void lane_loop_maker::find_scalars(LoopInfo& loops) {
     auto candidate = [&](Instruction& i) {
         if (isa<PHINode>(i)) return loops.isLoopHeader(i.getParent());
@@ -402,7 +405,8 @@ void lane_loop_maker::find_scalars(LoopInfo& loops) {
         again = false;
         for (BasicBlock* b : region)
             for (Instruction& i : *b)
-                if (scalars.count(&i) && !all_of(i.operand_values(), [&](Value* v) { return outside(v) || scalars.count(v); }))
+                if (scalars.count(&i) &&
+                    !all_of(i.operand_values(), [&](Value* v) { return outside(v) || scalars.count(v); }))
                     again = scalars.erase(&i);
     }
     for (auto& s : segments)
@@ -462,9 +466,11 @@ void lane_loop_maker::demote_phis() {
     // All values of an edge are read before the first is written: they are values, not variables.
     for (auto& [phi, variable] : made)
         for (unsigned k = 0; k < phi->getNumIncomingValues(); k++)
-            new StoreInst(phi->getIncomingValue(k), variable, edges[{phi->getIncomingBlock(k), phi->getParent()}]->getTerminator());
+            new StoreInst(phi->getIncomingValue(k), variable,
+                          edges[{phi->getIncomingBlock(k), phi->getParent()}]->getTerminator());
     for (auto& [phi, variable] : made) {
-        auto* value = new LoadInst(phi->getType(), variable, phi->getName() + ".now", &*phi->getParent()->getFirstInsertionPt());
+        auto* value = new LoadInst(phi->getType(), variable, phi->getName() + ".now",
+                                   &*phi->getParent()->getFirstInsertionPt());
         phi->replaceAllUsesWith(value);
     }
     for (auto& [phi, variable] : made)
@@ -510,7 +516,8 @@ void lane_loop_maker::find_readers() {
         for (BasicBlock* b : s->blocks)
             for (Instruction& i : *b)
                 if (auto* load = dyn_cast<LoadInst>(&i))
-                    if (auto* a = dyn_cast<AllocaInst>(load->getPointerOperand()); a && variables.count(a)) readers[a].insert(s.get());
+                    if (auto* a = dyn_cast<AllocaInst>(load->getPointerOperand()); a && variables.count(a))
+                        readers[a].insert(s.get());
 }
 
 Value* lane_loop_maker::any_at(IRBuilder<>& code, BasicBlock* b) {
@@ -525,8 +532,11 @@ void lane_loop_maker::take_whole(BasicBlock* latch) {
     auto number = [&](unsigned n) { return ConstantAsMetadata::get(ConstantInt::get(Type::getInt32Ty(c), n)); };
     auto option = [&](StringRef name, Metadata* value) { return MDNode::get(c, {MDString::get(c, name), value}); };
     SmallVector<Metadata*, 6> all{
-        nullptr, option("llvm.loop.vectorize.enable", ConstantAsMetadata::get(ConstantInt::getTrue(c))),
-        option("llvm.loop.vectorize.width", number(lanes)), option("llvm.loop.interleave.count", number(1)), accesses,
+        nullptr,
+        option("llvm.loop.vectorize.enable", ConstantAsMetadata::get(ConstantInt::getTrue(c))),
+        option("llvm.loop.vectorize.width", number(lanes)),
+        option("llvm.loop.interleave.count", number(1)),
+        accesses,
         option(lanes_mark, number(lanes))};
     MDNode* id = MDNode::getDistinct(c, all);
     id->replaceOperandWith(0, id);
@@ -612,12 +622,14 @@ void lane_loop_maker::emit_segment(Loop* loop, segment& s, standing& lanes_at) {
         if (!t) {
             t = in_entry(a->getAllocatedType(), a->getName() + ".here");
             temporaries.push_back(t);
-            Value* at = early.CreateInBoundsGEP(variables[a]->getAllocatedType(), variables[a], {early.getInt64(0), lane});
+            Value* at =
+                early.CreateInBoundsGEP(variables[a]->getAllocatedType(), variables[a], {early.getInt64(0), lane});
             auto* old = early.CreateLoad(a->getAllocatedType(), at);
             old->setMetadata(LLVMContext::MD_access_group, group);
             early.CreateStore(old, t);
             if (written.count(a)) {
-                Value* to = at_end.CreateInBoundsGEP(variables[a]->getAllocatedType(), variables[a], {at_end.getInt64(0), lane});
+                Value* to = at_end.CreateInBoundsGEP(variables[a]->getAllocatedType(), variables[a],
+                                                     {at_end.getInt64(0), lane});
                 auto* final_value = at_end.CreateLoad(a->getAllocatedType(), t);
                 auto* kept = at_end.CreateStore(final_value, to);
                 kept->setMetadata(LLVMContext::MD_access_group, group);
@@ -635,10 +647,11 @@ void lane_loop_maker::emit_segment(Loop* loop, segment& s, standing& lanes_at) {
                 Value*& v = own[u.get()];
                 if (!v) {
                     const own_value& o = found->second;
-                    if (o.array) v = early.CreateInBoundsGEP(o.array->getAllocatedType(), o.array, {early.getInt64(0), lane});
+                    if (o.array)
+                        v = early.CreateInBoundsGEP(o.array->getAllocatedType(), o.array, {early.getInt64(0), lane});
                     else
-                        v = early.CreateAdd(o.of_group,
-                                            early.CreateMul(early.CreateZExtOrTrunc(lane, o.step->getType()), o.step));
+                        v = early.CreateAdd(
+                            o.of_group, early.CreateMul(early.CreateZExtOrTrunc(lane, o.step->getType()), o.step));
                 }
                 u.set(v);
             }
@@ -646,8 +659,8 @@ void lane_loop_maker::emit_segment(Loop* loop, segment& s, standing& lanes_at) {
                 i.setMetadata(LLVMContext::MD_access_group, group);
         }
 
-    // What a loop of one segment carries for itself is of no use to a lane that has left it: there it may be anything,
-    // which saves the vector code a choice.
+    // What a loop of one segment carries for itself is of no use to a lane that has left it: there it may be
+    // anything, which saves the vector code a choice.
     BasicBlock* absent = end;
     if (!all_enter && items[loop].size() == 1) {
         SmallVector<BasicBlock*, 4> without;
@@ -788,7 +801,8 @@ bool loops_to_lane_loops(Function& f, const step_options& options, OptimizationR
         LoopInfo loops(tree);
         for (Loop* loop : loops.getLoopsInPreorder()) {
             if (!over_work_items(*loop) || !tried.insert(loop->getHeader()).second) continue;
-            if (findOptionMDForLoop(loop, "llvm.loop.isvectorized") || findOptionMDForLoop(loop, lanes_mark)) continue;
+            if (findOptionMDForLoop(loop, "llvm.loop.isvectorized") || findOptionMDForLoop(loop, lanes_mark))
+                continue;
             changed |= sink_addresses(f, *loop);
             if (loop->isInnermost() && !has_private_arrays(*loop)) continue;
             TargetLibraryInfoImpl libraries{Triple(f.getParent()->getTargetTriple())};
@@ -813,8 +827,8 @@ bool loops_to_lane_loops(Function& f, const step_options& options, OptimizationR
             addStringMetadataToLoop(loop, "llvm.loop.unroll.disable", 1);
             remarks.emit([&] {
                 return OptimizationRemark("orvane", "WorkItems", at, header)
-                       << "loop over work-items runs by lanes, " << ore::NV("Width", options.width > 1 ? options.width : 8u)
-                       << " at a time";
+                       << "loop over work-items runs by lanes, "
+                       << ore::NV("Width", options.width > 1 ? options.width : 8u) << " at a time";
             });
             changed = again = true;
             break;

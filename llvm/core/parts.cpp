@@ -124,7 +124,7 @@ Value* guarded(IRBuilder<>& code, division_of d, Value* a, Value* b, const Instr
         minus = code.CreateICmpEQ(b, Constant::getAllOnesValue(t));
         divisor = code.CreateSelect(minus, ConstantInt::get(t, 1), divisor);
     }
-    const auto opcode = d.with_sign ? d.remainder ? Instruction::SRem : Instruction::SDiv
+    const auto opcode = d.with_sign   ? d.remainder ? Instruction::SRem : Instruction::SDiv
                         : d.remainder ? Instruction::URem
                                       : Instruction::UDiv;
     Value* y = code.CreateBinOp(opcode, a, divisor);
@@ -170,7 +170,9 @@ bool divisions_to_calls(Function& f) {
         if (bits > 32 || !a_width) y = guarded(code, d, a, b, &i);
         else {
             Type* const lanes = vector_of(f.getContext(), lane_type::i32, width);
-            auto widened = [&](Value* v) { return d.with_sign ? code.CreateSExt(v, lanes) : code.CreateZExt(v, lanes); };
+            auto widened = [&](Value* v) {
+                return d.with_sign ? code.CreateSExt(v, lanes) : code.CreateZExt(v, lanes);
+            };
             y = code.CreateCall(declare_part(*f.getParent(), row_of(d.with_sign ? "idivrem" : "udivrem"), width,
                                              d.remainder ? part::second : part::first),
                                 {widened(a), widened(b)});
@@ -200,7 +202,8 @@ bool declare_wide_calls(Function& f) {
             Function* v = declare_part(m, row, w, p);
             wide.push_back(v);
             variants += (variants.empty() ? "_ZGV_LLVM_N" : ",_ZGV_LLVM_N") + std::to_string(w) +
-                        std::string(row.arguments(), 'v') + "_" + scalar.getName().str() + "(" + v->getName().str() + ")";
+                        std::string(row.arguments(), 'v') + "_" + scalar.getName().str() + "(" + v->getName().str() +
+                        ")";
         }
         scalar.addFnAttr("vector-function-abi-variant", variants);
         call.addFnAttr(Attribute::get(f.getContext(), "vector-function-abi-variant", variants));
@@ -264,16 +267,19 @@ bool other_part_too(const CallInst& call, const call_id& id) {
         auto* other = dyn_cast<CallInst>(u);
         if (!other || other == &call || other->getFunction() != call.getFunction()) continue;
         const call_id its = find_call(*other);
-        if (its.of.row == id.of.row && its.which != id.which && std::equal(call.arg_begin(), call.arg_end(), other->arg_begin()))
+        if (its.of.row == id.of.row && its.which != id.which &&
+            std::equal(call.arg_begin(), call.arg_end(), other->arg_begin()))
             return true;
     }
     return false;
 }
 
-// The row that gives both results, in registers where there is one: sincos has a member of that form, of the same bits.
+// The row that gives both results, in registers where there is one: sincos has a member of that form, of the same
+// bits.
 const kernel_row& best_row(const kernel_row& row) {
     if (row.builtin == "sincos" && row.has_out() && row.tier == "default")
-        if (const auto* r = find_row(library_rows(), row.in == lane_type::f32 ? "sincosregf" : "sincosreg", row.tier)) return *r;
+        if (const auto* r = find_row(library_rows(), row.in == lane_type::f32 ? "sincosregf" : "sincosreg", row.tier))
+            return *r;
     return row;
 }
 
@@ -298,9 +304,13 @@ bool parts_to_calls(Function& f, OptimizationRemarkEmitter&) {
             if (row.sclass == signature_class::integer_pair) {
                 const bool with_sign = row.out == lane_type::i32, remainder = id.which == part::second;
                 Value *a = call->getArgOperand(0), *b = call->getArgOperand(1);
-                if (id.of.width == 1 || harmless_constant(b, with_sign)) y = guarded(code, {with_sign, remainder}, a, b, call);
+                if (id.of.width == 1 || harmless_constant(b, with_sign))
+                    y = guarded(code, {with_sign, remainder}, a, b, call);
                 else if (!other_part_too(*call, id))
-                    y = results_of(code, row_of(with_sign ? remainder ? "irem" : "idiv" : remainder ? "urem" : "udiv"),
+                    y = results_of(code,
+                                   row_of(with_sign   ? remainder ? "irem" : "idiv"
+                                          : remainder ? "urem"
+                                                      : "udiv"),
                                    id.of.width, k.second)[0];
             }
             if (!y && id.which == part::lanes) y = results_of(code, row, id.of.width, k.second)[0];

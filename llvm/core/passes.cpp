@@ -1,6 +1,6 @@
 // The passes in the new pass manager, and the functions that a JIT calls.
-#include "compat.h"
 #include "passes.h"
+#include "compat.h"
 #include "steps.h"
 
 #include <llvm-c/TargetMachine.h>
@@ -144,23 +144,24 @@ void add_late_passes(ModulePassManager& all, const llvm_options& o) { add_late(a
 
 void register_passes(PassBuilder& builder, const llvm_options& options) {
     const ir::step_options o = steps(options);
-    builder.registerPipelineStartEPCallback([](ModulePassManager& all, auto) {
-        all.addPass(createModuleToFunctionPassAdaptor(early()));
-    });
+    builder.registerPipelineStartEPCallback(
+        [](ModulePassManager& all, auto) { all.addPass(createModuleToFunctionPassAdaptor(early())); });
     builder.registerVectorizerStartEPCallback([o](FunctionPassManager& all, auto) { all.addPass(widen(o)); });
     builder.registerOptimizerLastEPCallback([o](ModulePassManager& all, auto...) { add_late(all, o); });
     // The same by name, for `opt -passes=`.
-    builder.registerPipelineParsingCallback([o](StringRef name, FunctionPassManager& all, ArrayRef<PassBuilder::PipelineElement>) {
-        if (name == "orvane-early") all.addPass(early());
-        else if (name == "orvane-widen") all.addPass(widen(o));
-        else return false;
-        return true;
-    });
-    builder.registerPipelineParsingCallback([o](StringRef name, ModulePassManager& all, ArrayRef<PassBuilder::PipelineElement>) {
-        if (name != "orvane-late") return false;
-        add_late(all, o);
-        return true;
-    });
+    builder.registerPipelineParsingCallback(
+        [o](StringRef name, FunctionPassManager& all, ArrayRef<PassBuilder::PipelineElement>) {
+            if (name == "orvane-early") all.addPass(early());
+            else if (name == "orvane-widen") all.addPass(widen(o));
+            else return false;
+            return true;
+        });
+    builder.registerPipelineParsingCallback(
+        [o](StringRef name, ModulePassManager& all, ArrayRef<PassBuilder::PipelineElement>) {
+            if (name != "orvane-late") return false;
+            add_late(all, o);
+            return true;
+        });
 }
 
 void optimize(Module& m, TargetMachine* target, const llvm_options& options) {

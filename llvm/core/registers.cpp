@@ -45,7 +45,9 @@ struct pieces {
         for (unsigned k = 0; k < count; k++) {
             types.push_back(t);
             auto* lanes = dyn_cast<FixedVectorType>(t);
-            values.push_back(lanes && t != v->getType() ? reshaped(code, v, k * lanes->getNumElements(), lanes->getNumElements()) : v);
+            values.push_back(lanes && t != v->getType()
+                                 ? reshaped(code, v, k * lanes->getNumElements(), lanes->getNumElements())
+                                 : v);
         }
     }
 };
@@ -79,10 +81,10 @@ bool in_vector_registers(Type* t) { return t->isVectorTy() || t->isFloatTy() || 
 bool settle_registers(Function& f, const step_options& options) {
     const bool wider = has_wider_registers(f);
     if (!wider && !options.exact_clobbers) return false;
-    // A function that holds values in 512-bit registers keeps to the plain convention, which saves those: upper halves
-    // of registers 8 to 15 survive the ordinary path alone.
-    const bool exact = options.exact_clobbers &&
-                       (!wider || f.getFnAttribute("prefer-vector-width").getValueAsString() == "256");
+    // A function that holds values in 512-bit registers keeps to the plain convention, which saves those: upper
+    // halves of registers 8 to 15 survive the ordinary path alone.
+    const bool exact =
+        options.exact_clobbers && (!wider || f.getFnAttribute("prefer-vector-width").getValueAsString() == "256");
     bool changed = false;
     LLVMContext& c = f.getContext();
     for (Instruction& i : make_early_inc_range(instructions(f))) {
@@ -124,7 +126,9 @@ bool settle_registers(Function& f, const step_options& options) {
             // named. The call needs an aligned stack and overwrites what is below it.
             std::string constraints;
             auto next = [&](const std::string& s) { constraints += (constraints.empty() ? "" : ",") + s; };
-            auto name = [&](Type* t, size_t k) { return (bits_of(t) > 128 ? "{ymm" : "{xmm") + std::to_string(k) + "}"; };
+            auto name = [&](Type* t, size_t k) {
+                return (bits_of(t) > 128 ? "{ymm" : "{xmm") + std::to_string(k) + "}";
+            };
             const size_t results_in_vectors = results.size();
             for (size_t k = 0; k < results_in_vectors; k++)
                 next("=" + name(results[k], k));
@@ -159,7 +163,8 @@ bool settle_registers(Function& f, const step_options& options) {
                 in.values.push_back(out);
             }
             Type* const type = results.size() == 1 ? results[0] : StructType::get(c, results);
-            CallInst* made = code.CreateCall(FunctionType::get(type, in.types, false), call->getCalledFunction(), in.values);
+            CallInst* made =
+                code.CreateCall(FunctionType::get(type, in.types, false), call->getCalledFunction(), in.values);
             made->setDoesNotThrow();
             y = made;
         }
@@ -192,8 +197,8 @@ void tell_calls(Function& f, OptimizationRemarkEmitter& remarks) {
         if (id.of.width > 1) {
             remarks.emit([&] {
                 return OptimizationRemark("orvane", "Widened", call)
-                       << name << " for " << ore::NV("Width", id.of.width) << " lanes: "
-                       << ore::NV("Export", call->getCalledFunction()->getName());
+                       << name << " for " << ore::NV("Width", id.of.width)
+                       << " lanes: " << ore::NV("Export", call->getCalledFunction()->getName());
             });
             continue;
         }
@@ -204,12 +209,12 @@ void tell_calls(Function& f, OptimizationRemarkEmitter& remarks) {
             for (const Loop* l = loop; l; l = l->getParentLoop())
                 remainder |= findOptionMDForLoop(l, "llvm.loop.isvectorized") != nullptr;
             if (remainder) continue; // the last work-items of a loop that did become wide
-            why = loop->isInnermost() ? "the loop vectorizer left its loop alone (-Rpass-analysis=loop-vectorize says why)"
-                                      : "its loop holds other loops and runs over no work-items";
+            why = loop->isInnermost()
+                      ? "the loop vectorizer left its loop alone (-Rpass-analysis=loop-vectorize says why)"
+                      : "its loop holds other loops and runs over no work-items";
         }
-        remarks.emit([&] {
-            return OptimizationRemarkMissed("orvane", "Scalar", call) << name << " stays scalar: " << why;
-        });
+        remarks.emit(
+            [&] { return OptimizationRemarkMissed("orvane", "Scalar", call) << name << " stays scalar: " << why; });
     }
 }
 

@@ -1,5 +1,5 @@
-// Vectors of up to four lanes in loops over work-items, taken apart: a lane of a work-item becomes a lane of a group of
-// them, so that a kernel on float4 fills registers of any width.
+// Vectors of up to four lanes in loops over work-items, taken apart: a lane of a work-item becomes a lane of a group
+// of them, so that a kernel on float4 fills registers of any width.
 #include "compat.h"
 #include "steps.h"
 

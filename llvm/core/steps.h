@@ -1,7 +1,8 @@
 // The passes as plain functions of IR, for either pass manager. Each returns whether it changed something.
 //
-// Before the vectorizer a call of an export that LLVM cannot widen by itself becomes one or two calls of pure functions
-// on lanes, which stand for parts of it; after the vectorizer such a call, scalar or wide, becomes what it stands for:
+// Before the vectorizer a call of an export that LLVM cannot widen by itself becomes one or two calls of pure
+// functions on lanes, which stand for parts of it; after the vectorizer such a call, scalar or wide, becomes what it
+// stands for:
 //
 //     f.first, f.second   the two results of an export f that gives two (sincos, modf, idivrem ...)
 //     f.lanes             an export f of a width at which it is not called with vectors alone
@@ -28,8 +29,8 @@ bool divisions_to_calls(llvm::Function&);
 bool results_to_parts(llvm::Function&);
 // In loops over work-items: vectors of up to four lanes, and calls on them, become scalars, which widen.
 bool vectors_to_scalars(llvm::Function&);
-// A loop over work-items that LLVM's vectorizer would leave alone, since it has loops of its own or arrays private to a
-// work-item, becomes one over groups of work-items, with an innermost loop over lanes at every step.
+// A loop over work-items that LLVM's vectorizer would leave alone, since it has loops of its own or arrays private to
+// a work-item, becomes one over groups of work-items, with an innermost loop over lanes at every step.
 bool loops_to_lane_loops(llvm::Function&, const step_options&, llvm::OptimizationRemarkEmitter&);
 // Whether a loop over work-items branches by a switch, which the vectorizer does not take.
 bool has_switches(llvm::Function&);

@@ -42,8 +42,12 @@ struct orvane_pass : ModulePass {
 char orvane_pass::ID;
 
 const RegisterStandardPasses before(PassManagerBuilder::EP_VectorizerStart,
-                                    [](const PassManagerBuilder&, legacy::PassManagerBase& p) { p.add(new orvane_pass(false)); });
+                                    [](const PassManagerBuilder&, legacy::PassManagerBase& p) {
+                                        p.add(new orvane_pass(false));
+                                    });
 const RegisterStandardPasses after(PassManagerBuilder::EP_OptimizerLast,
-                                   [](const PassManagerBuilder&, legacy::PassManagerBase& p) { p.add(new orvane_pass(true)); });
+                                   [](const PassManagerBuilder&, legacy::PassManagerBase& p) {
+                                       p.add(new orvane_pass(true));
+                                   });
 
 } // namespace

@@ -19,12 +19,12 @@ template <class T> wide clamped(wide v) {
 // The product of two 64-bit integers of one sign has up to 128 bits, signed or not.
 template <class T> T high_half(T a, T b) {
     if constexpr (std::is_signed_v<T>) return T((wide(a) * b) >> (8 * sizeof(T)));
-    else return T((unsigned __int128)(a) * b >> (8 * sizeof(T)));
+    else return T((unsigned __int128)(a)*b >> (8 * sizeof(T)));
 }
 template <class T> T saturated_sum_of_product(T a, T b, T d) {
     if constexpr (std::is_signed_v<T>) return T(clamped<T>(wide(a) * b + d));
     else {
-        const unsigned __int128 p = (unsigned __int128)(a) * b + d;
+        const unsigned __int128 p = (unsigned __int128)(a)*b + d;
         return p > std::numeric_limits<T>::max() ? std::numeric_limits<T>::max() : T(p);
     }
 }
@@ -33,11 +33,22 @@ template <class T> std::vector<T> expected(T a, T b, T d) {
     using U = std::make_unsigned_t<T>;
     const U ua = a;
     const T low = std::min(b, d), high = std::max(b, d);
-    return {T(clamped<T>(wide(a) + b)), T(clamped<T>(wide(a) - b)), T((wide(a) + b) >> 1), T((wide(a) + b + 1) >> 1),
-            high_half(a, b), saturated_sum_of_product(a, b, d),
-            T(std::rotl(ua, int(U(b) % (8 * sizeof(T))))), T(std::countl_zero(ua)), T(std::popcount(ua)),
-            T(a < 0 ? -wide(a) : wide(a)), T(a < b ? wide(b) - a : wide(a) - b), std::min(std::max(a, low), high),
-            T(std::countr_zero(ua)), T(high_half(a, b) + d), T((ua & ~U(d)) | (U(b) & U(d))), d & 1 ? b : a};
+    return {T(clamped<T>(wide(a) + b)),
+            T(clamped<T>(wide(a) - b)),
+            T((wide(a) + b) >> 1),
+            T((wide(a) + b + 1) >> 1),
+            high_half(a, b),
+            saturated_sum_of_product(a, b, d),
+            T(std::rotl(ua, int(U(b) % (8 * sizeof(T))))),
+            T(std::countl_zero(ua)),
+            T(std::popcount(ua)),
+            T(a < 0 ? -wide(a) : wide(a)),
+            T(a < b ? wide(b) - a : wide(a) - b),
+            std::min(std::max(a, low), high),
+            T(std::countr_zero(ua)),
+            T(high_half(a, b) + d),
+            T((ua & ~U(d)) | (U(b) & U(d))),
+            d & 1 ? b : a};
 }
 
 const jit::program& extras(unsigned width) {
@@ -62,8 +73,9 @@ template <class T> void check_integers(const char* type) {
             for (size_t i = 0; i < items; i++) {
                 const auto want = expected<T>(x[0][i], x[1][i], x[2][i]);
                 for (size_t k = 0; k < 16; k++)
-                    ASSERT_EQ(out[16 * i + k], want[k]) << form << type << " result " << k << " of " << +x[0][i] << ", "
-                                                        << +x[1][i] << ", " << +x[2][i] << ", width " << width;
+                    ASSERT_EQ(out[16 * i + k], want[k])
+                        << form << type << " result " << k << " of " << +x[0][i] << ", " << +x[1][i] << ", "
+                        << +x[2][i] << ", width " << width;
             }
         }
 }
@@ -98,23 +110,55 @@ TEST(Extras, Floats) {
             auto half = [&](int mode) {
                 const float v = x[0][i];
                 switch (mode) {
-                case 0: return double(_cvtsh_ss(_cvtss_sh(v, _MM_FROUND_TO_ZERO)));
-                case 1: return double(_cvtsh_ss(_cvtss_sh(v, _MM_FROUND_TO_POS_INF)));
-                default: return double(_cvtsh_ss(_cvtss_sh(v, _MM_FROUND_TO_NEAREST_INT)));
+                case 0:
+                    return double(_cvtsh_ss(_cvtss_sh(v, _MM_FROUND_TO_ZERO)));
+                case 1:
+                    return double(_cvtsh_ss(_cvtss_sh(v, _MM_FROUND_TO_POS_INF)));
+                default:
+                    return double(_cvtsh_ss(_cvtss_sh(v, _MM_FROUND_TO_NEAREST_INT)));
                 }
             };
             const bool negative_a = a < 0, negative_b = b < 0;
-            const double want[32] = {
-                std::min(std::max(a, std::min(b, d)), std::max(b, d)), a + (b - a) * d, b < a ? 0. : 1., t * t * (3 - 2 * t),
-                a > 0 ? 1. : a < 0 ? -1. : 0., a * 180 / M_PI, a * M_PI / 180, a * d + b * a + d * b + 2,
-                norm * 1e30, norm * 1e-30, std::fabs(a - b), 3 * b - 2 * d, d - 3 * a, 2 * a - b,
-                a / norm4, b / norm4, d / norm4, 1 / norm4, a > b ? 1. : 0., 1. + 2 + (d < 0 ? 4 : 0) + 8,
-                negative_a ? 1. : 0., negative_a && negative_b ? 1. : 0., 5., b, 6., 4.,
-                std::nearbyint(std::min(std::max(double(x[0][i] * 100), -128.), 127.)), double(int(x[1][i] * 10) & 0xffff), a * b + d,
-                half(0), half(1), half(2)};
+            const double want[32] = {std::min(std::max(a, std::min(b, d)), std::max(b, d)),
+                                     a + (b - a) * d,
+                                     b < a ? 0. : 1.,
+                                     t * t * (3 - 2 * t),
+                                     a > 0   ? 1.
+                                     : a < 0 ? -1.
+                                             : 0.,
+                                     a * 180 / M_PI,
+                                     a * M_PI / 180,
+                                     a * d + b * a + d * b + 2,
+                                     norm * 1e30,
+                                     norm * 1e-30,
+                                     std::fabs(a - b),
+                                     3 * b - 2 * d,
+                                     d - 3 * a,
+                                     2 * a - b,
+                                     a / norm4,
+                                     b / norm4,
+                                     d / norm4,
+                                     1 / norm4,
+                                     a > b ? 1. : 0.,
+                                     1. + 2 + (d < 0 ? 4 : 0) + 8,
+                                     negative_a ? 1. : 0.,
+                                     negative_a && negative_b ? 1. : 0.,
+                                     5.,
+                                     b,
+                                     6.,
+                                     4.,
+                                     std::nearbyint(std::min(std::max(double(x[0][i] * 100), -128.), 127.)),
+                                     double(int(x[1][i] * 10) & 0xffff),
+                                     a * b + d,
+                                     half(0),
+                                     half(1),
+                                     half(2)};
             for (int k = 0; k < 32; k++) {
-                const double bound = k >= 29 || k == 26 || k == 27 ? 0 : 2e-6 * std::max(1., std::fabs(want[k])) * (k == 9 ? 1e-30 : 1);
-                ASSERT_NEAR(out[32 * i + k], want[k], bound) << "result " << k << " of " << a << ", " << b << ", " << d << ", width " << width;
+                const double bound = k >= 29 || k == 26 || k == 27
+                                         ? 0
+                                         : 2e-6 * std::max(1., std::fabs(want[k])) * (k == 9 ? 1e-30 : 1);
+                ASSERT_NEAR(out[32 * i + k], want[k], bound)
+                    << "result " << k << " of " << a << ", " << b << ", " << d << ", width " << width;
             }
         }
     }

@@ -145,3 +145,97 @@ TEST(Jit, KernelsBecomeWide) {
     const std::string both = function_in(p.ir, "modf_both");
     EXPECT_EQ(both.find("@__orvane_l9_modff8("), both.rfind("@__orvane_l9_modff8("));
 }
+
+TEST(Jit, RelaxedMathTakesItsTier) {
+    const std::string file = ORVANE_TEST_FOLDER "/relaxed.cl";
+    std::ofstream(file)
+        << "kernel void k(global float* x) { size_t i = get_global_id(0); x[i] = sin(x[i]) + native_exp(x[i]); }";
+    const jit::program relaxed(file, {.width = 8, .relaxed = true}), plain(file, {.width = 8});
+    EXPECT_NE(relaxed.ir.find("@__orvane_l9_sinf8_rm("), std::string::npos);
+    EXPECT_NE(plain.ir.find("@__orvane_l9_sinf8("), std::string::npos);
+    EXPECT_NE(plain.ir.find("@__orvane_l9_expf8_native("), std::string::npos);
+}
+
+TEST(Jit, UnknownBuiltinsAreNamed) {
+    const std::string file = ORVANE_TEST_FOLDER "/unknown.cl";
+    std::ofstream(file) << "kernel void k(global int* x) { barrier(CLK_GLOBAL_MEM_FENCE); atomic_add(x, 1); }";
+    try {
+        jit::program p(file, {});
+        FAIL();
+    } catch (const std::exception& e) {
+        EXPECT_NE(std::string(e.what()).find("_Z7barrierj"), std::string::npos) << e.what();
+    }
+}
+
+// An export of the test's own in place of the library's: it notes how the stack lies and overwrites what is below it.
+extern "C" uint64_t stack_residue;
+uint64_t stack_residue = ~0ull;
+asm(R"(
+.globl __orvane_l9_logf8
+__orvane_l9_logf8:
+    mov %rsp, %rax
+    and $15, %rax
+    mov stack_residue@GOTPCREL(%rip), %rcx
+    mov %rax, (%rcx)
+    movq $-1, -8(%rsp)
+    movq $-1, -16(%rsp)
+    movq $-1, -24(%rsp)
+    movq $-1, -32(%rsp)
+    movq $-1, -64(%rsp)
+    movq $-1, -96(%rsp)
+    movq $-1, -128(%rsp)
+    vaddps %ymm0, %ymm0, %ymm0
+    vpcmpeqd %ymm1, %ymm1, %ymm1
+    vmovdqa %ymm1, %ymm2
+    vmovdqa %ymm1, %ymm3
+    vmovdqa %ymm1, %ymm4
+    vmovdqa %ymm1, %ymm5
+    vmovdqa %ymm1, %ymm6
+    vmovdqa %ymm1, %ymm7
+    mov $-1, %rdx
+    mov $-1, %r8
+    mov $-1, %r9
+    mov $-1, %r10
+    mov $-1, %r11
+    ret
+.globl __orvane_l9_logf1
+__orvane_l9_logf1:
+    vaddss %xmm0, %xmm0, %xmm0
+    ret
+)");
+
+// With exact clobbers the kernel has no call that LLVM knows of: it is a leaf, whose stack must be aligned at the
+// call all the same, and whose values below the stack pointer no one protects.
+TEST(Jit, ExactCallsInALeafKeepTheStack) {
+    const std::string file = ORVANE_TEST_FOLDER "/leaf.cl";
+    std::ofstream(file)
+        << "kernel void k(global const float* a, global float* x, float p, float q) { size_t i = get_global_id(0);"
+           " float u = a[i]; float v = log(u) * p + q; float w = log(v) - u; float t = log(w * p + v);"
+           " x[i] = t + u * 3 + v * 5 + w * 7 + (float)(int)(i * 3) + p * t; }";
+    std::vector<float> a(64), x(64);
+    for (size_t i = 0; i < a.size(); i++)
+        a[i] = float(i) * 0.25f + 1;
+    float p = 1.5f, q = 0.25f;
+    float *pa = a.data(), *px = x.data();
+    void* arguments[] = {&pa, &px, &p, &q};
+    const jit::program exact(file, {.width = 8, .exact_clobbers = true, .library = ""});
+    EXPECT_EQ(exact.ir.find("call <8 x float> @__orvane_l9_logf8"), std::string::npos);
+    EXPECT_NE(exact.ir.find("call __orvane_l9_logf8@PLT"), std::string::npos);
+    exact.kernel("k")(arguments, 0, a.size());
+    EXPECT_EQ(stack_residue, 8u);
+    for (size_t i = 0; i < a.size(); i++) {
+        const float u = a[i], v = std::fma(2 * u, p, q), w = 2 * v - u, t = 2 * std::fma(w, p, v);
+        EXPECT_NEAR(x[i], t + u * 3 + v * 5 + w * 7 + float(i * 3) + p * t, 1e-3) << i;
+    }
+}
+
+// On a processor with 512-bit registers as well, calls take the 256-bit ones.
+TEST(Jit, CallsOnWiderProcessorsKeepTheConvention) {
+    const std::string file = ORVANE_TEST_FOLDER "/wider.cl";
+    std::ofstream(file) << "kernel void k(global float* x) { size_t i = get_global_id(0); x[i] = exp(x[i]); }";
+    const jit::program p(file, {.width = 16, .processor = "skylake-avx512", .print_assembly = true});
+    const auto call = p.assembly.find("__orvane_l9_expf16");
+    ASSERT_NE(call, std::string::npos);
+    EXPECT_NE(p.assembly.rfind("%ymm1", call), std::string::npos) << p.assembly;
+    EXPECT_EQ(p.assembly.find("%zmm"), std::string::npos) << p.assembly;
+}

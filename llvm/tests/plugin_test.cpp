@@ -36,8 +36,8 @@ protected:
 } // namespace
 
 TEST_P(Plugin, ClangMakesLoopsWideAndTells) {
-    const std::string text = run(clang(GetParam()) + "-O3 -S -fpass-plugin=" + plugin(GetParam()) +
-                                 " -Rpass=orvane -Rpass-missed=orvane");
+    const std::string text =
+        run(clang(GetParam()) + "-O3 -S -fpass-plugin=" + plugin(GetParam()) + " -Rpass=orvane -Rpass-missed=orvane");
     expect_wide(text);
     EXPECT_NE(text.find("remark: expf for 8 lanes: __orvane_l9_expf8 [-Rpass=orvane]"), text.npos) << text;
     EXPECT_NE(text.find("remark: expf stays scalar: it is in no loop [-Rpass-missed=orvane]"), text.npos) << text;
@@ -50,13 +50,16 @@ TEST_P(Plugin, ClangMakesLoopsWideAndTells) {
 TEST_P(Plugin, OptMakesLoopsWide) {
     const std::string version = std::to_string(GetParam()), ir = folder + "/loops-" + version + ".ll";
     run("clang-" + version + " -mavx2 -mfma -O1 -S -emit-llvm -o " + ir + " " + source);
-    expect_wide(run("opt-" + version + " -load-pass-plugin=" + plugin(GetParam()) + " -passes='default<O3>' -S " + ir));
+    expect_wide(
+        run("opt-" + version + " -load-pass-plugin=" + plugin(GetParam()) + " -passes='default<O3>' -S " + ir));
 }
 
 // With 512-bit registers at hand a call still takes 256-bit ones.
 TEST_P(Plugin, WideRegistersStayOutOfCalls) {
-    const std::string options = "-O3 -march=skylake-avx512 -mprefer-vector-width=512 -fpass-plugin=" + plugin(GetParam());
-    const std::string ir = run(clang(GetParam()) + options + " -S -emit-llvm"), code = run(clang(GetParam()) + options + " -S");
+    const std::string options =
+        "-O3 -march=skylake-avx512 -mprefer-vector-width=512 -fpass-plugin=" + plugin(GetParam());
+    const std::string ir = run(clang(GetParam()) + options + " -S -emit-llvm"),
+                      code = run(clang(GetParam()) + options + " -S");
     EXPECT_NE(ir.find("call { <8 x float>, <8 x float> } @__orvane_l9_expf16(<8 x float>"), ir.npos) << ir;
     const auto call = code.find("__orvane_l9_expf16");
     ASSERT_NE(call, code.npos);
@@ -65,7 +68,8 @@ TEST_P(Plugin, WideRegistersStayOutOfCalls) {
     EXPECT_NE(after, code.npos) << code;
     // By the instruction in front of the call and the one behind it no argument or result is in zmm0.
     const auto line = code.rfind('\n', call);
-    EXPECT_EQ(code.substr(code.rfind('\n', line - 1), line - code.rfind('\n', line - 1)).find(", %zmm0"), code.npos) << code;
+    EXPECT_EQ(code.substr(code.rfind('\n', line - 1), line - code.rfind('\n', line - 1)).find(", %zmm0"), code.npos)
+        << code;
 }
 
 INSTANTIATE_TEST_SUITE_P(Versions, Plugin, testing::Values(16, 19));
