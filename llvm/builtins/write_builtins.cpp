@@ -56,13 +56,10 @@ const std::map<std::string_view, Intrinsic::ID> as_intrinsics = {
     {"nearbyint", Intrinsic::nearbyint}, {"fma", Intrinsic::fma},     {"copysign", Intrinsic::copysign},
     {"round", Intrinsic::round},         {"fmin", Intrinsic::minnum}, {"fmax", Intrinsic::maxnum}};
 
-// Names that a row serves in OpenCL C. A tier is a name of its own (native_, half_) or, by the compiler's option,
-// takes the plain name (rm); the native tier of a family without a native_ built-in has no name there.
+// Names that a row serves in OpenCL C.
 std::vector<std::string> names_of(const kernel_row& row, int width) {
     std::string s(row.builtin);
-    if (s.starts_with("operator") || s.find(' ') != s.npos || row.sclass == signature_class::pair) return {};
-    if (row.tier == "native" && !s.starts_with("native_")) return {};
-    if (row.tier == "half" && !s.starts_with("half_")) return {};
+    if (s.empty() || s.starts_with("operator")) return {};
     if (const auto at = s.find('#'); at != s.npos) s.replace(at, 1, width == 1 ? "" : std::to_string(width));
     if (row.sclass != signature_class::conversion) return {s};
     // Without a mode a conversion to an integer truncates, and one to a floating type rounds to nearest.
@@ -75,8 +72,7 @@ std::vector<builtin> all_builtins(bool relaxed) {
     std::vector<builtin> all;
     const auto& rows = orvane::library_rows();
     for (const auto& row : rows) {
-        if (!row.built) continue;
-        if (row.tier == "rm" && !relaxed) continue;
+        if (row.is_relaxed() && !relaxed) continue;
         if (row.tier == "default" && relaxed && orvane::find_row(rows, row.name, "rm")) continue;
         for (int w : orvane::widths)
             for (const auto& name : names_of(row, w))
