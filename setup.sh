@@ -43,8 +43,9 @@ check_processor() {
 configure() {
     # A build/ that someone configured in another way keeps its generator and build type, and gets what is missing.
     if [[ ! -e build/CMakeCache.txt ]]; then cmake --preset tests
-    elif ! grep -q '^ORVANE_TESTS:BOOL=ON$' build/CMakeCache.txt || ! grep -q '^ORVANE_BENCH:BOOL=ON$' build/CMakeCache.txt; then
-        cmake -S . -B build -DORVANE_TESTS=ON -DORVANE_BENCH=ON
+    elif ! grep -q '^ORVANE_TESTS:BOOL=ON$' build/CMakeCache.txt || ! grep -q '^ORVANE_BENCH:BOOL=ON$' build/CMakeCache.txt ||
+        ! grep -q '^ORVANE_LLVM:BOOL=ON$' build/CMakeCache.txt; then
+        cmake -S . -B build -DORVANE_TESTS=ON -DORVANE_BENCH=ON -DORVANE_LLVM=ON
     elif [[ ! -e build/build.ninja && ! -e build/Makefile ]]; then cmake -S . -B build # an earlier try failed
     fi
 }
