@@ -182,7 +182,7 @@ public:
                     picked.insert(name);
             }
         for (const table_row& r : rows)
-            for (const lane_set set : {r.set, special})
+            for (const lane_set& set : {r.set, special})
                 if (picked.contains(r.ours + '/' + set.name))
                     for (const auto& peer : {r.sleef, r.scalar})
                         picked.insert(peer + '/' + set.name);

@@ -86,7 +86,7 @@ std::string as_json(const std::vector<table_row>& rows, const gathering_reporter
     using json = nlohmann::ordered_json;
     json all = json::array();
     for (const table_row& r : rows)
-        for (const lane_set set : {r.set, special}) {
+        for (const lane_set& set : {r.set, special}) {
             if (r.set != ordinary && set != r.set) continue;
             auto of = [&](const std::string& name) { return measured.nanoseconds(name + '/' + set.name); };
             auto rounded = [](double ns) { return std::round(ns * 1000) / 1000; };

@@ -74,13 +74,11 @@ struct dtgamma_kernel : kernel<one_argument<double>, __orvane_dtgamma_data, __or
         auto row = bits(at) & c.row_mask;
         margin = fma(factors, c.factor_margin, lookup(c.margins.entry, row));
         auto g = polynomial_at<false>(row_addresses<W>(&c.eighths, row << 7), u, nullptr);
-        if ((factors > V(0.0)).signs()) {
-            auto f = A;
-            each<7>([&](auto i) ORVANE_LAMBDA {
-                f = f - c.one;
-                g = times(g, select(factors > V(double(i)), f, c.one));
-            });
-        }
+        auto f = A;
+        each<7>([&](auto i) ORVANE_LAMBDA {
+            f = f - c.one;
+            g = times(g, select(factors > V(double(i)), f, c.one));
+        });
         return g;
     }
     // The quotient of two pairs.
@@ -121,7 +119,7 @@ struct dtgamma_kernel : kernel<one_argument<double>, __orvane_dtgamma_data, __or
         auto odd = bits(round_to<downward>(a) + c.two52) << 63;
         auto sign = V(-1.0) ^ as<double>(odd);
         auto y = quotient<W>(c, {select(negative, sign, g.h), andnot(as<double>(negative), g.l)},
-                          {select(negative, product.h, select(below_1, a, c.one)), keep(negative, product.l)});
+                             {select(negative, product.h, select(below_1, a, c.one)), keep(negative, product.l)});
         auto tested = rounding_test(y, y.h * (margin + keep(negative, V(c.reflection_margin))));
         special = special | tested.special;
         if (!special.signs()) return answer{tested.first, special};
