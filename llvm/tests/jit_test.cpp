@@ -212,6 +212,24 @@ TEST(Jit, ExactCallsInALeafKeepTheStack) {
         << "kernel void k(global const float* a, global float* x, float p, float q) { size_t i = get_global_id(0);"
            " float u = a[i]; float v = log(u) * p + q; float w = log(v) - u; float t = log(w * p + v);"
            " x[i] = t + u * 3 + v * 5 + w * 7 + (float)(int)(i * 3) + p * t; }";
+    // Frames of several sizes: one of them would lie wrong by chance.
+    for (int frame = 0; frame < 4; frame++) {
+        const std::string more[] = {"", "if (p > 9) q = a[i * 7];", "p += a[i + 8] * a[i + 16];",
+                                    "if (p > 9) { x[i + 1] = a[i * 3]; x[i * 5] = p; }"};
+        const std::string small = ORVANE_TEST_FOLDER "/frame" + std::to_string(frame) + ".cl";
+        std::ofstream(small) << "kernel void k(global const float* a, global float* x, float p, float q) { size_t i "
+                                "= get_global_id(0);"
+                                " float u = a[i]; " +
+                                    more[frame] + " x[i] = log(u) + p * q; }";
+        std::vector<float> in(512, 1), out(512);
+        float *pin = in.data(), *pout = out.data(), p = 1, q = 1;
+        void* arguments[] = {&pin, &pout, &p, &q};
+        const jit::program exact(small, {.width = 8, .exact_clobbers = true, .library = ""});
+        stack_residue = ~0ull;
+        exact.kernel("k")(arguments, 0, 64);
+        EXPECT_EQ(stack_residue, 8u) << "frame " << frame;
+    }
+
     std::vector<float> a(64), x(64);
     for (size_t i = 0; i < a.size(); i++)
         a[i] = float(i) * 0.25f + 1;
