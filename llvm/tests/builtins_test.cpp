@@ -53,7 +53,7 @@ std::string calls_of_all_builtins(int& count) {
     static const std::regex declaration(R"(^([a-z]\w*) __ovld (?:__cnfn |__purefn )?(\w+)\(([^)]*)\);.*)");
     static const std::regex elsewhere(
         "get_.*|atomic_.*|atom_.*|async_.*|wait_.*|.*image.*|.*sub_group.*|work_group.*|.*fence.*|barrier|prefetch|"
-        "ndrange.*|.*event.*|.*pipe.*|.*reserve.*|enqueue.*|to_.*|amd_.*|arm_.*|intel.*|.*4x8packed.*|dot_acc_sat|"
+        "ndrange.*|.*event.*|.*pipe.*|.*reserve.*|enqueue.*|to_.*|a[mr][dm]_.*|.*4x8packed.*|dot_acc_sat|"
         "bit_reverse|bitfield_.*|.*cmpxchg.*|cl_.*|retain.*|release.*|is_valid.*|create.*|set_.*|capture.*|dot_.*");
     static const std::regex half(R"(.*\bhalf\d*\b[^*]*(,.*|$))");
     std::string line, text = "#pragma OPENCL EXTENSION cl_khr_fp64 : enable\n";
