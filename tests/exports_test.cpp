@@ -193,7 +193,7 @@ TEST(Json, TellsWhatABuiltInBecomes) {
                 const auto [at, first] = serving.try_emplace(key + e[key].get<std::string>(), e["symbol"]);
                 EXPECT_TRUE(first) << e[key] << " becomes " << at->second << " and " << e["symbol"];
             }
-        for (const json& object : {e, e["arguments"][0], e["results"].back()})
+        for (const json& object : {e, e["arguments"][0], e["results"].back(), e["error"], e["opencl_limit"]})
             for (const auto& [key, value] : object.items())
                 EXPECT_NE(page.find("`" + key + "`"), page.npos) << "docs/calling.md does not explain " << key;
     }

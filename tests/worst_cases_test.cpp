@@ -1,5 +1,6 @@
 // The largest known errors of data/worst_cases.txt, measured again, and what is said of them elsewhere.
 #include "tools/extended.h"
+#include "tools/opencl_limits.h"
 #include "tools/whole_file.h"
 #include "tools/worst_cases.h"
 
@@ -70,6 +71,67 @@ TEST(WorstCases, StandAboveTheExportsOfTheirKernels) {
             << source << ": build/orvane-search --lines writes them";
     }
     EXPECT_EQ(placed, (int)rows.size());
+}
+
+// Every width gives a worst case the bits that one lane gives it, and no error is beyond what OpenCL C allows.
+TEST(WorstCases, AreWithinTheLimitsOfOpenClAtEveryWidth) {
+    truth t;
+    std::set<const kernel_row*> held;
+    const auto cases = read_worst_cases(file);
+    for (const auto& row : library_rows()) {
+        const auto limit = limit_of(row);
+        if (!limit || !limit->ulp || !limit->where.empty()) continue;
+        const kernel_row* kernel =
+            row.twin_name.empty() ? &row : find_row(library_rows(), row.twin_name, row.twin_tier);
+        for (const auto& w : cases) {
+            if (w.row != kernel) continue;
+            SCOPED_TRACE(std::string(row.name) + row.suffix() + " at " + line_of(w));
+            held.insert(&row);
+            ASSERT_TRUE(t(row, w.arguments.data()));
+            std::vector<words> one, results;
+            for (int width : widths) {
+                const auto plan = plan_of(row, width);
+                lane_caller call(plan, library_under_test().address(plan.symbol));
+                std::vector<words> arguments;
+                for (uint64_t a : w.arguments)
+                    arguments.emplace_back(stored_lanes(width), a);
+                call(arguments, results);
+                if (width == 1) one = results;
+                for (size_t j = 0; j < results.size(); j++)
+                    for (int i = 0; i < width; i++) {
+                        EXPECT_EQ(results[j][i], one[j][0]) << "width " << width << " lane " << i;
+                        if (is_floating(row.result(j)))
+                            EXPECT_LE(t.error(j, row.result(j), results[j][i]), limit->ulp) << "width " << width;
+                    }
+            }
+        }
+        const bool is_rounded_once = std::set<std::string>{"div", "inv", "sqrt"}.contains(row.base());
+        EXPECT_TRUE(held.contains(&row) || is_rounded_once) << row.name << row.suffix() << " has a limit and no case";
+    }
+    EXPECT_GT(held.size(), 80u);
+}
+
+// What callers are told of families without rows, which are exact or rounded once: arguments of all kinds.
+TEST(WorstCases, FamiliesWithoutRowsKeepTheErrorOfTheirMeaning) {
+    truth t;
+    rng r(17);
+    const auto cases = read_worst_cases(file);
+    for (const auto& row : library_rows()) {
+        if (!row.twin_name.empty() || row.sclass == signature_class::bits_to_nan) continue;
+        if (std::any_of(cases.begin(), cases.end(), [&](const worst_case& w) { return w.row == &row; })) continue;
+        const known_error told = largest_known_error(row, cases);
+        ASSERT_EQ(told.measure, error_measure::ulp);
+        one_lane kernel(row, library_under_test());
+        for (int i = 0; i < 2000; i++) {
+            std::vector<uint64_t> lane;
+            for (const auto& a : random_patterns(row, 1, r))
+                lane.push_back(a[0]);
+            // The truth knows no sign of a NaN, which copysign looks at.
+            if (row.base() == "copysign" && std::isnan(value_of(row.in, lane[1]))) continue;
+            kernel(lane);
+            EXPECT_LE(kernel.error(t, told.measure), told.error) << row.name << " of " << lane[0];
+        }
+    }
 }
 
 // The search itself: what it prints is a row of the file, and mistakes are told in one line.

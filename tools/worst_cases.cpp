@@ -177,6 +177,37 @@ std::vector<worst_case> read_worst_cases(const std::filesystem::path& file) {
 }
 
 namespace {
+
+// The largest error, in ulps, of what data/worst_cases.txt does not list.
+double error_by_meaning(const kernel_row& row) {
+    const std::string base = row.base();
+    if (base == "fract") return 1; // rounded to nearest, but never up to 1
+    if (row.sclass != signature_class::conversion) {
+        for (auto rounded : {"div", "inv", "sqrt", "fma", "fdim", "ldexp"})
+            if (base == rounded) return 0.5;
+        return 0;
+    }
+    const bool widens = row.out == lane_type::f64 && size_of(row.in) == 4;
+    if (!is_floating(row.out) || widens) return 0;
+    return base.find("rte") != base.npos ? 0.5 : 1;
+}
+
+} // namespace
+
+known_error largest_known_error(const kernel_row& row, const std::vector<worst_case>& cases) {
+    const kernel_row* kernel = &row;
+    if (!row.twin_name.empty()) kernel = find_row(library_rows(), row.twin_name, row.twin_tier);
+    // Of two paths one may be told in ulps and the other in a coarser measure; the coarser tells both.
+    const worst_case* largest = nullptr;
+    const double ulp = row.in == lane_type::f32 ? 0x1p-23 : 0x1p-52; // at most, of a value
+    const auto size = [&](const worst_case& w) { return w.measure == error_measure::ulp ? w.error * ulp : w.error; };
+    for (const auto& w : cases)
+        if (w.row == kernel && (!largest || size(*largest) < size(w))) largest = &w;
+    if (largest) return {largest->error, largest->measure};
+    return {error_by_meaning(*kernel), error_measure::ulp};
+}
+
+namespace {
 std::string arguments_of(const worst_case& w) {
     std::string arguments;
     char word[32];

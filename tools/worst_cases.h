@@ -49,6 +49,15 @@ std::vector<worst_case> read_worst_cases(const std::filesystem::path& file);
 void write_worst_cases(const std::filesystem::path& file, std::vector<worst_case> rows);
 std::string line_of(const worst_case& w); // as in the file, without the end of line
 
+// The largest known error of a pair on any path: of data/worst_cases.txt where that has rows of its kernel, else what
+// follows from the meaning of the family: 0 where results are exact, 0.5 ulp where they are rounded to nearest once,
+// and 1 ulp where they are rounded once in another direction.
+struct known_error {
+    double error;
+    error_measure measure;
+};
+known_error largest_known_error(const kernel_row& row, const std::vector<worst_case>& cases);
+
 // A kernel's one-lane export, lane by lane: results, the path that the lane took, and its error.
 class one_lane {
 public:

@@ -1,8 +1,10 @@
-// Writes what callers get of the list of exports: exports.json and orvane.h.
+// Writes what callers get of the list of exports and of data/worst_cases.txt: exports.json and orvane.h.
 //
 //     write-exports FOLDER
+#include "opencl_limits.h"
 #include "signature.h"
 #include "whole_file.h"
+#include "worst_cases.h"
 
 #include <filesystem>
 #include <iostream>
@@ -63,7 +65,16 @@ bool uses_x87(const kernel_row& row) {
     return base == "lgamma" || base == "lgammar" || (base == "tgamma" && row.in == lane_type::f64);
 }
 
-json object_of(const kernel_row& row, int width) {
+// Errors and limits by their measure: {"ulp": 0.749}. A limit also says where it holds, or how it grows.
+json described(const known_error& e) { return {{std::string(to_string(e.measure)), e.error}}; }
+json described(const std::optional<error_limit>& l) {
+    if (!l) return nullptr;
+    json j = l->absolute ? json{{"absolute", l->absolute}} : json{{"ulp", l->ulp}};
+    if (!l->where.empty()) j["where"] = std::string(l->where);
+    return j;
+}
+
+json object_of(const kernel_row& row, int width, const std::vector<worst_case>& cases) {
     const call_plan p = plan_of(row, width);
     json j{{"symbol", p.symbol},
            {"family", std::string(row.name)},
@@ -102,14 +113,16 @@ json object_of(const kernel_row& row, int width) {
     const json builtin = row.builtin.empty() ? json() : json(row.served_builtin(width));
     j["builtin"] = row.is_relaxed() ? json() : builtin;
     j["relaxed_builtin"] = row.is_relaxed() ? builtin : json();
+    j["error"] = described(largest_known_error(row, cases));
+    j["opencl_limit"] = described(limit_of(row));
     return j;
 }
 
-std::string exports_json() {
+std::string exports_json(const std::vector<worst_case>& cases) {
     std::string s = "[\n";
     for (const auto& row : library_rows())
         for (int w : widths)
-            s += object_of(row, w).dump() + ",\n";
+            s += object_of(row, w, cases).dump() + ",\n";
     s.erase(s.size() - 2, 1);
     return s + "]\n";
 }
@@ -190,7 +203,18 @@ std::string declaration(const call_plan& p) {
     return (row.results() == 2 ? "uint64_t" : typed(r)) + " " + p.symbol + "(" + parameters + ");\n";
 }
 
-std::string header() {
+// "expf rm: largest known error 0.749 ulp; OpenCL C allows 3 ulp and floor(|2 x|) more".
+std::string accuracy_line(const kernel_row& row, const std::vector<worst_case>& cases) {
+    const known_error e = largest_known_error(row, cases);
+    char error[48];
+    snprintf(error, sizeof error, e.error < 1000 ? "%.3g %s" : "%.0f %s", e.error, std::string(to_string(e.measure)).c_str());
+    const auto limit = limit_of(row);
+    return "/* " + std::string(row.name) + " " + std::string(row.tier) + ": " +
+           (e.error ? "largest known error " + std::string(error) : "exact") +
+           (limit ? "; OpenCL C allows " + limit->text() : "") + ". */\n";
+}
+
+std::string header(const std::vector<worst_case>& cases) {
     std::string s = R"(/* The exports of liborvane_l9.so. Written by write-exports.
  *
  * Register-form exports take lane vectors in vector registers 0 to 3 and give them back from 0 on; a vector type here is
@@ -233,6 +257,7 @@ extern "C" {
             s += "\n/* " + std::string(row.name) + ": " + doc_of(row) + " */\n";
             family = row.name;
         }
+        s += accuracy_line(row, cases);
         for (int w : widths)
             s += declaration(plan_of(row, w));
     }
@@ -257,8 +282,9 @@ int main(int argc, char** argv) {
     }
     const std::filesystem::path folder = argv[1];
     try {
-        write_whole(folder / "exports.json", exports_json());
-        write_whole(folder / "orvane.h", header());
+        const auto cases = read_worst_cases(ORVANE_SOURCES "/data/worst_cases.txt");
+        write_whole(folder / "exports.json", exports_json(cases));
+        write_whole(folder / "orvane.h", header(cases));
     } catch (const std::exception& e) {
         std::cerr << "write-exports: " << e.what() << '\n';
         return 1;
