@@ -2,6 +2,7 @@
 // what is an estimate against the instruction, and errors by path. Where the processor's estimate feeds a kernel, no
 // bits are frozen.
 #include "accuracy.h"
+#include "tools/estimates.h"
 
 #include <immintrin.h>
 
@@ -40,6 +41,11 @@ template <class Model> void holds(const char* name, const char* tier, std::vecto
     const auto& y = f(arguments)[0];
     for (size_t i = 0; i < y.size(); i++) {
         const uint64_t x = arguments[0][i], second = arguments.back()[i];
+        // Which of two NaN comes through hangs on the order that the compiler gave the model, where the processor
+        // does not take the first.
+        if (std::isnan(value_of(f.row().in, x)) && std::isnan(value_of(f.row().in, second)) && arguments.size() > 1 &&
+            !first_nan_wins())
+            continue;
         ASSERT_EQ(y[i], word_of(f.row().out, model(x, second)))
             << name << " " << tier << std::hex << " of " << x << ", " << second;
     }
