@@ -136,7 +136,7 @@ struct variants {
 #define SLEEF_FUNCTIONS(name, f, u)                                                                                  \
     variants {                                                                                                       \
         peer{name, vector_pass<8>(Sleef_##f##f8_##u##avx2), vector_pass<4>(Sleef_##f##f4_##u##avx2128)}, peer {      \
-            name, vector_pass<4>(Sleef_##f##d4_##u##avx2), vector_pass < 2>(Sleef_##f##d2_##u##avx2128)              \
+            name, vector_pass<4>(Sleef_##f##d4_##u##avx2), vector_pass<2>(Sleef_##f##d2_##u##avx2128)                \
         }                                                                                                            \
     }
 #define SLEEF(f, u) SLEEF_FUNCTIONS(#u, f, u)
@@ -251,8 +251,10 @@ const std::map<std::string, peers_of_both_types>& floating_table() {
         {"fract", against(with_second{[](auto x, auto* whole) { return x - (*whole = std::floor(x)); }})},
         {"modf", against(with_second{[](auto x, auto* whole) { return std::modf(x, whole); }}, SLEEF_PLAIN(modf))},
         {"frexp", against(with_integer_out{[](auto x, int* n) { return std::frexp(x, n); }})},
-        {"ldexp", against(WITH_INTEGER(std::ldexp(x, n)), {{}, peer{"", vector_pass<4>(Sleef_ldexpd4_avx2), vector_pass<2>(ldexp_d2)}})},
-        {"ilogb", against(ONE(std::ilogb(x)), {{}, peer{"", vector_pass<4>(Sleef_ilogbd4_avx2), vector_pass<2>(ilogb_d2)}})},
+        {"ldexp", against(WITH_INTEGER(std::ldexp(x, n)),
+                          {{}, peer{"", vector_pass<4>(Sleef_ldexpd4_avx2), vector_pass<2>(ldexp_d2)}})},
+        {"ilogb",
+         against(ONE(std::ilogb(x)), {{}, peer{"", vector_pass<4>(Sleef_ilogbd4_avx2), vector_pass<2>(ilogb_d2)}})},
         {"logb", against(ONE(std::logb(x)))},
         {"copysign", against(TWO(std::copysign(x, y)), SLEEF_PLAIN(copysign))},
         {"nextafter", against(TWO(std::nextafter(x, y)), SLEEF_PLAIN(nextafter))},

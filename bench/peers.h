@@ -18,10 +18,10 @@ template <class R, class... A> constexpr bool is_in_registers =
     !std::is_class_v<R> && (!std::is_class_v<A> && ...) && sizeof(R) >= 16 && ((sizeof(A) >= 16) && ...);
 
 struct peer {
-    const char* name;              // "u10": within 1.0 ulp; empty where SLEEF states no error
-    vector_function wide;          // 256 bits a call
-    vector_function narrow;        // 128 bits a call, for vectors that fit them
-    const char* library;           // "SLEEF" or "C", what the compiler makes of scalar code
+    const char* name;       // "u10": within 1.0 ulp; empty where SLEEF states no error
+    vector_function wide;   // 256 bits a call
+    vector_function narrow; // 128 bits a call, for vectors that fit them
+    const char* library;    // "SLEEF" or "C", what the compiler makes of scalar code
     peer(const char* name, vector_function wide, vector_function narrow, const char* library = "SLEEF")
         : name(name), wide(std::move(wide)), narrow(std::move(narrow)), library(library) {}
     const vector_function& at(int width, lane_type t) const { return width * size_of(t) <= 16 ? narrow : wide; }

@@ -1,5 +1,6 @@
-// The peers of families that are an instruction or two: what a compiler makes of plain scalar code. Each is a function
-// of a vector that is not inlined, as ours are not; the inlined loop over the buffer stands beside it for information.
+// The peers of families that are an instruction or two: what a compiler makes of plain scalar code. Each is a
+// function of a vector that is not inlined, as ours are not; the inlined loop over the buffer stands beside it for
+// information.
 #include "bench/peers.h"
 
 #include <bit>

@@ -29,8 +29,8 @@ template <class M, int W> ORVANE_INLINE auto widen(lanes<M, W> m) {
 }
 
 // Signed 32-bit results: the processor's conversion, which gives the top bit alone for all that is out of range.
-template <class T, rounding R, bool Saturating, const auto& Block>
-struct to_i32 : kernel<conversion<T, int32_t>, Block> {
+template <class T, rounding R, bool Saturating, const auto& Block> struct to_i32
+    : kernel<conversion<T, int32_t>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto r = round_to<R>(x);
         auto y = convert<int32_t>(r);
@@ -46,8 +46,8 @@ struct to_i32 : kernel<conversion<T, int32_t>, Block> {
 
 // Unsigned 32-bit results: the signed conversion below 2^31; above, the pattern shifted until the leading significand
 // bit is bit 31.
-template <class T, rounding R, bool Saturating, const auto& Block>
-struct to_u32 : kernel<conversion<T, uint32_t>, Block> {
+template <class T, rounding R, bool Saturating, const auto& Block> struct to_u32
+    : kernel<conversion<T, uint32_t>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         const lanes<T, W> top_bit(T(-0.0)); // clears the sign and sets the leading bit: one constant for both
         auto r = round_to<R>(x);
@@ -68,8 +68,8 @@ struct to_u32 : kernel<conversion<T, uint32_t>, Block> {
 // 64-bit results, for which there is no conversion: the integer is built from the pattern of the magnitude. From 2^52
 // (2^23) on it is the significand shifted left; below that, adding 2^52 (2^23) lays it into the significand field.
 // The saturating unsigned form keeps the sign, since its last step drops negative lanes anyway.
-template <class T, class I, rounding R, bool Saturating, const auto& Block>
-struct to_64 : kernel<conversion<T, I>, Block> {
+template <class T, class I, rounding R, bool Saturating, const auto& Block> struct to_64
+    : kernel<conversion<T, I>, Block> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         constexpr bool is_signed = std::is_signed_v<I>;
         constexpr int significand_bits = sizeof(T) == 8 ? 52 : 23;

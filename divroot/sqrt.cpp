@@ -21,11 +21,11 @@ struct sinvsqrt_block {
     SLOT(float, 2, one, 0x3F800000)
     SLOT(float, 3, estimate_mask, 0xFFFF8000) // keeps the top 9 significant bits of the estimate
     // Fit on -2^-6.8 <= d <= 2^-10.4: 1 + d*(k1 + k2*d + k3*d^2) = 1/sqrt(1 + d) to 2^-29.1 relative
-    SLOT(float, 4, k3, 0xBEA00000)            // -0.3125, series of 1 / sqrt(1 + d)
-    SLOT(float, 5, k2, 0x3EC00000)            // 0.375
-    SLOT(float, 6, k1, 0xBF000000)            // -0.5
-    SLOT(float, 7, three, 0x40400000)         // 3.0, Newton step
-    SLOT(float, 8, minus_half, 0xBF000000)    // -0.5, Newton step
+    SLOT(float, 4, k3, 0xBEA00000)         // -0.3125, series of 1 / sqrt(1 + d)
+    SLOT(float, 5, k2, 0x3EC00000)         // 0.375
+    SLOT(float, 6, k1, 0xBF000000)         // -0.5
+    SLOT(float, 7, three, 0x40400000)      // 3.0, Newton step
+    SLOT(float, 8, minus_half, 0xBF000000) // -0.5, Newton step
 };
 ORVANE_BLOCK(sinvsqrt_block, __orvane_sinvsqrt_data)
 ORVANE_BLOCK_TWIN(__orvane_sinvsqrt_native_data, __orvane_sinvsqrt_data)
@@ -133,7 +133,8 @@ ORVANE_TWIN(rsqrtf, _half, rsqrtf, _native)
 
 // The estimate exists in single precision alone. x = f 4^k with f the significand, or twice it, as the exponent's
 // parity has it: in integers f is brought into a float, cut short, and 2^-k made from the rest of the exponent.
-template <const auto& Block> struct dinvsqrt_series : kernel<one_argument<double>, Block, __orvane_dinvsqrt_cout_rare> {
+template <const auto& Block> struct dinvsqrt_series
+    : kernel<one_argument<double>, Block, __orvane_dinvsqrt_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         auto exponent = bits(x) & c.exponent_mask;
         auto even = andnot(exponent, c.exponent_one);

@@ -13,10 +13,10 @@ struct dexp_block {
     SLOT(double, 19, ln2_64_hi, 0x3F862E42FEFA0000)     // 0.010830424696223417, ln 2 / 64, high part
     SLOT(double, 20, ln2_64_lo, 0x3D1CF79ABC9E3B3A)     // 2.572804622327669e-14, ln 2 / 64, low part
     // Fit on |r| <= ln2/128: 1 + r + c2*r^2 + c3*r^3 + c4*r^4 + c5*r^5 = exp(r) to 2^-59.3 relative
-    SLOT(double, 21, c2, 0x3FDFFFFFFFFFDB3B)            // 0.4999999999994775, coefficient of r^2
-    SLOT(double, 22, c3, 0x3FC555555555653E)            // 0.1666666666667797, coefficient of r^3
-    SLOT(double, 23, c4, 0x3FA555573F218B93)            // 0.04166672368662385, coefficient of r^4
-    SLOT(double, 24, c5, 0x3F8111112D9F549B)            // 0.00833333416441411, coefficient of r^5
+    SLOT(double, 21, c2, 0x3FDFFFFFFFFFDB3B) // 0.4999999999994775, coefficient of r^2
+    SLOT(double, 22, c3, 0x3FC555555555653E) // 0.1666666666667797, coefficient of r^3
+    SLOT(double, 23, c4, 0x3FA555573F218B93) // 0.04166672368662385, coefficient of r^4
+    SLOT(double, 24, c5, 0x3F8111112D9F549B) // 0.00833333416441411, coefficient of r^5
     GAP(25, 25)
     SLOT(uint64_t, 26, offset_mask, 0x00000000000003FF) // byte offset of the table entry in the bits of u
     SLOT(double, 27, abs_mask, 0x7FFFFFFFFFFFFFFF)
@@ -31,9 +31,9 @@ struct dexp_rm_block {
     SLOT(double, 16, inv_ln2_128, 0x40671547652B82FE) // 184.6649652337873, 128 / ln 2
     SLOT(double, 17, shifter, 0x4338000000000000)     // 1.5 * 2^52
     // Fit on |r| <= ln2/256: 1 + r + b2*r^2 = exp(r) to 2^-28.2 relative
-    SLOT(double, 18, one, 0x3FF0000000000000)         // 1.0
-    SLOT(double, 19, b2, 0x3FDFFFFC2808F7E8)          // 0.49999908361121337, coefficient of r^2
-    SLOT(double, 20, ln2_128, 0x3F762E42FEFA39EF)     // 0.0054152123481245725, ln 2 / 128
+    SLOT(double, 18, one, 0x3FF0000000000000)     // 1.0
+    SLOT(double, 19, b2, 0x3FDFFFFC2808F7E8)      // 0.49999908361121337, coefficient of r^2
+    SLOT(double, 20, ln2_128, 0x3F762E42FEFA39EF) // 0.0054152123481245725, ln 2 / 128
     SLOT(uint64_t, 21, index_mask, 0x000000000000007F)
     SLOT(int32_t, 22, abs_high_mask, 0x7FFFFFFF)          // applied to the high word of x
     SLOT(int32_t, 23, ordinary_high_limit, 0x4086232A)    // signed limit on that word

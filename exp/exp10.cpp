@@ -13,11 +13,11 @@ struct dexp10_block {
     SLOT(double, 34, log10_2_hi, 0x3F63441350A00000)   // 0.0023517968411397305, log10(2) / 128, high part
     SLOT(double, 35, log10_2_lo, 0xBD10C0219DC1DA99)   // -1.487744411497209e-14, low part
     // Fit on |r| <= ln2/log(10)/256: 1 + c1*r + c2*r^2 + c3*r^3 + c4*r^4 + c5*r^5 = 10^r to 2^-63.5 relative
-    SLOT(double, 36, c1, 0x40026BB1BBB55516)           // 2.302585092994046, polynomial
-    SLOT(double, 37, c2, 0x40053524C73CE8E3)           // 2.650949055239026, polynomial
-    SLOT(double, 38, c3, 0x4000470591CCEA8B)           // 2.0346785917911965, polynomial
-    SLOT(double, 39, c4, 0x3FF2BD767584DB59)           // 1.1712555494866221, polynomial
-    SLOT(double, 40, c5, 0x3FE144C03EFAFB54)           // 0.5396424512945068, polynomial
+    SLOT(double, 36, c1, 0x40026BB1BBB55516) // 2.302585092994046, polynomial
+    SLOT(double, 37, c2, 0x40053524C73CE8E3) // 2.650949055239026, polynomial
+    SLOT(double, 38, c3, 0x4000470591CCEA8B) // 2.0346785917911965, polynomial
+    SLOT(double, 39, c4, 0x3FF2BD767584DB59) // 1.1712555494866221, polynomial
+    SLOT(double, 40, c5, 0x3FE144C03EFAFB54) // 0.5396424512945068, polynomial
     SLOT(uint64_t, 41, exponent_mask, 0xFFF0000000000000)
     SLOT(int32_t, 42, index_mask, 0x0000007F)
     SLOT(int32_t, 43, abs_high_mask, 0x7FFFFFFF)
@@ -44,8 +44,8 @@ struct sexp10_block {
     SLOT(float, 18, log10_2_hi, 0x3B1A4000)   // 0.002353668212890625
     SLOT(float, 19, log10_2_lo, 0xB5FB2BD8)   // -1.8713717508944683e-06
     // Fit on |r| <= ln2/log(10)/256: 1 + c1*r + c2*r^2 = 10^r to 2^-30.1 relative
-    SLOT(float, 20, c1, 0x40135D97)           // 2.3025872707366943
-    SLOT(float, 21, c2, 0x4029A929)           // 2.650949716567993
+    SLOT(float, 20, c1, 0x40135D97) // 2.3025872707366943
+    SLOT(float, 21, c2, 0x4029A929) // 2.650949716567993
     SLOT(uint32_t, 22, index_mask, 0x0000007F)
     SLOT(int32_t, 23, abs_mask, 0x7FFFFFFF)
     SLOT(int32_t, 24, ordinary_limit, 0x4217B818) // 37.929779052734375, compared as bits

@@ -8,7 +8,7 @@ ORVANE_SLOW_PATH(__orvane_sexp2_cout_rare, const float* x, float* result);
 
 struct dexp2_block {
     TABLE(0, exp2_pairs, exp2_pairs_64)
-    SLOT(double, 16, shifter, 0x42D8000000000000)         // 1.5 * 2^46: last place 2^-6
+    SLOT(double, 16, shifter, 0x42D8000000000000) // 1.5 * 2^46: last place 2^-6
     // Fit on |r| <= 1/128: 1 + c1*r + c2*r^2 + c3*r^3 + c4*r^4 + c5*r^5 = exp2(r) to 2^-59.3 relative
     SLOT(double, 17, c1, 0x3FE62E42FEFA39EF)              // 0.6931471805599453, polynomial
     SLOT(double, 18, c2, 0x3FCEBFBDFF82A23A)              // 0.24022650695884967, polynomial
@@ -23,13 +23,13 @@ struct dexp2_block {
 struct dexp2_rm_block {
     SLOT(double, 0, shifter, 0x4338000000000000) // 1.5 * 2^52
     // Fit on |v| <= 1/2: a0 + a1*v + a2*v^2 + a3*v^3 + a4*v^4 + a5*v^5 + a6*v^6 = exp2(v) to 2^-29.0 relative
-    SLOT(double, 1, a0, 0x3FF0000000261500)      // 1.0000000005541665
-    SLOT(double, 2, a1, 0x3FE62E430C7E923C)      // 0.6931472057372683
-    SLOT(double, 3, a2, 0x3FCEBFBDADCB0BA8)      // 0.24022646890634047
-    SLOT(double, 4, a3, 0x3FAC6AED4B950AE1)      // 0.0555032877696442
-    SLOT(double, 5, a4, 0x3F83B2DBBC0FE08E)      // 0.009618488957116502
-    SLOT(double, 6, a5, 0x3F55F456A8ADF058)      // 0.0013399931219444574
-    SLOT(double, 7, a6, 0x3F241D3336B2AE61)      // 0.0001534581200294148
+    SLOT(double, 1, a0, 0x3FF0000000261500) // 1.0000000005541665
+    SLOT(double, 2, a1, 0x3FE62E430C7E923C) // 0.6931472057372683
+    SLOT(double, 3, a2, 0x3FCEBFBDADCB0BA8) // 0.24022646890634047
+    SLOT(double, 4, a3, 0x3FAC6AED4B950AE1) // 0.0555032877696442
+    SLOT(double, 5, a4, 0x3F83B2DBBC0FE08E) // 0.009618488957116502
+    SLOT(double, 6, a5, 0x3F55F456A8ADF058) // 0.0013399931219444574
+    SLOT(double, 7, a6, 0x3F241D3336B2AE61) // 0.0001534581200294148
     SLOT(int32_t, 8, abs_high_mask, 0x7FFFFFFF)
     SLOT(int32_t, 9, ordinary_high_limit, 0x408FEFFF)
 };
@@ -37,8 +37,8 @@ struct sexp2_block {
     TABLE(0, exp2_pairs, exp2f_pairs_64)
     SLOT(float, 8, shifter, 0x48400000) // 196608.0 = 1.5 * 2^17
     // Fit on |r| <= 1/128: 1 + c1*r + c2*r^2 = exp2(r) to 2^-27.1 relative
-    SLOT(float, 9, c1, 0x3F317243)      // 0.693149745464325
-    SLOT(float, 10, c2, 0x3E75FDFC)     // 0.24022668600082397
+    SLOT(float, 9, c1, 0x3F317243)  // 0.693149745464325
+    SLOT(float, 10, c2, 0x3E75FDFC) // 0.24022668600082397
     SLOT(uint32_t, 11, exponent_mask, 0xFF800000)
     SLOT(uint32_t, 12, index_mask, 0x0000003F)
     SLOT(int32_t, 13, abs_mask, 0x7FFFFFFF)
@@ -47,10 +47,10 @@ struct sexp2_block {
 struct sexp2_native_block {
     SLOT(float, 0, shifter, 0x4B400000) // 1.5 * 2^23
     // Fit on |v| <= 1/2: a0 + a1*v + a2*v^2 + a3*v^3 = exp2(v) to 2^-13.7 relative
-    SLOT(float, 1, a0, 0x3F7FFB49)      // 0.9999280571937561
-    SLOT(float, 2, a1, 0x3F31798D)      // 0.6932609677314758
-    SLOT(float, 3, a2, 0x3E786F13)      // 0.24261121451854706
-    SLOT(float, 4, a3, 0x3D61FBCC)      // 0.055171772837638855
+    SLOT(float, 1, a0, 0x3F7FFB49) // 0.9999280571937561
+    SLOT(float, 2, a1, 0x3F31798D) // 0.6932609677314758
+    SLOT(float, 3, a2, 0x3E786F13) // 0.24261121451854706
+    SLOT(float, 4, a3, 0x3D61FBCC) // 0.055171772837638855
     SLOT(int32_t, 5, abs_mask, 0x7FFFFFFF)
     SLOT(int32_t, 6, ordinary_limit, 0x42FC0000)
 };

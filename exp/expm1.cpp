@@ -18,7 +18,7 @@ struct dexpm1_block {
     SLOT(double, 37, ln2_128_hi, 0x3F762E42FEF80000)  // 0.005415212347998022, ln 2 / 128, high part
     SLOT(double, 38, ln2_128_lo, 0x3D41CF79ABC9E3B4)  // 1.2655086083325438e-13, low part
     SLOT(double, 39, index_shifter,
-         0x42F80000001FF800) // 1.5 * 2^48 with the exponent bias in its low bits
+         0x42F80000001FF800)                              // 1.5 * 2^48 with the exponent bias in its low bits
     SLOT(uint64_t, 40, offset_mask, 0x00000000000007F0)   // byte offset of a table entry
     SLOT(uint64_t, 41, exponent_bits, 0x00000000003FF800) // bits of u that hold the exponent
     SLOT(double, 42, split_mask, 0xFFFFFFFFF8000000)      // clears the low 27 bits

@@ -117,12 +117,12 @@ ORVANE_BLOCK_TWIN(__orvane_dilogb_data, __orvane_dlogb_data)
 ORVANE_BLOCK_TWIN(__orvane_silogb_data, __orvane_slogb_data)
 
 // The exponent of a T as an integer (ilogb) or as a T (logb).
-template <class T, class To, const auto& Block, auto& Rare>
-struct exponent_kernel : kernel<conversion<T, To>, Block, Rare> {
+template <class T, class To, const auto& Block, auto& Rare> struct exponent_kernel
+    : kernel<conversion<T, To>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto ef = words(x) & c.exp_word;
         lane_bits<W> not_normal = marked<T, W>((ef == c.zero_word) | (ef == c.exp_word));
-        auto exponent = packed<T, W>((ef >> field_shift<T>) - c.bias);
+        auto exponent = packed<T, W>((ef >> field_shift<T>)-c.bias);
         if constexpr (is_floating<To>) return answer{convert<To>(exponent), not_normal};
         else return answer{exponent, not_normal};
     }

@@ -22,13 +22,13 @@ template <> struct of_type<double> {
     static constexpr int up = 55;
     static constexpr double scale = 0x1p55, scale_back = 0x1p-55;
     static constexpr const double (&small)[2] = _own_small_value_64, (&large)[2] = _large_value_64,
-                                 (&least)[2] = _min_subnormal_64;
+                                  (&least)[2] = _min_subnormal_64;
 };
 template <> struct of_type<float> {
     static constexpr int up = 25;
     static constexpr float scale = 0x1p25f, scale_back = 0x1p-25f;
     static constexpr const float (&small)[2] = _small_value_32, (&large)[2] = _large_value_32,
-                                (&least)[2] = _min_subnormal_32;
+                                 (&least)[2] = _min_subnormal_32;
 };
 template <class T> bool is_zero(T v) { return v == T(0); }
 

@@ -49,7 +49,7 @@ template <class T, const auto& Block, auto& Rare> struct fmod_kernel : kernel<tw
         auto special = beyond_one_quotient(c, A, Y);
         auto q = round_to<toward_zero>(x / y);
         auto s = x & c.sign_mask;
-        auto r = fma(-q, s ^ y, A); // |x| - |q| |y|, exactly
+        auto r = fma(-q, s ^ y, A);             // |x| - |q| |y|, exactly
         r = r + keep(r < lanes<T, W>(T(0)), Y); // where x / y was rounded up to an integer, q is one too large
         return answer{s | r, special};
     }
@@ -90,9 +90,8 @@ template <class T, int W> struct nearest_multiple {
     lanes<T, W> n, r, v;
     lanes<int_of<T>, W> beyond;
 };
-template <class T, int W>
-ORVANE_INLINE nearest_multiple<T, W> off_nearest_multiple(const auto& c, lanes<T, W> x, lanes<T, W> y,
-                                                          lanes<T, W> Y) {
+template <class T, int W> ORVANE_INLINE nearest_multiple<T, W> off_nearest_multiple(const auto& c, lanes<T, W> x,
+                                                                                    lanes<T, W> y, lanes<T, W> Y) {
     auto yh = y & c.split_mask, yl = y - yh;
     auto n = round_to<by_mode_quietly>(x / y);
     auto r = (x - n * yh) - n * yl; // all exact: n and the halves of y are short

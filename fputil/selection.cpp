@@ -32,8 +32,8 @@ struct larger_magnitude {
     }
 };
 
-template <class T, class Choice, const auto& Pool, auto& Rare>
-struct selection_kernel : kernel<two_arguments<T>, Pool, Rare> {
+template <class T, class Choice, const auto& Pool, auto& Rare> struct selection_kernel
+    : kernel<two_arguments<T>, Pool, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, lanes<T, W> y) {
         auto a = x & c.magnitude, b = y & c.magnitude;
         lane_bits<W> not_finite = marked<T, W>(max(words(a), words(b)) > c.largest_word); // x or y

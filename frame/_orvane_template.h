@@ -20,7 +20,8 @@
 //     template <int W> static auto large_path(block, x..., answer)    an inline path for the lanes that the formula
 //                                                                      left as special; gives all results, and as
 //                                                                      special what needs the slow path
-//     template <int W> static auto beyond(block, x...)                beside large_path: where a vector has lanes that
+//     template <int W> static auto beyond(block, x...)                beside large_path: where a vector has lanes
+//     that
 //                                                                      this marks, large_path(block, x...) takes the
 //                                                                      formula's place, which then sees none of them
 //     template <int W> static auto reduce(block, x...)                a step before the formula that gives what
@@ -78,7 +79,7 @@ namespace detail {
 
 // f(elements of the tuple). std::apply calls by way of functions that some compilers leave out of line.
 template <class F, class Tuple> ORVANE_INLINE decltype(auto) applied(const F& f, Tuple& t) {
-    return [&]<size_t... I>(std::index_sequence<I...>) ORVANE_LAMBDA -> decltype(auto) { return f(std::get<I>(t)...); }
+    return [&]<size_t... I>(std::index_sequence<I...>) ORVANE_LAMBDA->decltype(auto) { return f(std::get<I>(t)...); }
     (std::make_index_sequence<std::tuple_size_v<std::remove_const_t<Tuple>>>{});
 }
 

@@ -162,8 +162,8 @@ template <class S, int W> struct incoming {
     }
 };
 
-// Results in vector registers 0 to 3. A C function returns one register; the others are variables pinned to theirs and
-// named by an empty asm. This leans on two things that hold in GCC and are not promised by the language: a local
+// Results in vector registers 0 to 3. A C function returns one register; the others are variables pinned to theirs
+// and named by an empty asm. This leans on two things that hold in GCC and are not promised by the language: a local
 // register variable is in its register where an asm names it as an operand, and nothing moves between this asm, which
 // is the last statement before the return, and the return itself, which only puts r[0] into register 0. The test of
 // calling forms looks at every export's registers.

@@ -323,8 +323,8 @@ template <class U, class T, int W> ORVANE_INLINE lanes<U, W> as(lanes<T, W> a) {
 template <class T, int W> ORVANE_INLINE lanes<uint_of<T>, W> bits(lanes<T, W> a) { return as<uint_of<T>>(a); }
 template <class T, int W> ORVANE_INLINE lanes<int_of<T>, W> signed_bits(lanes<T, W> a) { return as<int_of<T>>(a); }
 
-// y under the sign of x, by an OR: -0 for x = -0. The mask is read here, where one that a kernel reads for other steps
-// too would stay in a register in between.
+// y under the sign of x, by an OR: -0 for x = -0. The mask is read here, where one that a kernel reads for other
+// steps too would stay in a register in between.
 template <class T, int W> ORVANE_INLINE lanes<T, W> with_sign_of(lanes<T, W> y, lanes<T, W> x) {
     return y | (x & lanes<T, W>(T(-0.0)));
 }
@@ -453,8 +453,8 @@ ORVANE_INLINE lanes<int64_t, W> high_word_exceeds(lanes<double, W> x, const M& m
     return (typename lanes<int64_t, W>::raw)words.v;
 }
 
-// What tests on the fields of floating lanes look at, 32-bit words in their places: a double is its high word, and what
-// its low word gives does not count, since the sign of a lane is what marks it.
+// What tests on the fields of floating lanes look at, 32-bit words in their places: a double is its high word, and
+// what its low word gives does not count, since the sign of a lane is what marks it.
 template <class T, int W> ORVANE_INLINE auto words(lanes<T, W> x) {
     if constexpr (sizeof(T) == 8) return words_in_place<int32_t>(x);
     else return signed_bits(x);

@@ -39,9 +39,7 @@ template <class T> constexpr T invalid = sizeof(T) == 8 ? T(f64(0x7FF80000000000
 template <class T> using pattern = decltype(bits(T()));
 template <class T> constexpr pattern<T> sign_bit = bits(T(-0.0));
 
-template <class T> int biased_exponent(T x) {
-    return int(bits(x) >> fraction_bits<T>) & top_exponent<T>;
-}
+template <class T> int biased_exponent(T x) { return int(bits(x) >> fraction_bits<T>) & top_exponent<T>; }
 // Sign and significand of x under another exponent field.
 template <class T> T with_biased_exponent(T x, int field) {
     const auto kept = bits(x) & ~(pattern<T>(top_exponent<T>) << fraction_bits<T>);
@@ -60,8 +58,8 @@ template <class T> T with_sign_of(T x, T v) { return std::bit_cast<T>(bits(magni
 template <class T> bool is_infinite(T x) { return magnitude(x) == T(__builtin_inf()); }
 template <class T> bool is_nan(T x) { return x != x; }
 
-// What an operation on x and y gives if one of them is a NaN: that of two is x, quieted. Written out since the compiler
-// may exchange the operands of a sum or a product.
+// What an operation on x and y gives if one of them is a NaN: that of two is x, quieted. Written out since the
+// compiler may exchange the operands of a sum or a product.
 template <class T> T nan_of(T x, T y) { return (is_nan(x) ? x : y) * T(1.0); }
 
 // What 0 / 0 is on the processor: a NaN with its sign set, and the invalid flag; a compiler's own has it clear.

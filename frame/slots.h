@@ -96,8 +96,8 @@ template <class B> constexpr int reading_point() {
     ::orvane::slot<T, entries> name{__VA_ARGS__};                                                                    \
     ORVANE_PLACED(64 * (number), name)
 
-// A table in memory, from slot `number` on: a copy of a constexpr object, which may serve other blocks too. table_at is
-// declared to be asked for alone.
+// A table in memory, from slot `number` on: a copy of a constexpr object, which may serve other blocks too. table_at
+// is declared to be asked for alone.
 #define TABLE(number, name, ...)                                                                                     \
     alignas(::orvane::slot_bytes) std::remove_const_t<decltype(__VA_ARGS__)> name = __VA_ARGS__;                     \
     static void table_at(std::integral_constant<int, 64 * (number)>);                                                \

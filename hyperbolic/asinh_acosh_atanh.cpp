@@ -25,22 +25,22 @@ struct sasinh_block {
     SLOT(float, 31, one, 0x3F800000) // 1.0
     // Fit on |f| <= 1/3: f + l1*f^2 + l2*f^3 + l3*f^4 + l4*f^5 + l5*f^6 + l6*f^7 + l7*f^8 + l8*f^9 = log(1 + f)
     // to 2^-24.7 relative
-    SLOT(float, 32, l1, 0xBF000000)  // -0.5, coefficient of f^2
-    SLOT(float, 33, l2, 0x3EAAAA94)  // 0.33333266, f^3
-    SLOT(float, 34, l3, 0xBE80058E)  // -0.25004238, f^4
-    SLOT(float, 35, l4, 0x3E4CE190)  // 0.2000792, f^5
-    SLOT(float, 36, l5, 0xBE28AD37)  // -0.16472326, f^6
-    SLOT(float, 37, l6, 0x3E0FCB12)  // 0.14042309, f^7
-    SLOT(float, 38, l7, 0xBE1AD9E3)  // -0.1512218, f^8
-    SLOT(float, 39, l8, 0x3E0D84ED)  // 0.13820238, f^9
+    SLOT(float, 32, l1, 0xBF000000) // -0.5, coefficient of f^2
+    SLOT(float, 33, l2, 0x3EAAAA94) // 0.33333266, f^3
+    SLOT(float, 34, l3, 0xBE80058E) // -0.25004238, f^4
+    SLOT(float, 35, l4, 0x3E4CE190) // 0.2000792, f^5
+    SLOT(float, 36, l5, 0xBE28AD37) // -0.16472326, f^6
+    SLOT(float, 37, l6, 0x3E0FCB12) // 0.14042309, f^7
+    SLOT(float, 38, l7, 0xBE1AD9E3) // -0.1512218, f^8
+    SLOT(float, 39, l8, 0x3E0D84ED) // 0.13820238, f^9
     GAP(40, 41)
     SLOT(int32_t, 42, mant_base, 0x3F2AAAAB) // bits of 2/3: the significand is brought into [2/3, 4/3)
     SLOT(int32_t, 43, mant_mask, 0x007FFFFF)
     SLOT(float, 44, big_limit, 0x4E800000) // 2^30
     // Fit on -2^-10.4 <= d <= 2^-5.9: 1 + half*d + r_c1*d^2 + r_c2*d^3 = 1/sqrt(1 - d) to 2^-25.5 relative
-    SLOT(float, 45, r_c1, 0x3EC00000)      // 0.375
-    SLOT(float, 46, r_c2, 0x3EA00000)      // 0.3125
-    SLOT(float, 47, half, 0x3F000000)      // 0.5
+    SLOT(float, 45, r_c1, 0x3EC00000) // 0.375
+    SLOT(float, 46, r_c2, 0x3EA00000) // 0.3125
+    SLOT(float, 47, half, 0x3F000000) // 0.5
     SLOT(float, 48, max_finite, 0x7F7FFFFF)
     SLOT(float, 49, small_limit, 0x3D800000) // 0.0625
     SLOT(float, 50, sign_mask, 0x80000000)
@@ -56,19 +56,19 @@ struct sasinh_native_block {
     GAP(18, 30)
     SLOT(float, 31, one, 0x3F800000) // 1.0
     // Fit on |f| <= 1/3: f + l1*f^2 + l2*f^3 + l3*f^4 + l4*f^5 = log(1 + f) to 2^-13.3 relative
-    SLOT(float, 32, l1, 0xBF000000)  // -0.5, coefficient of f^2
-    SLOT(float, 33, l2, 0x3EAA7160)  // 0.33289623, f^3
-    SLOT(float, 34, l3, 0xBE88E8FE)  // -0.2674026, f^4
-    SLOT(float, 35, l4, 0x3E612933)  // 0.21988373, f^5
+    SLOT(float, 32, l1, 0xBF000000) // -0.5, coefficient of f^2
+    SLOT(float, 33, l2, 0x3EAA7160) // 0.33289623, f^3
+    SLOT(float, 34, l3, 0xBE88E8FE) // -0.2674026, f^4
+    SLOT(float, 35, l4, 0x3E612933) // 0.21988373, f^5
     GAP(36, 37)
     SLOT(int32_t, 38, mant_base, 0x3F2AAAAB) // bits of 2/3: the significand is brought into [2/3, 4/3)
     SLOT(int32_t, 39, mant_mask, 0x007FFFFF)
     SLOT(float, 40, big_limit, 0x4E800000) // 2^30
     // Fit on -2^-10.4 <= d <= 2^-5.9: 1 + half*d + r_c1*d^2 + r_c2*d^3 = 1/sqrt(1 - d) to 2^-25.5 relative
     // Of the arc hyperbolic cosine. Fit on -2^-10.4 <= d <= 2^-5.9: 1 + half*d = 1/sqrt(1 - d) to 2^-13.2 relative
-    SLOT(float, 41, r_c1, 0x3EC00000)      // 0.375
-    SLOT(float, 42, r_c2, 0x3EA00000)      // 0.3125
-    SLOT(float, 43, half, 0x3F000000)      // 0.5
+    SLOT(float, 41, r_c1, 0x3EC00000) // 0.375
+    SLOT(float, 42, r_c2, 0x3EA00000) // 0.3125
+    SLOT(float, 43, half, 0x3F000000) // 0.5
     SLOT(float, 44, max_finite, 0x7F7FFFFF)
     SLOT(float, 45, small_limit, 0x3D800000) // 0.0625
     SLOT(float, 46, sign_mask, 0x80000000)
@@ -85,14 +85,14 @@ struct satanh_block {
     SLOT(float, 31, one, 0x3F800000) // 1.0
     // Fit on |f| <= 1/3: f + l1*f^2 + l2*f^3 + l3*f^4 + l4*f^5 + l5*f^6 + l6*f^7 + l7*f^8 + l8*f^9 = log(1 + f)
     // to 2^-24.7 relative
-    SLOT(float, 32, l1, 0xBF000000)  // -0.5, coefficient of f^2
-    SLOT(float, 33, l2, 0x3EAAAA94)  // 0.33333266, f^3
-    SLOT(float, 34, l3, 0xBE80058E)  // -0.25004238, f^4
-    SLOT(float, 35, l4, 0x3E4CE190)  // 0.2000792, f^5
-    SLOT(float, 36, l5, 0xBE28AD37)  // -0.16472326, f^6
-    SLOT(float, 37, l6, 0x3E0FCB12)  // 0.14042309, f^7
-    SLOT(float, 38, l7, 0xBE1AD9E3)  // -0.1512218, f^8
-    SLOT(float, 39, l8, 0x3E0D84ED)  // 0.13820238, f^9
+    SLOT(float, 32, l1, 0xBF000000) // -0.5, coefficient of f^2
+    SLOT(float, 33, l2, 0x3EAAAA94) // 0.33333266, f^3
+    SLOT(float, 34, l3, 0xBE80058E) // -0.25004238, f^4
+    SLOT(float, 35, l4, 0x3E4CE190) // 0.2000792, f^5
+    SLOT(float, 36, l5, 0xBE28AD37) // -0.16472326, f^6
+    SLOT(float, 37, l6, 0x3E0FCB12) // 0.14042309, f^7
+    SLOT(float, 38, l7, 0xBE1AD9E3) // -0.1512218, f^8
+    SLOT(float, 39, l8, 0x3E0D84ED) // 0.13820238, f^9
     GAP(40, 41)
     SLOT(int32_t, 42, mant_base, 0x3F2AAAAB) // bits of 2/3: the significand is brought into [2/3, 4/3)
     SLOT(int32_t, 43, mant_mask, 0x007FFFFF)
@@ -112,10 +112,10 @@ struct satanh_native_block {
     GAP(18, 30)
     SLOT(float, 31, one, 0x3F800000) // 1.0
     // Fit on |f| <= 1/3: f + l1*f^2 + l2*f^3 + l3*f^4 + l4*f^5 = log(1 + f) to 2^-13.3 relative
-    SLOT(float, 32, l1, 0xBF000000)  // -0.5, coefficient of f^2
-    SLOT(float, 33, l2, 0x3EAA7160)  // 0.33289623, f^3
-    SLOT(float, 34, l3, 0xBE88E8FE)  // -0.2674026, f^4
-    SLOT(float, 35, l4, 0x3E612933)  // 0.21988373, f^5
+    SLOT(float, 32, l1, 0xBF000000) // -0.5, coefficient of f^2
+    SLOT(float, 33, l2, 0x3EAA7160) // 0.33289623, f^3
+    SLOT(float, 34, l3, 0xBE88E8FE) // -0.2674026, f^4
+    SLOT(float, 35, l4, 0x3E612933) // 0.21988373, f^5
     GAP(36, 37)
     SLOT(int32_t, 38, mant_base, 0x3F2AAAAB) // bits of 2/3: the significand is brought into [2/3, 4/3)
     SLOT(int32_t, 39, mant_mask, 0x007FFFFF)
@@ -165,11 +165,11 @@ struct dasinh_block {
     SLOT(double, 215, big_limit, 0x41D0000000000000) // 2^30
     // Fit on -2^-10.4 <= d <= 2^-9.1: 1 + half*d + q1*d^2 + q2*d^3 + q3*d^4 + q4*d^5 = 1/sqrt(1 - d)
     // to 2^-56.7 relative
-    SLOT(double, 216, q1, 0x3FD8000000000000)        // 0.375
-    SLOT(double, 217, q2, 0x3FD4000000000000)        // 0.3125
-    SLOT(double, 218, q3, 0x3FD1800000000000)        // 0.2734375
-    SLOT(double, 219, q4, 0x3FCF800000000000)        // 0.24609375
-    SLOT(double, 220, half, 0x3FE0000000000000)      // 0.5
+    SLOT(double, 216, q1, 0x3FD8000000000000)   // 0.375
+    SLOT(double, 217, q2, 0x3FD4000000000000)   // 0.3125
+    SLOT(double, 218, q3, 0x3FD1800000000000)   // 0.2734375
+    SLOT(double, 219, q4, 0x3FCF800000000000)   // 0.24609375
+    SLOT(double, 220, half, 0x3FE0000000000000) // 0.5
     SLOT(double, 221, max_finite, 0x7FEFFFFFFFFFFFFF)
     SLOT(double, 222, small_limit, 0x3F60000000000000) // 2^-9
     SLOT(double, 223, sign_mask, 0x8000000000000000)
@@ -185,11 +185,11 @@ struct dacosh_block {
     SLOT(double, 215, big_limit, 0x41D0000000000000) // 2^30
     // Fit on -2^-10.4 <= d <= 2^-9.1: 1 + q1*d + q2*d^2 + q3*d^3 + q4*d^4 + q5*d^5 = 1/sqrt(1 - d)
     // to 2^-56.8 relative
-    SLOT(double, 216, q1, 0x3FE0000000000000)        // 0.5
-    SLOT(double, 217, q2, 0x3FD7FFFFFFFFFFFA)        // 0.37499999999999967
-    SLOT(double, 218, q3, 0x3FD3FFFFFFFFFFFA)        // 0.31249999999999967
-    SLOT(double, 219, q4, 0x3FD1800013D9D428)        // 0.27343751848758524
-    SLOT(double, 220, q5, 0x3FCF800025DE102F)        // 0.24609376763339827
+    SLOT(double, 216, q1, 0x3FE0000000000000) // 0.5
+    SLOT(double, 217, q2, 0x3FD7FFFFFFFFFFFA) // 0.37499999999999967
+    SLOT(double, 218, q3, 0x3FD3FFFFFFFFFFFA) // 0.31249999999999967
+    SLOT(double, 219, q4, 0x3FD1800013D9D428) // 0.27343751848758524
+    SLOT(double, 220, q5, 0x3FCF800025DE102F) // 0.24609376763339827
     SLOT(double, 221, max_finite, 0x7FEFFFFFFFFFFFFF)
     GAP(222, 223)
     SLOT(double, 224, big_k, 0x403F000000000000) // 31.0
@@ -203,8 +203,8 @@ struct dacosh_native_block {
     ORVANE_LOG_STAGE_SLOTS
     SLOT(double, 215, big_limit, 0x41D0000000000000) // 2^30
     // Fit on -2^-10.4 <= d <= 2^-9.1: 1 + q1*d + q2*d^2 = 1/sqrt(1 - d) to 2^-29.0 relative
-    SLOT(double, 216, q1, 0x3FE0000000000000)        // 0.5
-    SLOT(double, 217, q2, 0x3FD8000000000000)        // 0.375
+    SLOT(double, 216, q1, 0x3FE0000000000000) // 0.5
+    SLOT(double, 217, q2, 0x3FD8000000000000) // 0.375
     GAP(218, 220)
     SLOT(double, 221, max_finite, 0x7FEFFFFFFFFFFFFF)
     GAP(222, 223)
@@ -341,8 +341,8 @@ template <class V> ORVANE_INLINE root<V> root_of(const auto& c, V sh, V sl) {
 
 // ---- The kernels.
 
-template <class T, tier Tier, const auto& Block, auto& Rare>
-struct asinh_kernel : kernel<one_argument<T>, Block, Rare> {
+template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel
+    : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         auto ax = x & c.abs_mask;
@@ -372,8 +372,8 @@ struct asinh_kernel : kernel<one_argument<T>, Block, Rare> {
     }
 };
 
-template <class T, tier Tier, const auto& Block, auto& Rare>
-struct acosh_kernel : kernel<one_argument<T>, Block, Rare> {
+template <class T, tier Tier, const auto& Block, auto& Rare> struct acosh_kernel
+    : kernel<one_argument<T>, Block, Rare> {
     static constexpr double spare = 2.0;
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
@@ -391,8 +391,8 @@ struct acosh_kernel : kernel<one_argument<T>, Block, Rare> {
     }
 };
 
-template <class T, tier Tier, const auto& Block, auto& Rare>
-struct atanh_kernel : kernel<one_argument<T>, Block, Rare> {
+template <class T, tier Tier, const auto& Block, auto& Rare> struct atanh_kernel
+    : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         auto ax = x & c.abs_mask;

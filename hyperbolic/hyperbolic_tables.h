@@ -13,7 +13,7 @@ inline constexpr table<sinh_row, 128> sinh_rows = {{
 #include "hyperbolic/tables/sinh_128.inc"
 }};
 inline constexpr table<double, 257> half_exp2_256 = {{
-    // 2^(j/256) / 2
+// 2^(j/256) / 2
 #include "hyperbolic/tables/half_exp2_256.inc"
 }};
 struct tanh_row {

@@ -67,10 +67,10 @@ struct ssinh_native_block {
     SLOT(int32_t, 22, large_limit, 0x42AEAC4E) // 87.33653, compared as an integer
     // Fit on |r| <= ln2/2: a0*r + a1*r^3 = sinh(r) to 2^-13.9 relative
     // Fit on |r| <= ln2/2: 1 + b0*r^2 + b1*r^4 = cosh(r) to 2^-20.3 relative
-    SLOT(float, 23, a0, 0x3F7FFBC9)            // 0.9999357, sinh r / r, constant term, not 1
-    SLOT(float, 24, b0, 0x3EFFFB2F)            // 0.49996325, (cosh r - 1)/r^2, constant term
-    SLOT(float, 25, a1, 0x3E2CCD2E)            // 0.16875145, sinh r / r, r^2 term
-    SLOT(float, 26, b1, 0x3D2CA395)            // 0.04214819, (cosh r - 1)/r^2, r^2 term
+    SLOT(float, 23, a0, 0x3F7FFBC9) // 0.9999357, sinh r / r, constant term, not 1
+    SLOT(float, 24, b0, 0x3EFFFB2F) // 0.49996325, (cosh r - 1)/r^2, constant term
+    SLOT(float, 25, a1, 0x3E2CCD2E) // 0.16875145, sinh r / r, r^2 term
+    SLOT(float, 26, b1, 0x3D2CA395) // 0.04214819, (cosh r - 1)/r^2, r^2 term
     SLOT(uint32_t, 27, half_bits, 0x3F000000)
 };
 struct scosh_native_block {
@@ -86,10 +86,10 @@ struct scosh_native_block {
     SLOT(int32_t, 22, large_limit, 0x42AEAC4E) // 87.33653, compared as an integer
     // Fit on |r| <= ln2/2: a0*r + a1*r^3 = sinh(r) to 2^-13.9 relative
     // Fit on |r| <= ln2/2: 1 + b0*r^2 + b1*r^4 = cosh(r) to 2^-20.3 relative
-    SLOT(float, 23, a0, 0x3F7FFBC9)            // 0.9999357, sinh r / r, constant term, not 1
-    SLOT(float, 24, b0, 0x3EFFFB2F)            // 0.49996325, (cosh r - 1)/r^2, constant term
-    SLOT(float, 25, a1, 0x3E2CCD2E)            // 0.16875145, sinh r / r, r^2 term
-    SLOT(float, 26, b1, 0x3D2CA395)            // 0.04214819, (cosh r - 1)/r^2, r^2 term
+    SLOT(float, 23, a0, 0x3F7FFBC9) // 0.9999357, sinh r / r, constant term, not 1
+    SLOT(float, 24, b0, 0x3EFFFB2F) // 0.49996325, (cosh r - 1)/r^2, constant term
+    SLOT(float, 25, a1, 0x3E2CCD2E) // 0.16875145, sinh r / r, r^2 term
+    SLOT(float, 26, b1, 0x3D2CA395) // 0.04214819, (cosh r - 1)/r^2, r^2 term
     SLOT(uint32_t, 27, half_bits, 0x3F000000)
 };
 ORVANE_BLOCK(ssinh_block, __orvane_ssinh_data)

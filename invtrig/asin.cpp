@@ -258,7 +258,8 @@ template <bool Native, class V> ORVANE_INLINE V J_of(const auto& c, V t) {
 }
 
 // asin and asinpi: R = |x| or -2 sqrt(w), and a quarter of a turn beside the latter.
-template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine : kernel<one_argument<T>, Block, Rare> {
+template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine
+    : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         V ax = x & c.sign_or_abs;
@@ -276,7 +277,8 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
             if constexpr (Native) y = fma_in_order(R, J_of<Native>(c, t), offset);
             else y = fma_in_order(Q_of<Native>(c, t), R, fma(R, V(c.inv_pi), offset));
         }
-        return answer{y ^ (x & V(T(-0.0))), special}; // a mask of its own: neg_zero would stay in a register till here
+        return answer{y ^ (x & V(T(-0.0))),
+                      special}; // a mask of its own: neg_zero would stay in a register till here
     }
     // The pi forms leave +-1 to the slow path as well.
     template <class V> static ORVANE_INLINE auto is_special(const auto& c, V ax) {
@@ -286,8 +288,8 @@ template <class T, const auto& Block, auto& Rare, bool Native> struct arc_sine :
 };
 
 // acos and acospi: R = -x or +-2 sqrt(w), and beside them a quarter of a turn, nothing, or a half for x <= -1/2.
-template <class T, const auto& Block, auto& Rare, bool Native>
-struct arc_cosine : kernel<one_argument<T>, Block, Rare> {
+template <class T, const auto& Block, auto& Rare, bool Native> struct arc_cosine
+    : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         V nx = x | c.sign_or_abs; // -|x|
@@ -297,13 +299,15 @@ struct arc_cosine : kernel<one_argument<T>, Block, Rare> {
         auto big = not_less(t, w);  // w <= x^2 just where |x| >= 1/2
         auto below = big & (x < t); // t <= 1/4, so x is negative
         V offset;
-        if constexpr (requires { c.pi_half; }) offset = andnot(V(as<T>(big)), V(c.pi_half)) + keep(below, V(c.pi_full));
+        if constexpr (requires { c.pi_half; })
+            offset = andnot(V(as<T>(big)), V(c.pi_half)) + keep(below, V(c.pi_full));
         else offset = andnot(V(as<T>(big)), V(c.half)) + keep(below, V(c.unit));
         offset = finished(offset);
         V R = select(big, two_roots<Native, true>(c, w), nx);
         in_turn(R, x); // the sign after the roots
         R = finished(R ^ (x & c.sign_or_abs));
-        if constexpr (requires { c.pi_half; }) return answer{offset + fma_in_order(R, Q_of<Native>(c, t), R), special};
+        if constexpr (requires { c.pi_half; })
+            return answer{offset + fma_in_order(R, Q_of<Native>(c, t), R), special};
         else return answer{fma_in_order(R, J_of<Native>(c, t), offset), special};
     }
     template <class V> static ORVANE_INLINE auto is_special(const auto& c, V nx) {

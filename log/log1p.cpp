@@ -30,8 +30,9 @@ struct dlog1p_block {
     SLOT(double, 210, bias_small_m, 0x408FF80000000000) // 1023.0
     SLOT(double, 211, bias_large_m, 0x408FF00000000000) // 1022.0
     SLOT(uint64_t, 212, exponent_field, 0x7FF0000000000000)
-    SLOT(uint64_t, 213, scale_base, 0x7F40000000000000) // 2 * 1023 - 10 in the exponent field: less that of z it is that of 2^k
-    SLOT(double, 214, ln2, 0x3FE62E42FEFA39EF)          // 0.6931471805599453
+    SLOT(uint64_t, 213, scale_base,
+         0x7F40000000000000) // 2 * 1023 - 10 in the exponent field: less that of z it is that of 2^k
+    SLOT(double, 214, ln2, 0x3FE62E42FEFA39EF) // 0.6931471805599453
 };
 ORVANE_BLOCK(dlog1p_block, __orvane_dlog1p_data)
 ORVANE_BLOCK_TWIN(__orvane_dlog1p_native_data, __orvane_dlog1p_data)

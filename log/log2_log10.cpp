@@ -172,7 +172,8 @@ struct base_10 {
     template <class V> static ORVANE_INLINE V times_log_2(const auto& c, V k) { return k * c.log10_2; }
 };
 
-template <class T, class Base, const auto& Block, auto& Rare> struct log_scaled : kernel<one_argument<T>, Block, Rare> {
+template <class T, class Base, const auto& Block, auto& Rare> struct log_scaled
+    : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto m = Base::significand_of(c, x);
         auto integer = round_to<to_nearest>(reciprocal(m) * c.k_scale);
@@ -198,8 +199,8 @@ template <class T, class Base, const auto& Block, auto& Rare> struct log_scaled 
     }
 };
 
-template <class Base, const auto& Block, auto& Rare>
-struct log_single_table : kernel<one_argument<double>, Block, Rare> {
+template <class Base, const auto& Block, auto& Rare> struct log_single_table
+    : kernel<one_argument<double>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
         auto [r, k, integer] = fast_log(c, x);
         auto U = Base::single(c, integer);
@@ -210,7 +211,8 @@ struct log_single_table : kernel<one_argument<double>, Block, Rare> {
     }
 };
 
-template <class Base, const auto& Block, auto& Rare> struct log_polynomial : kernel<one_argument<float>, Block, Rare> {
+template <class Base, const auto& Block, auto& Rare> struct log_polynomial
+    : kernel<one_argument<float>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x) {
         auto [v, K, d] = cut_at_two_thirds(c, c.cut_mantissa_mask, signed_bits(x));
         auto p = horner(v, c.a4, c.a3, c.a2, c.a1, c.a0);

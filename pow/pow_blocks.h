@@ -9,13 +9,13 @@ namespace orvane {
 struct dpow_block {
     TABLE(0, log2_tab, pow_log2_pairs)
     TABLE(129, exp2_tab, exp2_single_256)
-    SLOT(double, 161, mant_mask, 0x000FFFFFFFFFFFFF)     // significand field
-    SLOT(double, 162, one, 0x3FF0000000000000)           // 1.0
-    SLOT(double, 163, exp_shifter, 0x4338000000000000)   // 1.5 * 2^52, turns the exponent field into a double
-    SLOT(double, 164, min_normal, 0x0010000000000000)    // 2^-1022
-    SLOT(double, 165, max_normal, 0x7FEFFFFFFFFFFFFF)    // largest finite
-    SLOT(double, 166, rcp_round, 0x0000040000000000)     // half a unit of the ninth fraction bit
-    SLOT(double, 167, rcp_mask, 0xFFFFF80000000000)      // keeps sign, exponent, nine fraction bits
+    SLOT(double, 161, mant_mask, 0x000FFFFFFFFFFFFF)   // significand field
+    SLOT(double, 162, one, 0x3FF0000000000000)         // 1.0
+    SLOT(double, 163, exp_shifter, 0x4338000000000000) // 1.5 * 2^52, turns the exponent field into a double
+    SLOT(double, 164, min_normal, 0x0010000000000000)  // 2^-1022
+    SLOT(double, 165, max_normal, 0x7FEFFFFFFFFFFFFF)  // largest finite
+    SLOT(double, 166, rcp_round, 0x0000040000000000)   // half a unit of the ninth fraction bit
+    SLOT(double, 167, rcp_mask, 0xFFFFF80000000000)    // keeps sign, exponent, nine fraction bits
     // Fit on |u| <= 2^-9.5: (log2e_hi + log2e_lo)*u + lg_c2*u^2 + lg_c3*u^3 + lg_c4*u^4 + lg_c5*u^5 + lg_c6*u^6 =
     // log2(1 + u) to 2^-60.5 relative
     SLOT(double, 168, lg_c6, 0xBFCEC1CFBBC5C90C)         // log2(1+u) polynomial, u^6
@@ -30,11 +30,11 @@ struct dpow_block {
     SLOT(double, 177, ex_shifter, 0x42B800000003FF00)    // 1.5 * 2^44 + 1023: the last place is 2^-8
     SLOT(double, 178, ex_index_mask, 0x00000000000007F8) // the 8 index bits after a left shift by 3
     // Fit on |d| <= 2^-9: 1 + ex_c1*d + ex_c2*d^2 + ex_c3*d^3 + ex_c4*d^4 = exp2(d) to 2^-58.5 relative
-    SLOT(double, 179, ex_c4, 0x3F83B2AB930F15F9)         // 2^d polynomial, d^4
-    SLOT(double, 180, ex_c3, 0x3FAC6B090DA1E0A9)         // d^3
-    SLOT(double, 181, ex_c2, 0x3FCEBFBDFF82C54D)         // d^2
-    SLOT(double, 182, ex_c1, 0x3FE62E42FEFA39B9)         // d^1
-    SLOT(double, 183, s_limit, 0xC08FF00000000000)       // -1022, least y * log2 x with a normal scale
+    SLOT(double, 179, ex_c4, 0x3F83B2AB930F15F9)   // 2^d polynomial, d^4
+    SLOT(double, 180, ex_c3, 0x3FAC6B090DA1E0A9)   // d^3
+    SLOT(double, 181, ex_c2, 0x3FCEBFBDFF82C54D)   // d^2
+    SLOT(double, 182, ex_c1, 0x3FE62E42FEFA39B9)   // d^1
+    SLOT(double, 183, s_limit, 0xC08FF00000000000) // -1022, least y * log2 x with a normal scale
 };
 
 // What the reduced kernels read, from slot `at` of ln_a4 on: e^(y ln x) with a table of logarithms, reached by an
@@ -102,10 +102,10 @@ struct spow_rm_block {
     SLOT(float, 15, f_shifter, 0x4B400000) // 1.5 * 2^23
     SLOT(float, 16, f_ln2, 0x3F317218)     // ln 2
     // Fit on |d| <= ln2/2: ex_k0 + ex_k1*d + ex_k2*d^2 + ex_k3*d^3 = exp(d) to 2^-12.7 relative
-    SLOT(float, 17, ex_k0, 0x3F800000)     // 1.0
-    SLOT(float, 18, ex_k1, 0x3F8003DE)     // 1.000118017
-    SLOT(float, 19, ex_k2, 0x3F00F2D6)     // 0.503705382
-    SLOT(float, 20, ex_k3, 0x3E2963AC)     // 0.165419281
+    SLOT(float, 17, ex_k0, 0x3F800000) // 1.0
+    SLOT(float, 18, ex_k1, 0x3F8003DE) // 1.000118017
+    SLOT(float, 19, ex_k2, 0x3F00F2D6) // 0.503705382
+    SLOT(float, 20, ex_k3, 0x3E2963AC) // 0.165419281
     GAP(21, 21)
     SLOT(int32_t, 22, f_abs, 0x7FFFFFFF)     // sign mask
     SLOT(int32_t, 23, p_limit_f, 0x42AE9A00) // 87.30078125, compared as integer bits

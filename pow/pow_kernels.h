@@ -36,8 +36,8 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         auto herr = fma(u, c.log2e_hi, -from_A) - (H - (from_A + A));
         auto L = fma(q, u2, tl + herr);
 
-        // Near overflow and underflow a lane is special: by y H, and below by s too, since in H half a part in a thousand of
-        // the logarithm may be missing (x from 0.9990 to 0.9992), and below -1022 there is no scale.
+        // Near overflow and underflow a lane is special: by y H, and below by s too, since in H half a part in a
+        // thousand of the logarithm may be missing (x from 0.9990 to 0.9992), and below -1022 there is no scale.
         auto P = y * H;
         auto perr = fma(y, H, -P);
         lane_bits<W> special = not_less_equal(x, lanes<double, W>(c.max_normal)) | (x < c.min_normal) |

@@ -96,7 +96,8 @@ ORVANE_BLOCK_TWIN(__orvane_srootn_native_data, __orvane_spown_native_data)
 
 // ln |x| = Lh + Ll: x = 2^k m, r = 1 / (1 + i/64) short, so that m's leading part times r is exact. Around 1, where
 // the entry is 0, the rest t3 of the product belongs to the head.
-template <class Front, const auto& Block, auto& Rare> struct pownf_in_pairs : kernel<with_integer<float>, Block, Rare> {
+template <class Front, const auto& Block, auto& Rare> struct pownf_in_pairs
+    : kernel<with_integer<float>, Block, Rare> {
     static constexpr double spare = 1.0;
 
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<float, W> x, lanes<int32_t, W> n) {
@@ -144,8 +145,8 @@ private:
     }
 };
 
-template <class Front, auto& Rare>
-struct pownf_by_polynomials : kernel<with_integer<float>, __orvane_spown_native_data, Rare> {
+template <class Front, auto& Rare> struct pownf_by_polynomials
+    : kernel<with_integer<float>, __orvane_spown_native_data, Rare> {
     static constexpr double spare = 1.0;
 
     template <int W>

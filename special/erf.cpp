@@ -3,10 +3,10 @@
 //
 //     erf(x0 + d) = erf(x0) + s (1 + q),  q a polynomial in u = x0 d and d^2.
 //
-// No lane is special: what lies beyond the table is clamped to its end, where d is 0 and the value 1. erff_native is a
-// plain polynomial.
-#include "special/erf_tables.h"
+// No lane is special: what lies beyond the table is clamped to its end, where d is 0 and the value 1. erff_native is
+// a plain polynomial.
 #include "frame/_orvane_template.h"
+#include "special/erf_tables.h"
 
 namespace orvane {
 
@@ -14,9 +14,9 @@ namespace orvane {
 struct derf_block {
     TABLE(0, grid, erf_at_128ths)
     SLOT(double, 192, abs_mask, 0x7FFFFFFFFFFFFFFF)
-    SLOT(double, 193, x_cap, 0x4017F80000000000) // 767/128
+    SLOT(double, 193, x_cap, 0x4017F80000000000)   // 767/128
     SLOT(double, 194, shifter, 0x42C0000000000000) // 2^45
-    SLOT(double, 195, tiny, 0x2FF0000000000000) // 2^-256
+    SLOT(double, 195, tiny, 0x2FF0000000000000)    // 2^-256
     GAP(196, 197)
     // Fit on |d| <= 1/256, 1/128 <= x <= 6, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erf(x) + slope*d*(1 - u +
     // u^2*(a0 + a1*u + a2*u^2 + a3*u^3) + d^2*(h0 + u*(b0 + b1*u + b2*u^2) + d^2*(c0 + c1*u))) = erf(x + d)

@@ -31,8 +31,8 @@ inline constexpr table<value_and_slope<float>, 328> erfcf_at_32nds = {{
 #include "special/tables/erfcf_32nds.inc"
 }};
 
-// An argument X >= 0 as a grid point and the rest. The grid is the last place of the shifter that is added, so that the
-// sum's low bits are the number of the table's entry.
+// An argument X >= 0 as a grid point and the rest. The grid is the last place of the shifter that is added, so that
+// the sum's low bits are the number of the table's entry.
 template <class T, int W> struct grid_point { lanes<T, W> x0, d, sum; };
 template <class T, int W> ORVANE_INLINE grid_point<T, W> nearest_grid_point(const auto& c, lanes<T, W> X) {
     auto t = X + c.shifter;

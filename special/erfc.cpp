@@ -1,8 +1,8 @@
-// erfc: value and slope at the nearest grid point x0 from a table, and a Taylor step from there, as in erf. The table is
-// scaled by a large power of two; the last fused step scales down, so that a subnormal result is rounded once, and
+// erfc: value and slope at the nearest grid point x0 from a table, and a Taylor step from there, as in erf. The table
+// is scaled by a large power of two; the last fused step scales down, so that a subnormal result is rounded once, and
 // reflects a negative x: 2 - erfc(|x|).
-#include "special/erf_tables.h"
 #include "frame/_orvane_template.h"
+#include "special/erf_tables.h"
 
 namespace orvane {
 
@@ -16,7 +16,7 @@ struct derfc_block {
     SLOT(double, 874, sign_mask, 0x8000000000000000)
     SLOT(double, 875, one, 0x3FF0000000000000)
     SLOT(double, 876, lo_scale, 0x37F0000000000000) // 2^-128
-    SLOT(double, 877, shifter, 0x42C0000000000000) // 2^45
+    SLOT(double, 877, shifter, 0x42C0000000000000)  // 2^45
     // Fit on |d| <= 1/256, 0 <= x <= x_cap, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erfc(x) - slope*d*(1 - u +
     // u^2*(e8 + e7*u + e6*u^2 + e5*u^3 + e4*u^4 + e3*u^5 + e2*u^6 + e1*u^7) + d^2*(h0 + u*(f6 + f5*u + f4*u^2 +
     // f3*u^3 + f2*u^4 + f1*u^5) + d^2*(g4 + g3*u + g2*u^2 + g1*u^3))) = erfc(x + d) to 2^-54.2 relative
@@ -52,7 +52,7 @@ struct derfc_native_block {
     SLOT(double, 438, sign_mask, 0x8000000000000000)
     SLOT(double, 439, one, 0x3FF0000000000000)
     SLOT(double, 440, lo_scale, 0x37F0000000000000) // 2^-128
-    SLOT(double, 441, shifter, 0x42D0000000000000) // 2^46
+    SLOT(double, 441, shifter, 0x42D0000000000000)  // 2^46
     // Fit on |d| <= 1/128, 0 <= x <= x_cap, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erfc(x) - slope*d*(1 + h1*u +
     // u^2*(e6 + e5*u + e4*u^2 + e3*u^3 + e2*u^4 + e1*u^5) + d^2*(f4 + f3*u + f2*u^2 + f1*u^3)) = erfc(x + d)
     // to 2^-33.9 relative
@@ -79,7 +79,7 @@ struct serfc_block {
     SLOT(float, 82, x_cap, 0x41210000) // 644/64
     SLOT(float, 83, sign_mask, 0x80000000)
     SLOT(float, 84, one, 0x3F800000)
-    SLOT(float, 85, shifter, 0x48000000) // 2^17
+    SLOT(float, 85, shifter, 0x48000000)  // 2^17
     SLOT(float, 86, lo_scale, 0x27800000) // 2^-48
     // Fit on |d| <= 1/128, 0 <= x <= x_cap, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erfc(x) - slope*d*(1 + u*(e4 +
     // e3*u + e2*u^2 + e1*u^3) + d^2*(f2 + f1*u)) = erfc(x + d) to 2^-25.8 relative
@@ -99,7 +99,7 @@ struct serfc_native_block {
     SLOT(float, 42, x_cap, 0x41210000) // 322/32
     SLOT(float, 43, sign_mask, 0x80000000)
     SLOT(float, 44, one, 0x3F800000)
-    SLOT(float, 45, shifter, 0x48800000) // 2^18
+    SLOT(float, 45, shifter, 0x48800000)  // 2^18
     SLOT(float, 46, lo_scale, 0x27800000) // 2^-48
     // Fit on |d| <= 1/64, 0 <= x <= x_cap, u = x*d, slope = 2/sqrt(pi)*exp(-x^2): erfc(x) - slope*d*(1 + u*(e3 +
     // e2*u + e1*u^2)) = erfc(x + d) to 2^-15.3 relative
@@ -112,7 +112,8 @@ ORVANE_BLOCK(serfc_native_block, __orvane_serfc_native_data)
 
 // The scaled erfc at x0 + d, from u = x0 d and d^2: value - (1 + q) slope d.
 struct derfc_step {
-    template <int W> static ORVANE_INLINE auto of(const auto& c, auto T1, auto T2, lanes<double, W> d, auto u, auto D2) {
+    template <int W>
+    static ORVANE_INLINE auto of(const auto& c, auto T1, auto T2, lanes<double, W> d, auto u, auto D2) {
         auto pe = horner(u, c.e1, c.e2, c.e3, c.e4, c.e5, c.e6, c.e7, c.e8);
         auto pf = horner(u, c.f1, c.f2, c.f3, c.f4, c.f5, c.f6);
         auto pg = fma(horner(u, c.g1, c.g2, c.g3, c.g4), D2, c.h0);
@@ -124,7 +125,8 @@ struct derfc_step {
     }
 };
 struct derfc_native_step {
-    template <int W> static ORVANE_INLINE auto of(const auto& c, auto T1, auto T2, lanes<double, W> d, auto u, auto D2) {
+    template <int W>
+    static ORVANE_INLINE auto of(const auto& c, auto T1, auto T2, lanes<double, W> d, auto u, auto D2) {
         auto pe = horner(u, c.e1, c.e2, c.e3, c.e4, c.e5, c.e6);
         auto pf = horner(u, c.f1, c.f2, c.f3, c.f4);
         auto q = fma(lanes<double, W>(c.h1), u, D2 * pf);
@@ -134,7 +136,8 @@ struct derfc_native_step {
     }
 };
 struct serfc_step {
-    template <int W> static ORVANE_INLINE auto of(const auto& c, auto T1, auto T2, lanes<float, W> d, auto u, auto D2) {
+    template <int W>
+    static ORVANE_INLINE auto of(const auto& c, auto T1, auto T2, lanes<float, W> d, auto u, auto D2) {
         auto pf = horner(u, c.f1, c.f2);
         auto pe = horner(u, c.e1, c.e2, c.e3, c.e4);
         auto p = fma(pe, u, D2 * pf);
@@ -148,8 +151,8 @@ struct serfc_native_step {
     }
 };
 
-template <class T, const auto& Block, auto& Rare, class Step>
-struct erfc_kernel : kernel<one_argument<T>, Block, Rare> {
+template <class T, const auto& Block, auto& Rare, class Step> struct erfc_kernel
+    : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         lane_bits<W> special = not_less(x, lanes<T, W>(c.limit)); // or NaN
         auto X = min(x & c.abs_mask, lanes<T, W>(c.x_cap));

@@ -1,5 +1,5 @@
-// The slow paths of lgammaf and lgammarf: extended arithmetic under the process's control word, but for the logarithm,
-// which is double arithmetic.
+// The slow paths of lgammaf and lgammarf: extended arithmetic under the process's control word, but for the
+// logarithm, which is double arithmetic.
 #include "log/log_tables.h"
 #include "special/lgamma_rare.h"
 #include "special/lgammaf_pieces.h"

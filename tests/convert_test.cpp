@@ -275,8 +275,7 @@ TEST_P(LongEveryFloat, ToInteger) {
         if (!same) return expect_integers(c, x, y);
     }
 }
-INSTANTIATE_TEST_SUITE_P(Convert, LongEveryFloat,
-                         testing::ValuesIn(conversions_from({lane_type::f32}, false)),
+INSTANTIATE_TEST_SUITE_P(Convert, LongEveryFloat, testing::ValuesIn(conversions_from({lane_type::f32}, false)),
                          [](const auto& info) { return std::string(info.param.row->name); });
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "digests.h"
 
-#include "tools/estimates.h"
 #include "machine_code.h"
+#include "tools/estimates.h"
 #include "tools/whole_file.h"
 
 #include <sys/mman.h>

@@ -64,7 +64,10 @@ TEST(List, RefusesWhatDoesNotFit) {
     EXPECT_EQ(refusal([&] { list::checked({plain, native}); }), "");
     EXPECT_NE(refusal([&] { list::checked({plain, plain}); }).find("twice"), std::string::npos);
     EXPECT_NE(refusal([&] { list::checked({native, plain}); }).find("earlier row"), std::string::npos);
-    EXPECT_NE(refusal([&] { list::checked({once, again}); }).find("serves f(float), as f default"), std::string::npos);
+    EXPECT_NE(refusal([&] {
+                  list::checked({once, again});
+              }).find("serves f(float), as f default"),
+              std::string::npos);
 }
 
 // A file with the same contents keeps its time, and one that cannot be written leaves nothing beside it.
@@ -91,7 +94,8 @@ TEST(Written, FollowsFromTheList) {
     std::filesystem::create_directories(folder);
     ASSERT_EQ(run("write-exports " + folder.string()), 0);
     for (auto name : {"/exports.json", "/orvane.h"})
-        EXPECT_EQ(contents_of(folder.string() + name), contents_of(ORVANE_SOURCES "/include/orvane" + std::string(name)))
+        EXPECT_EQ(contents_of(folder.string() + name),
+                  contents_of(ORVANE_SOURCES "/include/orvane" + std::string(name)))
             << name << " is out of date: build the target `written`";
     std::filesystem::remove_all(folder);
 }

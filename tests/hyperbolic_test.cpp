@@ -26,10 +26,10 @@ TEST(Hyperbolics, SmallArguments) {
     each_member({"sinh", "tanh", "asinh", "atanh"}, [](const member& m) {
         const bool f64 = m.type() == lane_type::f64;
         const bool shortened = !f64 && m.is_fast(); // polynomials with a first term not 1
-        const double slope = !shortened                                     ? 1
+        const double slope = !shortened                ? 1
                              : m.row->base() == "sinh" ? 0.99993569
                              : m.row->base() == "tanh" ? 0.99994805
-                                                                            : 1;
+                                                       : 1;
         for (double x : {f64 ? 1e-305 : 1e-36, 1e-20, -1e-15})
             EXPECT_NEAR(m(x) / m.rounded(x), slope, slope == 1 ? 0 : 1e-7) << x;
         const double least = f64 ? 0x1p-1074 : 0x1p-149;

@@ -1,5 +1,5 @@
-// Exponents, signs and neighbours against the C library, ldexp against one rounding from extended precision; what each
-// slow path tells.
+// Exponents, signs and neighbours against the C library, ldexp against one rounding from extended precision; what
+// each slow path tells.
 #include "typed_lanes.h"
 
 using namespace orvane;
@@ -53,7 +53,7 @@ TYPED_TEST(Manipulation, LdexpRoundsOnce) {
     constexpr int range = std::numeric_limits<T>::max_exponent;
     for (size_t i = 0; i < x.size(); i++) {
         const T v = number<T>(x[i]);
-        int k = (int)r() >> r() % 31; // of every length
+        int k = (int)r() >> r() % 31;            // of every length
         if (i % 4 && std::isfinite(v) && v != 0) // to the ends of the range, subnormals among them
             k = (i % 4 == 1 ? range : -range) - std::ilogb(v) + int(r() % 70) - 35;
         n.push_back((uint32_t)k);

@@ -360,7 +360,8 @@ TEST(Powers, OfPositiveNumbersAreTheSame) {
     }
 }
 
-// Just below 2^-1022, where y times the high part of log2 x is within the limit of the vector path and y log2 x is not.
+// Just below 2^-1022, where y times the high part of log2 x is within the limit of the vector path and y log2 x is
+// not.
 TEST(Powers, NextToSubnormalResultsComeFromTheSlowPath) {
     for (auto name : {"pow", "powr"}) {
         sweep f(name);

@@ -1,8 +1,8 @@
 // Records the digests anew: those of every processor, and those of kernels fed by estimates for this kind of
 // processor. Refuses as long as a lane of the independent models disagrees.
 #include "digests.h"
-#include "tools/estimates.h"
 #include "lanes.h"
+#include "tools/estimates.h"
 #include "tools/whole_file.h"
 
 #include <iostream>

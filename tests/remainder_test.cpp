@@ -62,7 +62,8 @@ template <class T> pairs<T> telling_pairs(rng& r) {
             p.add(std::ldexp(random_significand<T>(r), ey + difference), y);
             const T n = std::trunc(std::ldexp(random_significand<T>(r), std::min(difference, limits::digits)));
             for (T multiple : {n * y, (n + T(0.5)) * y})
-                for (T x : {multiple, std::nextafter(multiple, T(0)), std::nextafter(multiple, T(HUGE_VAL) * multiple)})
+                for (T x :
+                     {multiple, std::nextafter(multiple, T(0)), std::nextafter(multiple, T(HUGE_VAL) * multiple)})
                     p.add(x, y);
         }
     }
@@ -110,7 +111,8 @@ TYPED_TEST(Remainder, InNumbers) {
 // invalid.
 TYPED_TEST(Remainder, WithoutARemainder) {
     using T = TypeParam;
-    const uint64_t infinity = infinity_word<T>, sign = sign_word<T>, quiet = infinity | quiet_bit<T>, one = word(T(1));
+    const uint64_t infinity = infinity_word<T>, sign = sign_word<T>, quiet = infinity | quiet_bit<T>,
+                   one = word(T(1));
     const uint64_t nan = infinity | 5 | sign, other_nan = infinity | 9;
     const uint64_t by_division = sizeof(T) == 8 ? quiet | sign : quiet;
     struct expectation {
@@ -132,9 +134,9 @@ TYPED_TEST(Remainder, WithoutARemainder) {
             const auto r = slow_path_of<T>(base, {e.x, e.y});
             const uint64_t expected = is_fmod ? e.fmod : e.remainder;
             EXPECT_EQ(r.result, expected) << base;
-            EXPECT_EQ(r.status, is_fmod                          ? e.fmod_status
+            EXPECT_EQ(r.status, is_fmod                       ? e.fmod_status
                                 : is_remquo && sizeof(T) == 8 ? 0
-                                                                 : e.remainder_status)
+                                                              : e.remainder_status)
                 << base;
             EXPECT_EQ(words_of<T>(base, to_even, number<T>(e.x), number<T>(e.y))[0], expected) << base;
             if (is_remquo) EXPECT_EQ((int32_t)r.out, 0);

@@ -15,7 +15,7 @@ struct kernels {
     double even_limit, tangent_limit;
 };
 constexpr kernels types[] = {{lane_type::f64, "sinpi", "cospi", "tanpi", 0x1p53, 0x1p49},
-                            {lane_type::f32, "sinpif", "cospif", "tanpif", 0x1p24, 0x1p20}};
+                             {lane_type::f32, "sinpif", "cospif", "tanpif", 0x1p24, 0x1p20}};
 template <class F> void each_kernel(F f) {
     for (const auto& m : types)
         for (auto tier : {"default", "native"}) {
@@ -161,12 +161,10 @@ TEST(Sinpi, Bits) {
             digests.push_back(digest_of(f({x})[0]));
         }
         const bool native = tier[0] == 'n', wide = m.type == lane_type::f64;
-        const std::vector<uint64_t> of_double[] = {
-            {0x5F1C2733F204542C, 0x7AB4D7895EF84944, 0xEDF4945D11B91414},
-            {0x19D069650EC8E7A5, 0x67A3379962F88065, 0xFCE1E5B4EB70AC48}};
-        const std::vector<uint64_t> of_float[] = {
-            {0xDBB7120657EAA50C, 0x1E1637E78E832AE1, 0x2AD626537B438415},
-            {0xDBB7120657EAA50C, 0x1E1637E78E832AE1, 0x0D0DCA8D3AF612DD}};
+        const std::vector<uint64_t> of_double[] = {{0x5F1C2733F204542C, 0x7AB4D7895EF84944, 0xEDF4945D11B91414},
+                                                   {0x19D069650EC8E7A5, 0x67A3379962F88065, 0xFCE1E5B4EB70AC48}};
+        const std::vector<uint64_t> of_float[] = {{0xDBB7120657EAA50C, 0x1E1637E78E832AE1, 0x2AD626537B438415},
+                                                  {0xDBB7120657EAA50C, 0x1E1637E78E832AE1, 0x0D0DCA8D3AF612DD}};
         EXPECT_EQ(digests, (wide ? of_double : of_float)[native]);
     });
 }

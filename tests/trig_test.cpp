@@ -1,4 +1,5 @@
-// sin, cos, sincos, sincosreg with their f members: errors by path, thresholds, symmetry, and what special lanes give.
+// sin, cos, sincos, sincosreg with their f members: errors by path, thresholds, symmetry, and what special lanes
+// give.
 #include "accuracy.h"
 
 using namespace orvane;
@@ -11,21 +12,16 @@ constexpr double closest = 0x1.6ac5b262ca1ffp+849; // of all doubles the closest
 struct family {
     const char *name, *tier;
     lane_type t;
-    double limit;         // of the short path
-    double small, large;  // ulps on either side of it
+    double limit;          // of the short path
+    double small, large;   // ulps on either side of it
     bool absolute = false; // small is an absolute error
 };
 const family families[] = {
-    {"sinf", "default", f32, 0x1p19, 2.3, 0.597},
-    {"cosf", "default", f32, 0x1p19, 2.36, 0.593},
-    {"sinf", "native", f32, 10000, 1.51e-4, 0.599, true},
-    {"cosf", "native", f32, 10000, 1.52e-4, 0.593, true},
-    {"sincosf", "default", f32, 0x1p19, 2.1, 2.08},
-    {"sin", "default", f64, 0x1p24, 3.23, 0.503},
-    {"cos", "default", f64, 0x1p23, 3.3, 0.503},
-    {"sincos", "default", f64, 0x1p23, 3.25, 0.503},
-    {"sin", "rm", f64, 0x1p24, 6.82e-9, 0.51, true},
-    {"cos", "rm", f64, 0x1p23, 6.82e-9, 0.512, true},
+    {"sinf", "default", f32, 0x1p19, 2.3, 0.597},         {"cosf", "default", f32, 0x1p19, 2.36, 0.593},
+    {"sinf", "native", f32, 10000, 1.51e-4, 0.599, true}, {"cosf", "native", f32, 10000, 1.52e-4, 0.593, true},
+    {"sincosf", "default", f32, 0x1p19, 2.1, 2.08},       {"sin", "default", f64, 0x1p24, 3.23, 0.503},
+    {"cos", "default", f64, 0x1p23, 3.3, 0.503},          {"sincos", "default", f64, 0x1p23, 3.25, 0.503},
+    {"sin", "rm", f64, 0x1p24, 6.82e-9, 0.51, true},      {"cos", "rm", f64, 0x1p23, 6.82e-9, 0.512, true},
     {"sincos", "rm", f64, 0x1p23, 6.82e-9, 0.513, true},
 };
 
@@ -158,7 +154,8 @@ TEST(Trig, LongEveryFloat) {
                           {"sinf", "native", 0.6, std::sin, 0, 10000.001f},
                           {"cosf", "native", 0.6, std::cos, 0, 10000.001f}})
         check_all_floats(a);
-    for (auto [name, reference] : {std::pair<const char*, double (*)(double)>{"sinf", std::sin}, {"cosf", std::cos}}) {
+    for (auto [name, reference] :
+         {std::pair<const char*, double (*)(double)>{"sinf", std::sin}, {"cosf", std::cos}}) {
         sweep f(name, "native", 16);
         double largest = 0;
         over_all_floats(f, 0, [&](float x, float y) {

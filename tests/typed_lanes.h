@@ -42,7 +42,8 @@ template <class T, class... A> T value(const std::string& base, A... a) {
 // The slow path of a family, called for one lane; `before` stands where it puts its result.
 template <class T>
 slow_result slow_path_of(const char* base, const std::vector<uint64_t>& lane, uint64_t before = 0) {
-    auto r = call_slow_path(library_under_test(), *find_row(library_rows(), member<T>(base), "default"), lane, before);
+    auto r =
+        call_slow_path(library_under_test(), *find_row(library_rows(), member<T>(base), "default"), lane, before);
     if (sizeof(T) == 4) r.result &= 0xFFFFFFFF;
     return r;
 }

@@ -10,8 +10,8 @@
 // raw-register caller, so what is printed is what emitted code would find in its registers.
 #include "call_plan.h"
 #include "signature.h"
-#include "whole_file.h"
 #include "truth.h"
+#include "whole_file.h"
 
 #include <CLI/CLI.hpp>
 #include <charconv>

@@ -83,8 +83,8 @@ kernel_row list::row(std::string_view name, std::string_view tier, std::string_v
     return r;
 }
 
-kernel_row list::twin(std::string_view name, std::string_view tier, std::string_view of_name, std::string_view of_tier,
-                      std::string_view builtin) {
+kernel_row list::twin(std::string_view name, std::string_view tier, std::string_view of_name,
+                      std::string_view of_tier, std::string_view builtin) {
     kernel_row r{};
     r.name = name, r.tier = tier;
     r.twin_name = of_name, r.twin_tier = of_tier;
@@ -109,8 +109,9 @@ std::vector<kernel_row> list::checked(std::vector<kernel_row> rows) {
         if (r.builtin.empty()) continue;
         const auto [other, first] = serving.try_emplace((r.is_relaxed() ? "relaxed " : "") + r.served_builtin(1), &r);
         if (!first)
-            refuse(r.name, r.tier, "serves " + r.served_builtin(1) + ", as " + std::string(other->second->name) + " " +
-                                       std::string(other->second->tier) + " does already");
+            refuse(r.name, r.tier,
+                   "serves " + r.served_builtin(1) + ", as " + std::string(other->second->name) + " " +
+                       std::string(other->second->tier) + " does already");
     }
     return rows;
 }

@@ -63,8 +63,8 @@ struct kernel_row {
     std::string base() const;          // without the f
     std::string family_symbol() const; // sexp, dln: as blocks and slow paths are named
     std::string slow_path_symbol() const { return "__orvane_" + family_symbol() + "_cout_rare"; }
-    // The one OpenCL C built-in that becomes a call at this width, with its types: "exp(float8)", "operator/(int, int)";
-    // of the rm tier under -cl-fast-relaxed-math alone. Empty: none.
+    // The one OpenCL C built-in that becomes a call at this width, with its types: "exp(float8)", "operator/(int,
+    // int)"; of the rm tier under -cl-fast-relaxed-math alone. Empty: none.
     std::string served_builtin(int width) const;
 };
 
@@ -82,8 +82,8 @@ kernel_row row(std::string_view name, std::string_view tier, std::string_view sc
 // A row whose other columns are those of the row that it names: `checked` fills them in.
 kernel_row twin(std::string_view name, std::string_view tier, std::string_view of_name, std::string_view of_tier,
                 std::string_view builtin);
-// The rows, twins filled in. Throws with one line if they do not fit together: one twice, a twin that is no earlier row,
-// or two that serve one built-in.
+// The rows, twins filled in. Throws with one line if they do not fit together: one twice, a twin that is no earlier
+// row, or two that serve one built-in.
 std::vector<kernel_row> checked(std::vector<kernel_row> rows);
 } // namespace list
 

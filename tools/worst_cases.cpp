@@ -34,7 +34,8 @@ error_measure measure_of(const kernel_row& row, lane_path path) {
 double large_from(const kernel_row& row) {
     if (row.path != kernel_path::large && row.path != kernel_path::settled_large) return HUGE_VAL;
     const std::string base = row.base();
-    if (base.find("gamma") != base.npos) return HUGE_VAL; // there a second formula serves other intervals, not large x
+    if (base.find("gamma") != base.npos)
+        return HUGE_VAL; // there a second formula serves other intervals, not large x
     const bool single = row.in == lane_type::f32;
     if (base == "tan") return single ? 8256 : 128000;
     if (!single) return base == "sin" ? 0x1p24 : 0x1p23;

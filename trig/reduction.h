@@ -42,11 +42,11 @@ template <class T, int W> struct reduced_angle {
 template <class T> struct reduction_constants;
 template <> struct reduction_constants<float> {
     SLOT(uint32_t, 0, sign_mask, 0x80000000)
-    SLOT(uint32_t, 1, one_bits, 0x3F800000)   // exponents of the three fields of the fraction: 0,
-    SLOT(uint32_t, 2, mid_bits, 0x34000000)   // -23,
-    SLOT(uint32_t, 3, low_bits, 0x28800000)   // -46
-    SLOT(float, 4, frac_shift, 0x47400000)    // 1.5 * 2^15: rounds a number near 1 to 1/256
-    SLOT(float, 5, two_pi_hi, 0x40C90FDB)     // 2 pi in two parts
+    SLOT(uint32_t, 1, one_bits, 0x3F800000) // exponents of the three fields of the fraction: 0,
+    SLOT(uint32_t, 2, mid_bits, 0x34000000) // -23,
+    SLOT(uint32_t, 3, low_bits, 0x28800000) // -46
+    SLOT(float, 4, frac_shift, 0x47400000)  // 1.5 * 2^15: rounds a number near 1 to 1/256
+    SLOT(float, 5, two_pi_hi, 0x40C90FDB)   // 2 pi in two parts
     SLOT(float, 6, two_pi_lo, 0xB43BBD2E)
     SLOT(uint32_t, 7, exponent_field, 0x000000FF)
     SLOT(uint32_t, 8, fraction_field, 0x007FFFFF)
@@ -127,7 +127,7 @@ template <sign_of_argument Sign, int W> ORVANE_INLINE reduced_angle<float, W> re
         (X & c.fraction_field) | c.leading_one, ((e << 1) + e) << 2);
     auto hi = high_words(fraction), lo = low_words(fraction);
     return angle_of_fraction<Sign, float, W>(c, X, hi >> 9, ((hi & c.mid_of_hi) << 14) | (lo >> 18),
-                                       (lo << 5) & c.low_of_lo);
+                                             (lo << 5) & c.low_of_lo);
 }
 
 // The fraction as sums of 32-bit columns; a multiplication reads only the low word of each lane. The sums are
@@ -156,7 +156,7 @@ template <sign_of_argument Sign, int W> ORVANE_INLINE reduced_angle<double, W> r
     auto lo = (s96 << 32) | (s64 & c.kept_of_column);
 
     return angle_of_fraction<Sign, double, W>(c, X, hi >> 12, ((hi & c.mid_of_hi) << 40) | (lo >> 24),
-                                        (s64 << 28) & c.low_of_lo);
+                                              (s64 << 28) & c.low_of_lo);
 }
 
 } // namespace orvane

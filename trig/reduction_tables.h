@@ -7,18 +7,22 @@
 namespace orvane {
 
 // Row e is floor(2^(e - 54) / (2 pi)) mod 2^96: M * row / 2^96 = x / (2 pi) mod 1 for x = M 2^(e - 150).
-struct reduction_row_f32 { uint32_t w[3]; };
+struct reduction_row_f32 {
+    uint32_t w[3];
+};
 ORVANE_TABLE(reduction_row_f32, __orvane_stan_reduction_data, 256);
 
 // Row e is floor(2^(e - 883) / (2 pi)) mod 2^192: M * row / 2^192 = x / (2 pi) mod 1 for x = M 2^(e - 1075).
-struct reduction_row_f64 { uint64_t w[3]; };
+struct reduction_row_f64 {
+    uint64_t w[3];
+};
 ORVANE_TABLE(reduction_row_f64, __orvane_dtan_reduction_data, 2048);
 
 // What the scalar reduction of slow paths reads: signs, pi/4 in parts and 4 / pi in pieces.
 struct scalar_reduction_table {
-    double parity[2];  // added to a fraction by the parity of its octant
-    double sign[2];    // of a result, by the sign of x
-    double splitter;   // 1.5 * 2^26
+    double parity[2]; // added to a fraction by the parity of its octant
+    double sign[2];   // of a result, by the sign of x
+    double splitter;  // 1.5 * 2^26
     double unread_5;
     double pio4_a, pio4_b; // pi/4 in two parts
     double four_over_pi;

@@ -35,7 +35,7 @@ struct dsin_rm_block {
     SLOT(double, 7, pi_1, 0x400921FB54442D18)
     SLOT(double, 8, pi_2, 0x3CA1A62633145C06)
     // Fit on |r| <= pi/2: r + s1*r^3 + s2*r^5 + s3*r^7 + s4*r^9 = sin(r) to 2^-27.1 relative
-    SLOT(double, 9, s1, 0xBFC55554AD3EAF1F) // r^3
+    SLOT(double, 9, s1, 0xBFC55554AD3EAF1F)  // r^3
     SLOT(double, 10, s2, 0x3F8110EA968A0185) // r^5
     SLOT(double, 11, s3, 0xBF29F67D9395D587) // r^7
     SLOT(double, 12, s4, 0x3EC5D4567512BBD5) // r^9
@@ -55,12 +55,12 @@ struct dcos_block {
     // to 2^-52.2 relative
     SLOT(double, 13, s1, 0xBFC55555555554A7) // r^3
     GAP(14, 14)
-    SLOT(double, 15, s2, 0x3F8111111110A4A8) // r^5
-    SLOT(double, 16, s3, 0xBF2A01A019A5B87B) // r^7
-    SLOT(double, 17, s4, 0x3EC71DE38030FEA0) // r^9
-    SLOT(double, 18, s5, 0xBE5AE63546002231) // r^11
-    SLOT(double, 19, s6, 0x3DE60E6857A2F220) // r^13
-    SLOT(double, 20, s7, 0xBD69F0D60811AAC8) // r^15
+    SLOT(double, 15, s2, 0x3F8111111110A4A8)  // r^5
+    SLOT(double, 16, s3, 0xBF2A01A019A5B87B)  // r^7
+    SLOT(double, 17, s4, 0x3EC71DE38030FEA0)  // r^9
+    SLOT(double, 18, s5, 0xBE5AE63546002231)  // r^11
+    SLOT(double, 19, s6, 0x3DE60E6857A2F220)  // r^13
+    SLOT(double, 20, s7, 0xBD69F0D60811AAC8)  // r^15
     SLOT(double, 21, one, 0x3FF0000000000000) // 1.0
 };
 struct dcos_rm_block {
@@ -136,7 +136,8 @@ template <const auto& Block> struct dsin_short : kernel<one_argument<double>, Bl
 struct dsin : dsin_short<__orvane_dsin_data> {
     template <int W> static ORVANE_INLINE auto large_path(const dsin_block& c, lanes<double, W> x, auto ordinary) {
         const auto& ha = __orvane_dsin_data_ha;
-        auto y = eval_large_f64(ha, reduce_large_f64<not_negative>(x & c.abs_mask)) ^ andnot(lanes<double, W>(c.abs_mask), x);
+        auto y = eval_large_f64(ha, reduce_large_f64<not_negative>(x & c.abs_mask)) ^
+                 andnot(lanes<double, W>(c.abs_mask), x);
         return answer{select(ordinary.special, y, ordinary.first), not_finite(ha, x)};
     }
 };

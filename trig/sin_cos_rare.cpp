@@ -64,8 +64,14 @@ scalar_remainder reduce_large(uint64_t ax, int s) {
     const double t = s3 - Yf;
     // An odd octant gives a fraction in [-1, 0): the remainder from the next even one.
     double acc = T.parity[iv & 1] + (t + e3), err = (t - (t + e3)) + e3;
-    const double terms[] = {xl * P[2], P[3] * xh, P[3] * xl,           P[4] * xh,
-                            P[4] * xl, P[5] * xh, P[5] * xl + P[6] * xh, P[6] * xl + P[7] * xh};
+    const double terms[] = {xl * P[2],
+                            P[3] * xh,
+                            P[3] * xl,
+                            P[4] * xh,
+                            P[4] * xl,
+                            P[5] * xh,
+                            P[5] * xl + P[6] * xh,
+                            P[6] * xl + P[7] * xh};
     for (double term : terms) {
         const double next = acc + term;
         err = ((acc - next) + term) + err;

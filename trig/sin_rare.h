@@ -8,11 +8,13 @@ namespace orvane {
 
 // Row j is the angle 2 pi j/64; cos_head is a power of two, sin_lo a float. The constants of the routine stand behind
 // the rows.
-struct scalar_angle_row { double cos_tail, sin_hi, sin_lo, cos_head; };
+struct scalar_angle_row {
+    double cos_tail, sin_hi, sin_lo, cos_head;
+};
 struct scalar_angle_table {
     scalar_angle_row row[64];
-    double m32_pi, m_shift;      // 32 / pi, 1.5 * 2^52
-    double p32_a, p32_b, p32_c;  // pi/32 in three parts
+    double m32_pi, m_shift;                                // 32 / pi, 1.5 * 2^52
+    double p32_a, p32_b, p32_c;                            // pi/32 in three parts
     double t_s1, t_s2, t_s3, t_s4, t_c1, t_c2, t_c3, t_c4; // Taylor coefficients of sine and cosine
     double unread[3];
     double two55, two_m55; // 2^55, 2^-55
@@ -49,10 +51,8 @@ inline double tiny_cosine(double x) { return 1.0 - __builtin_fabs(x); }
 // invalid flag.
 template <class T> bool circular_of_not_finite(T x, T* result, int* code) {
     if (biased_exponent(x) != top_exponent<T>) return false;
-    if (is_nan(x))
-        *result = x * x, *code = ordinary;
-    else
-        *result = x * T(0), *code = domain_error;
+    if (is_nan(x)) *result = x * x, *code = ordinary;
+    else *result = x * T(0), *code = domain_error;
     return true;
 }
 

@@ -1,5 +1,5 @@
-// sincos and sincosreg in double: one polynomial gives both results, the cosine from a second remainder half a turn of
-// pi away from the sine's. Large lanes as in sin and cos. The two families differ only in how the cosine travels.
+// sincos and sincosreg in double: one polynomial gives both results, the cosine from a second remainder half a turn
+// of pi away from the sine's. Large lanes as in sin and cos. The two families differ only in how the cosine travels.
 #include "trig/sine_steps.h"
 
 namespace orvane {
@@ -14,7 +14,7 @@ struct dsincos_block {
     GAP(3, 3)
     SLOT(double, 4, inv_pi, 0x3FD45F306DC9C883)
     SLOT(double, 5, shifter, 0x4338000000000000) // 1.5 * 2^52
-    SLOT(double, 6, half, 0x3FE0000000000000) // 0.5
+    SLOT(double, 6, half, 0x3FE0000000000000)    // 0.5
     GAP(7, 10)
     SLOT(double, 11, pi_1, 0x400921FB54442D18)
     SLOT(double, 12, pi_2, 0x3CA1A62633145C06)
@@ -25,11 +25,11 @@ struct dsincos_block {
     SLOT(double, 18, s1, 0xBFC55555555554A7) // r^3
     SLOT(double, 19, s2, 0x3F8111111110A4A6) // r^5
     GAP(20, 20)
-    SLOT(double, 21, s3, 0xBF2A01A019A5B86D) // r^7
-    SLOT(double, 22, s4, 0x3EC71DE38030FEA0) // r^9
-    SLOT(double, 23, s5, 0xBE5AE63546002231) // r^11
-    SLOT(double, 24, s6, 0x3DE60E6857A2F220) // r^13
-    SLOT(double, 25, s7, 0xBD69F0D60811AAC8) // r^15
+    SLOT(double, 21, s3, 0xBF2A01A019A5B86D)  // r^7
+    SLOT(double, 22, s4, 0x3EC71DE38030FEA0)  // r^9
+    SLOT(double, 23, s5, 0xBE5AE63546002231)  // r^11
+    SLOT(double, 24, s6, 0x3DE60E6857A2F220)  // r^13
+    SLOT(double, 25, s7, 0xBD69F0D60811AAC8)  // r^15
     SLOT(double, 26, one, 0x3FF0000000000000) // 1.0
 };
 struct dsincos_rm_block {
@@ -104,9 +104,8 @@ template <class Signature, const auto& Block, auto& Rare> struct dsincos_short :
 };
 
 // sin(2 pi j/512 + r + rl) for one of the two rows; the same terms as a single sine's, in another order.
-template <int W>
-ORVANE_INLINE auto sine_of_row(const dsincos_ha_block& c, lanes<uint64_t, W> j, lanes<double, W> r,
-                               lanes<double, W> rl, lanes<double, W> ps, lanes<double, W> pc) {
+template <int W> ORVANE_INLINE auto sine_of_row(const dsincos_ha_block& c, lanes<uint64_t, W> j, lanes<double, W> r,
+                                                lanes<double, W> rl, lanes<double, W> ps, lanes<double, W> pc) {
     const row_addresses<W> row(c.rows.entry, j << 5);
     auto [ct, ch] = row.pair(&angle_row<double>::cos_tail);
     auto [sh, sl] = row.pair(&angle_row<double>::sin_hi);
@@ -121,8 +120,8 @@ ORVANE_INLINE auto sine_of_row(const dsincos_ha_block& c, lanes<uint64_t, W> j, 
     auto u = fma(pc, sh, w + e2);
     return h2 + (e1 + u);
 }
-template <class Signature, const auto& Block, auto& Rare>
-struct dsincos_large : dsincos_short<Signature, Block, Rare> {
+template <class Signature, const auto& Block, auto& Rare> struct dsincos_large
+    : dsincos_short<Signature, Block, Rare> {
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<double, W> x, auto ordinary) {
         const auto& ha = __orvane_dsincos_data_ha;
         auto ax = andnot(lanes<double, W>(c.sign_mask), x);

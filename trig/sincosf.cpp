@@ -1,5 +1,5 @@
-// sincosf and sincosregf: by multiples of pi/2 and two polynomials, exchanged by the parity of the quadrant. The large
-// path runs in double, with 2 / pi cut off where it counts whole turns; every lane is finished here.
+// sincosf and sincosregf: by multiples of pi/2 and two polynomials, exchanged by the parity of the quadrant. The
+// large path runs in double, with 2 / pi cut off where it counts whole turns; every lane is finished here.
 #include "frame/_orvane_template.h"
 #include "frame/rare.h"
 
@@ -20,10 +20,10 @@ struct ssincos_block {
     GAP(5, 5)
     SLOT(float, 6, shifter, 0x4B400000) // 1.5 * 2^23
     SLOT(float, 7, two_over_pi, 0x3F22F983)
-    SLOT(float, 8, large_limit, 0x49000000) // 524288.0
+    SLOT(float, 8, large_limit, 0x49000000)        // 524288.0
     SLOT(double, 9, d_shifter, 0x4338000000000000) // 1.5 * 2^52
-    SLOT(float, 10, npi_1, 0xBFC90FDB) // -pi/2, first piece
-    SLOT(float, 11, npi_2, 0x333BBD2E) // second piece
+    SLOT(float, 10, npi_1, 0xBFC90FDB)             // -pi/2, first piece
+    SLOT(float, 11, npi_2, 0x333BBD2E)             // second piece
     SLOT(float, 12, npi_3, 0x26F72CED)
     // Fit on |r| <= pi/4: fc0 + fc1*r^2 + fc2*r^4 + fc3*r^6 = cos(r) to 2^-23.6 relative
     SLOT(float, 13, fc3, 0xBAB1FCEB) // cosine polynomial, r^6
@@ -31,11 +31,11 @@ struct ssincos_block {
     SLOT(float, 15, fc1, 0xBEFFFFCB) // r^2
     SLOT(float, 16, fc0, 0x3F800000) // 1.0
     // Fit on |r| <= pi/4: r + r*(fs0 + fs1*r^2 + fs2*r^4 + fs3*r^6) = sin(r) to 2^-27.1 relative
-    SLOT(float, 17, fs3, 0xB94C7DCE) // sine polynomial, r^7
-    SLOT(float, 18, fs2, 0x3C088303) // r^5
-    SLOT(float, 19, fs1, 0xBE2AAAA0) // r^3
-    SLOT(float, 20, fs0, 0xB15E870D) // r^1 correction to the leading r
-    SLOT(double, 21, d_two23, 0x4160000000000000) // 2^23
+    SLOT(float, 17, fs3, 0xB94C7DCE)               // sine polynomial, r^7
+    SLOT(float, 18, fs2, 0x3C088303)               // r^5
+    SLOT(float, 19, fs1, 0xBE2AAAA0)               // r^3
+    SLOT(float, 20, fs0, 0xB15E870D)               // r^1 correction to the leading r
+    SLOT(double, 21, d_two23, 0x4160000000000000)  // 2^23
     SLOT(uint64_t, 22, e_base, 0x0000000000000416) // 1046, the biased exponent of 2^23
     SLOT(double, 23, d_half_pi, 0x3FF921FB54442D18)
     GAP(24, 24)
@@ -76,8 +76,7 @@ template <class Signature> struct ssincos_kernel : kernel<Signature, __orvane_ss
         r = fma(n, c.npi_3, r);
         return answer{r, bits(t), not_less(ax, lanes<float, W>(c.large_limit))};
     }
-    template <int W>
-    static ORVANE_INLINE auto large_reduce(const ssincos_block& c, lanes<float, W> x, auto reduced) {
+    template <int W> static ORVANE_INLINE auto large_reduce(const ssincos_block& c, lanes<float, W> x, auto reduced) {
         auto ax = x & c.abs_mask;
         lanes<float, W> r;
         lanes<uint32_t, W> t;

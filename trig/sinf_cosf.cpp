@@ -1,5 +1,5 @@
-// sinf and cosf: up to a limit by multiples of pi and an odd polynomial, all in float, beyond it by the reduction to a
-// fraction of a turn and a table of angles. Only Inf and NaN have a slow path.
+// sinf and cosf: up to a limit by multiples of pi and an odd polynomial, all in float, beyond it by the reduction to
+// a fraction of a turn and a table of angles. Only Inf and NaN have a slow path.
 #include "trig/sine_steps.h"
 
 namespace orvane {
@@ -29,7 +29,8 @@ struct ssin_block {
     SLOT(float, 81, s3, 0xB94FB7FF) // r^7
     SLOT(float, 82, s4, 0x362EDEF8) // r^9
     SLOT(float, 83, inv_pi, 0x3EA2F983)
-    SLOT(float, 84, shifter, 0x4B400000) // 1.5 * 2^23: adding it rounds to an integer, kept in the low significand bits
+    SLOT(float, 84, shifter,
+         0x4B400000) // 1.5 * 2^23: adding it rounds to an integer, kept in the low significand bits
 };
 struct ssin_rm_block {
     TABLE(0, rows, sin_rows_f32)
@@ -80,7 +81,7 @@ struct scos_block {
     SLOT(float, 87, shifter, 0x4B400000)
     SLOT(float, 88, half_pi, 0x3FC90FDB)
     SLOT(float, 89, half, 0x3F000000) // 0.5
-    SLOT(float, 90, one, 0x3F800000) // 1.0
+    SLOT(float, 90, one, 0x3F800000)  // 1.0
 };
 struct scos_rm_block {
     TABLE(0, rows, cos_rows_f32)
@@ -161,8 +162,7 @@ template <const auto& Block> struct scos_kernel : with_large_f32<Block, __orvane
         lanes<float, W> z;
         if constexpr (requires { c.s4; }) z = fma(r3, sine_polynomial(c, r2), rs);
         else z = fma(r3, fma(c.c2, r2, c.c1), rs * c.c0);
-        return answer{select(is_one, lanes<float, W>(c.one), z),
-                      is_large(c, ax)};
+        return answer{select(is_one, lanes<float, W>(c.one), z), is_large(c, ax)};
     }
 };
 

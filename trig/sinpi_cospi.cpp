@@ -22,33 +22,33 @@ ORVANE_BLOCK_TWIN(__orvane_scospi_data, __orvane_ssinpi_data)
 ORVANE_BLOCK_TWIN(__orvane_scospi_native_data, __orvane_ssinpi_data)
 
 // The first slots, which the blocks of sine and cosine share. (The sine does not read slot 3, the cosine's 1/2.)
-#define ORVANE_PARITY_CONSTANTS                                                                                     \
-    SLOT(double, 0, abs_mask, 0x7FFFFFFFFFFFFFFF)                                                                   \
-    SLOT(double, 1, two52, 0x4330000000000000) /* 2^52 */                                                           \
-    SLOT(double, 2, two53, 0x4340000000000000) /* 2^53 */                                                           \
-    SLOT(double, 3, half, 0x3FE0000000000000) /* 0.5 */                                                             \
-    SLOT(double, 4, sign_mask, 0x8000000000000000)                                                                  \
+#define ORVANE_PARITY_CONSTANTS                                                                                      \
+    SLOT(double, 0, abs_mask, 0x7FFFFFFFFFFFFFFF)                                                                    \
+    SLOT(double, 1, two52, 0x4330000000000000) /* 2^52 */                                                            \
+    SLOT(double, 2, two53, 0x4340000000000000) /* 2^53 */                                                            \
+    SLOT(double, 3, half, 0x3FE0000000000000)  /* 0.5 */                                                             \
+    SLOT(double, 4, sign_mask, 0x8000000000000000)                                                                   \
     SLOT(double, 5, zero, 0x0000000000000000)
 // sin(pi g) / g in g^2 for abs(g) <= 1/2, from slot `first` on.
 // Fit on |g| <= 1/2: g*(a0 + a1*g^2 + a2*g^4 + a3*g^6 + a4*g^8 + a5*g^10 + a6*g^12 + a7*g^14 + a8*g^16) =
 // sin(pi*g) to 2^-54.5 relative
-#define ORVANE_SINE_OF_9_TERMS(first)                                                                               \
-    SLOT(double, first, a8, 0x3EA9D46B06CE620E) /* 7.697867779764488e-07 */                                         \
-    SLOT(double, (first) + 1, a7, 0xBEF6F7AD23B5CD51) /* -2.1903501175879917e-05 */                                 \
-    SLOT(double, (first) + 2, a6, 0x3F3E8F3677C334D3) /* 0.00046629981785601993 */                                  \
-    SLOT(double, (first) + 3, a5, 0xBF7E3074DFB5BB14) /* -0.007370430506269416 */                                   \
-    SLOT(double, (first) + 4, a4, 0x3FB50783485523F4) /* 0.0821458865731442 */                                      \
-    SLOT(double, (first) + 5, a3, 0xBFE32D2CCE627C9E) /* -0.59926452931894736 */                                    \
-    SLOT(double, (first) + 6, a2, 0x400466BC6775AA7D) /* 2.5501640398773007 */                                      \
-    SLOT(double, (first) + 7, a1, 0xC014ABBCE625BE52) /* -5.1677127800499694 */                                     \
+#define ORVANE_SINE_OF_9_TERMS(first)                                                                                \
+    SLOT(double, first, a8, 0x3EA9D46B06CE620E)       /* 7.697867779764488e-07 */                                    \
+    SLOT(double, (first) + 1, a7, 0xBEF6F7AD23B5CD51) /* -2.1903501175879917e-05 */                                  \
+    SLOT(double, (first) + 2, a6, 0x3F3E8F3677C334D3) /* 0.00046629981785601993 */                                   \
+    SLOT(double, (first) + 3, a5, 0xBF7E3074DFB5BB14) /* -0.007370430506269416 */                                    \
+    SLOT(double, (first) + 4, a4, 0x3FB50783485523F4) /* 0.0821458865731442 */                                       \
+    SLOT(double, (first) + 5, a3, 0xBFE32D2CCE627C9E) /* -0.59926452931894736 */                                     \
+    SLOT(double, (first) + 6, a2, 0x400466BC6775AA7D) /* 2.5501640398773007 */                                       \
+    SLOT(double, (first) + 7, a1, 0xC014ABBCE625BE52) /* -5.1677127800499694 */                                      \
     SLOT(double, (first) + 8, a0, 0x400921FB54442D18) /* 3.1415926535897931 */
 // Fit on |g| <= 1/2: g*(a0 + a1*g^2 + a2*g^4 + a3*g^6 + a4*g^8 + a5*g^10) = sin(pi*g) to 2^-34.2 relative
-#define ORVANE_SINE_OF_6_TERMS(first)                                                                               \
-    SLOT(double, first, a5, 0xBF7CC9E2457440BA) /* -0.0070284689638954682 */                                        \
-    SLOT(double, (first) + 1, a4, 0x3FB501422DFC7159) /* 0.082050453402591997 */                                    \
-    SLOT(double, (first) + 2, a3, 0xBFE32D12F805BE40) /* -0.59925220910913168 */                                    \
-    SLOT(double, (first) + 3, a2, 0x400466BC06D54F0B) /* 2.5501633199545544 */                                      \
-    SLOT(double, (first) + 4, a1, 0xC014ABBCE51D46FF) /* -5.1677127646560157 */                                     \
+#define ORVANE_SINE_OF_6_TERMS(first)                                                                                \
+    SLOT(double, first, a5, 0xBF7CC9E2457440BA)       /* -0.0070284689638954682 */                                   \
+    SLOT(double, (first) + 1, a4, 0x3FB501422DFC7159) /* 0.082050453402591997 */                                     \
+    SLOT(double, (first) + 2, a3, 0xBFE32D12F805BE40) /* -0.59925220910913168 */                                     \
+    SLOT(double, (first) + 3, a2, 0x400466BC06D54F0B) /* 2.5501633199545544 */                                       \
+    SLOT(double, (first) + 4, a1, 0xC014ABBCE51D46FF) /* -5.1677127646560157 */                                      \
     SLOT(double, (first) + 5, a0, 0x400921FB54442D18) /* 3.1415926535897931 */
 struct dsinpi_block {
     ORVANE_PARITY_CONSTANTS

@@ -27,8 +27,8 @@ struct stan_block {
     GAP(14, 14)
     SLOT(float, 15, abs_mask, 0x7FFFFFFF)
     GAP(16, 16)
-    SLOT(float, 17, shifter, 0x4B400000) // 1.5 * 2^23
-    SLOT(float, 18, one, 0x3F800000) // 1.0
+    SLOT(float, 17, shifter, 0x4B400000)     // 1.5 * 2^23
+    SLOT(float, 18, one, 0x3F800000)         // 1.0
     SLOT(float, 19, large_limit, 0x46010000) // 8256.0
     GAP(20, 23)
     SLOT(float, 24, pi_1, 0x3FC90FDB) // 1.57079637, pi / 2
@@ -49,18 +49,18 @@ struct stan_rm_block {
     GAP(14, 14)
     SLOT(float, 15, abs_mask, 0x7FFFFFFF)
     GAP(16, 16)
-    SLOT(float, 17, shifter, 0x4B400000) // 1.5 * 2^23
-    SLOT(float, 18, one, 0x3F800000) // 1.0
+    SLOT(float, 17, shifter, 0x4B400000)     // 1.5 * 2^23
+    SLOT(float, 18, one, 0x3F800000)         // 1.0
     SLOT(float, 19, large_limit, 0x46010000) // 8256.0
     GAP(20, 22)
     SLOT(float, 23, pi_1, 0x3FC90FDB) // 1.57079637, pi / 2
     SLOT(float, 24, pi_2, 0xB33BBD2E) // -4.37113883e-08, second piece
     // Fit on |r| <= pi/4: r*(p0 + p1*r^2)/(q0 + q1*r^2 + q2*r^4) = tan(r) to 2^-25.1 relative
-    SLOT(float, 25, p0, 0x3F7FFFFC) // 0.999999762, numerator, r
-    SLOT(float, 26, p1, 0xBDC433B4) // -0.0958017409, numerator, r^3
-    SLOT(float, 27, q0, 0x3F7FFFFC) // 0.999999762, denominator, constant term
-    SLOT(float, 28, q1, 0xBEDBB7AB) // -0.42913565, denominator, r^2
-    SLOT(float, 29, q2, 0x3C1F336B) // 0.00971684884, denominator, r^4
+    SLOT(float, 25, p0, 0x3F7FFFFC)  // 0.999999762, numerator, r
+    SLOT(float, 26, p1, 0xBDC433B4)  // -0.0958017409, numerator, r^3
+    SLOT(float, 27, q0, 0x3F7FFFFC)  // 0.999999762, denominator, constant term
+    SLOT(float, 28, q1, 0xBEDBB7AB)  // -0.42913565, denominator, r^2
+    SLOT(float, 29, q2, 0x3C1F336B)  // 0.00971684884, denominator, r^4
     SLOT(float, 30, two, 0x40000000) // 2.0
     TABLE(31, rows, tan_rows_f32)
 };

@@ -14,7 +14,7 @@ struct stanpi_block {
     SLOT(float, 82, exp_mask, 0x7F800000)
     GAP(83, 101)
     SLOT(float, 102, large_limit, 0x49800000) // 2^20
-    SLOT(float, 103, shifter, 0x4AC00000) // 1.5 * 2^22
+    SLOT(float, 103, shifter, 0x4AC00000)     // 1.5 * 2^22
     GAP(104, 104)
     // Fit on |f| <= 1/4: f*(p0 + p1*f^2)/(q0 + q1*f^2 + q2*f^4) = tan(pi*f) to 2^-24.7 relative
     SLOT(float, 105, p0, 0x40490FD7) // 3.14159179, numerator, f, not quite pi
@@ -30,7 +30,7 @@ struct stanpi_native_block {
     SLOT(float, 82, exp_mask, 0x7F800000)
     GAP(83, 101)
     SLOT(float, 102, large_limit, 0x49800000) // 2^20
-    SLOT(float, 103, shifter, 0x4AC00000) // 1.5 * 2^22
+    SLOT(float, 103, shifter, 0x4AC00000)     // 1.5 * 2^22
     GAP(104, 104)
     // Fit on |f| <= 1/4: f*(p0 + p1*f^2)/(q0 + q1*f^2) = tan(pi*f) to 2^-14.7 relative
     SLOT(float, 105, p0, 0x40490FD6) // 3.14159155, numerator, f, not quite pi
@@ -44,7 +44,7 @@ struct dtanpi_block {
     GAP(417, 417)
     SLOT(double, 418, exp_mask, 0x7FF0000000000000)
     GAP(419, 424)
-    SLOT(double, 425, shifter, 0x4328000000000000) // 1.5 * 2^51
+    SLOT(double, 425, shifter, 0x4328000000000000)     // 1.5 * 2^51
     SLOT(double, 426, large_limit, 0x4300000000000000) // 2^49
     // Fit on |f| <= 1/4: f*(p0 + p1*f^2 + p2*f^4 + p3*f^6)/(q0 + q1*f^2 + q2*f^4 + q3*f^6 + q4*f^8) = tan(pi*f)
     // to 2^-53.6 relative
@@ -64,7 +64,7 @@ struct dtanpi_native_block {
     GAP(417, 417)
     SLOT(double, 418, exp_mask, 0x7FF0000000000000)
     GAP(419, 424)
-    SLOT(double, 425, shifter, 0x4328000000000000) // 1.5 * 2^51
+    SLOT(double, 425, shifter, 0x4328000000000000)     // 1.5 * 2^51
     SLOT(double, 426, large_limit, 0x4300000000000000) // 2^49
     GAP(427, 427)
     // Fit on |f| <= 1/4: f*(p0 + p1*f^2 + p2*f^4)/(q0 + q1*f^2 + q2*f^4) = tan(pi*f) to 2^-32.6 relative
@@ -91,8 +91,7 @@ template <class T, int W> ORVANE_INLINE quotient<T, W> tangent_quotient(const au
     auto z = f * f;
     if constexpr (requires { c.q4; })
         return {f * horner(z, c.p3, c.p2, c.p1, c.p0), horner(z, c.q4, c.q3, c.q2, c.q1, c.q0)};
-    else if constexpr (requires { c.p2; })
-        return {f * horner(z, c.p2, c.p1, c.p0), horner(z, c.q2, c.q1, c.q0)};
+    else if constexpr (requires { c.p2; }) return {f * horner(z, c.p2, c.p1, c.p0), horner(z, c.q2, c.q1, c.q0)};
     else if constexpr (requires { c.q2; }) return {f * horner(z, c.p1, c.p0), horner(z, c.q2, c.q1, c.q0)};
     else return {f * horner(z, c.p1, c.p0), horner(z, c.q1, c.q0)};
 }

@@ -1,7 +1,8 @@
 /* Orvane's passes for LLVM, for a JIT that calls them: C, and C++ where LLVM's headers of the same version are there.
  *
- * They find calls of the library's exports, as the built-ins in orvane-builtins.bc make them, and see that LLVM's loop
- * vectorizer makes them wide; docs/jit.md walks through it. What they do shows in LLVM's remarks of the pass "orvane". */
+ * They find calls of the library's exports, as the built-ins in orvane-builtins.bc make them, and see that LLVM's
+ * loop vectorizer makes them wide; docs/jit.md walks through it. What they do shows in LLVM's remarks of the pass
+ * "orvane". */
 #ifndef ORVANE_LLVM_H
 #define ORVANE_LLVM_H
 
@@ -41,9 +42,9 @@ struct llvm_options {
     bool exact_clobbers = false;
 };
 
-// Puts the passes into the pipelines that the builder makes afterwards, at their start, in front of the vectorizers and
-// at their end; and gives them names for textual pipelines: orvane-early, orvane-widen (of functions), orvane-late (of
-// modules).
+// Puts the passes into the pipelines that the builder makes afterwards, at their start, in front of the vectorizers
+// and at their end; and gives them names for textual pipelines: orvane-early, orvane-widen (of functions),
+// orvane-late (of modules).
 void register_passes(llvm::PassBuilder&, const llvm_options& = {});
 // OrvaneOptimize.
 void optimize(llvm::Module&, llvm::TargetMachine*, const llvm_options& = {});

@@ -1,12 +1,12 @@
 #include <orvane/math.h>
 #include <stdio.h>
 
-__attribute__((noinline)) static void logs(float *restrict y, const float *restrict x, int n) {
+__attribute__((noinline)) static void logs(float* restrict y, const float* restrict x, int n) {
     for (int i = 0; i < n; i++)
         y[i] = lgammaf(x[i]) + expf(x[i]);
 }
 
-int main(int argc, char **argv) {
+int main(int argc, char** argv) {
     (void)argv;
     float x[16], y[16];
     for (int i = 0; i < 16; i++)

@@ -1,4 +1,5 @@
-// Tables of the sine and cosine: angles of one turn, and the bits of 4 / pi and 2 / pi for their slow and large paths.
+// Tables of the sine and cosine: angles of one turn, and the bits of 4 / pi and 2 / pi for their slow and large
+// paths.
 #include "table.h"
 
 #include <bit>
@@ -105,12 +106,9 @@ void two_over_pi_lo(writer& w) {
 
 std::vector<table> angle_tables() {
     return {
-        {"trig/tables/angle_f32.inc", angles_f32},
-        {"trig/tables/angle_f64.inc", angles_f64},
-        {"trig/tables/angle_scalar.inc", angles_scalar},
-        {"trig/tables/four_over_pi.inc", four_over_pi},
-        {"trig/tables/two_over_pi_hi.inc", two_over_pi_hi},
-        {"trig/tables/two_over_pi_lo.inc", two_over_pi_lo},
+        {"trig/tables/angle_f32.inc", angles_f32},          {"trig/tables/angle_f64.inc", angles_f64},
+        {"trig/tables/angle_scalar.inc", angles_scalar},    {"trig/tables/four_over_pi.inc", four_over_pi},
+        {"trig/tables/two_over_pi_hi.inc", two_over_pi_hi}, {"trig/tables/two_over_pi_lo.inc", two_over_pi_lo},
     };
 }
 
