@@ -62,9 +62,8 @@ using dhypot_native = dhypot_kernel<true>;
 // Largest known error of hypot: 1.215 ulp at 0x4066E89949DAAA48,0x4020899E372BD122, with one processor's estimates
 // Largest known error of hypot, slow path: 0.8533 ulp at 0x0B2413207DD204B4,0x8B14EF6616BC02E7
 ORVANE_EXPORT(hypot, , dhypot)
-// Largest known error of hypot_native: 4.329e-11 relative at 0x4088FACBE7C499A2,0x4048159F16D032FB, with one
-// processor's estimates Largest known error of hypot_native, slow path: 0.8534 ulp at
-// 0x7D84AFB2CD48D4B0,0xFD725F9AA909570D
+// Largest known error of hypot_native: 4.329e-11 relative at 0x4088FACBE7C499A2,0x4048159F16D032FB, with one processor's estimates
+// Largest known error of hypot_native, slow path: 0.8534 ulp at 0x7D84AFB2CD48D4B0,0xFD725F9AA909570D
 ORVANE_EXPORT(hypot, _native, dhypot_native)
 
 // A Newton step on g = sqrt(s) and k = 1 / (2 sqrt(s)) together, and one more on g by its residual.

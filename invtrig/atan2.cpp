@@ -175,9 +175,8 @@ using atan2pif_native = ORVANE_ATAN2(s, atan2pi, _native, float, newton, two_cha
 // Largest known error of atan2: 3.013 ulp at 0x3FF0056B0E84C078,0x3FF000973BB7EF31
 // Largest known error of atan2, slow path: 0.5099 ulp at 0xFF956A412DA9AC1B,0x7FC61CB7B557274E
 ORVANE_EXPORT(atan2, , atan2_default)
-// Largest known error of atan2_native: 2.427e-09 relative at 0x3FEFA35DAC1970EB,0x4019D2FFFFE78DE5, with one
-// processor's estimates Largest known error of atan2_native, slow path: 0.5092 ulp at
-// 0x000597A4B02301B8,0x002683957D9ECC38
+// Largest known error of atan2_native: 2.427e-09 relative at 0x3FEFA35DAC1970EB,0x4019D2FFFFE78DE5, with one processor's estimates
+// Largest known error of atan2_native, slow path: 0.5092 ulp at 0x000597A4B02301B8,0x002683957D9ECC38
 ORVANE_EXPORT(atan2, _native, atan2_native)
 // Largest known error of atan2f: 3.406 ulp at 0x3FC0FFF9,0x4036911B
 // Largest known error of atan2f, slow path: 0.5 ulp at 0x40A9837D,0x7D114C1C
@@ -188,9 +187,8 @@ ORVANE_EXPORT(atan2f, _native, atan2f_native)
 // Largest known error of atan2pi: 3.776 ulp at 0xBFEFC43DB9064DAD,0x3FEFFFFFFFE3C9AD, with one processor's estimates
 // Largest known error of atan2pi, slow path: 0.75 ulp at 0x400AD3062B88CA30,0x7FD1D9453A574B0D
 ORVANE_EXPORT(atan2pi, , atan2pi_default)
-// Largest known error of atan2pi_native: 2.427e-09 relative at 0x3FEFA3129C39107E,0x4019D2FFFFF83195, with one
-// processor's estimates Largest known error of atan2pi_native, slow path: 0.75 ulp at
-// 0x801D4353621FAF6D,0x3FE8328CE5BA67F1
+// Largest known error of atan2pi_native: 2.427e-09 relative at 0x3FEFA3129C39107E,0x4019D2FFFFF83195, with one processor's estimates
+// Largest known error of atan2pi_native, slow path: 0.75 ulp at 0x801D4353621FAF6D,0x3FE8328CE5BA67F1
 ORVANE_EXPORT(atan2pi, _native, atan2pi_native)
 // Largest known error of atan2pif: 2.832 ulp at 0x3F800012,0x3F809987
 // Largest known error of atan2pif, slow path: 0.5 ulp at 0x84B9AFB9,0x00A2DC1B

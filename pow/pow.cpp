@@ -10,8 +10,8 @@ using pow_reduced = pow_by_chords<__orvane_dpow_rm_data, __orvane_dpow_cout_rare
 // Largest known error of pow: 1.911 ulp at 0x3FEFF8AD10737480,0xC1282B2BFBD2D387, with one processor's estimates
 // Largest known error of pow, slow path: 0.7532 ulp at 0x4010CA074AC6718D,0xC07EDDCACBD98DC3
 ORVANE_EXPORT(pow, , pow_default)
-// Largest known error of pow_rm: 1.432e-08 relative at 0x4A5B23B92430CCFB,0xC002DA69305D63C5, with one processor's
-// estimates Largest known error of pow_rm, slow path: 0.7531 ulp at 0x7F4C903F0E48E1C9,0xBFF021B17997B5DF
+// Largest known error of pow_rm: 1.432e-08 relative at 0x4A5B23B92430CCFB,0xC002DA69305D63C5, with one processor's estimates
+// Largest known error of pow_rm, slow path: 0.7531 ulp at 0x7F4C903F0E48E1C9,0xBFF021B17997B5DF
 ORVANE_EXPORT(pow, _rm, pow_reduced)
 ORVANE_TWIN(pow, _native, pow, _rm)
 

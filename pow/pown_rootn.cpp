@@ -140,14 +140,14 @@ using rootn_native = pown_by_chords<integer_root, __orvane_drootn_cout_rare>;
 // Largest known error of pown: 1.467 ulp at 0x3FF001E733D625E5,0xFFEA8736
 // Largest known error of pown, slow path: 0.7522 ulp at 0x3F8865C853688698,0x000000A0
 ORVANE_EXPORT(pown, , pown_default)
-// Largest known error of pown_native: 2.421e-07 relative at 0xBFEFF6FFF0359898,0x0009D528, with one processor's
-// estimates Largest known error of pown_native, slow path: 0.7518 ulp at 0x4021B481ECD97981,0xFFFFFEBB
+// Largest known error of pown_native: 2.421e-07 relative at 0xBFEFF6FFF0359898,0x0009D528, with one processor's estimates
+// Largest known error of pown_native, slow path: 0.7518 ulp at 0x4021B481ECD97981,0xFFFFFEBB
 ORVANE_EXPORT(pown, _native, pown_native)
 // Largest known error of rootn: 0.5116 ulp at 0x84816CE75EF2CE6C,0x0003B2FB
 // Largest known error of rootn, slow path: 0.5066 ulp at 0x800E31217696B579,0x00003555
 ORVANE_EXPORT(rootn, , rootn_default)
-// Largest known error of rootn_native: 7.161e-09 relative at 0xBFEFFFFFC2AD777E,0x7FFFFC71, with one processor's
-// estimates Largest known error of rootn_native, slow path: 0.5076 ulp at 0x800E31216FDC70AD,0x00003555
+// Largest known error of rootn_native: 7.161e-09 relative at 0xBFEFFFFFC2AD777E,0x7FFFFC71, with one processor's estimates
+// Largest known error of rootn_native, slow path: 0.5076 ulp at 0x800E31216FDC70AD,0x00003555
 ORVANE_EXPORT(rootn, _native, rootn_native)
 
 } // namespace orvane
