@@ -207,7 +207,8 @@ std::string declaration(const call_plan& p) {
 std::string accuracy_line(const kernel_row& row, const std::vector<worst_case>& cases) {
     const known_error e = largest_known_error(row, cases);
     char error[48];
-    snprintf(error, sizeof error, e.error < 1000 ? "%.3g %s" : "%.0f %s", e.error, std::string(to_string(e.measure)).c_str());
+    snprintf(error, sizeof error, e.error < 1000 ? "%.3g %s" : "%.0f %s", e.error,
+             std::string(to_string(e.measure)).c_str());
     const auto limit = limit_of(row);
     return "/* " + std::string(row.name) + " " + std::string(row.tier) + ": " +
            (e.error ? "largest known error " + std::string(error) : "exact") +
