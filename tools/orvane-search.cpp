@@ -5,6 +5,7 @@
 //     orvane-search expf --every                   every float; --from and --to keep to magnitudes between them
 //     orvane-search pownf --seed 7 --append        puts what is larger than the file's row into data/worst_cases.txt
 //     orvane-search pownf --at 0x3F82A0F1,0xFFFFEF47   measures one argument, without a search
+//     orvane-search pow --near 0x3FEFF8AD00000000,0xC1282B2B00000000 --within 50   climbs around one argument
 //     orvane-search --lines                        puts the file's rows into the lines above the kernels' exports
 //
 // Arguments are drawn from all patterns, from the ordinary range of the list of exports and from where two arguments
@@ -42,6 +43,8 @@ struct options {
     double seconds = 60, from = 0, to = HUGE_VAL;
     uint64_t seed = 1;
     bool every = false;
+    std::array<uint64_t, 2> near{}; // where `within` is not 0, fresh arguments are drawn around these
+    int within = 0;                 // so many low bits of their patterns are drawn
 };
 
 double processor_seconds() {
@@ -140,7 +143,7 @@ private:
 // Draws arguments.
 class source {
 public:
-    source(const kernel_row& row, uint64_t seed) : row(row), r(seed) {
+    source(const kernel_row& row, const options& o) : row(row), o(o), r(o.seed) {
         const std::string base = row.base();
         by_angle = base == "sin" || base.starts_with("sincos") || base == "cos" || base == "tan";
     }
@@ -148,6 +151,7 @@ public:
     double uniform(double lo, double hi) { return lo + (hi - lo) * ((r() >> 11) * 0x1p-53); }
 
     subject::lane fresh() {
+        if (o.within) return around();
         subject::lane x{one(0), 0};
         if (row.arguments() < 2) return x;
         const double a = value_of(row.argument(0), x[0]);
@@ -180,6 +184,14 @@ public:
     }
 
 private:
+    subject::lane around() {
+        subject::lane x = o.near;
+        for (int j = 0; j < row.arguments(); j++) {
+            x[j] += (r() >> (64 - o.within)) - (uint64_t(1) << (o.within - 1));
+            if (size_of(row.argument(j)) == 4) x[j] &= 0xFFFFFFFF;
+        }
+        return x;
+    }
     uint64_t one(int j) {
         const lane_type t = row.argument(j);
         const int sign_bit = 8 * size_of(t) - 1;
@@ -198,6 +210,7 @@ private:
         }
     }
     const kernel_row& row;
+    const options o;
     std::mt19937_64 r;
     bool by_angle;
 };
@@ -227,23 +240,29 @@ void end_progress() {
     if (isatty(2)) fputs("\r\033[K", stderr);
 }
 
-// Given arguments, as in the data file: no search, MPFR alone.
+// Arguments as in the data file.
+subject::lane lane_of(const kernel_row& row, const std::string& text) {
+    subject::lane x{};
+    std::stringstream words(text);
+    int count = 0;
+    for (std::string word; std::getline(words, word, ','); count++) {
+        char* end;
+        const uint64_t w = strtoull(word.c_str(), &end, 16);
+        if (!word.starts_with("0x") || *end)
+            throw failure("'" + word + "' is no bit pattern; write 0x and hexadecimal digits");
+        if (count < 2) x[count] = w;
+    }
+    if (count != row.arguments())
+        throw failure("'" + text + "' has " + std::to_string(count) + " pattern(s); " + std::string(row.name) +
+                      " takes " + std::to_string(row.arguments()) + ", joined by a comma");
+    return x;
+}
+
+// Given arguments: no search, MPFR alone.
 findings measured(subject& s, const std::vector<std::string>& lanes) {
     findings found;
     for (const auto& text : lanes) {
-        subject::lane x{};
-        std::stringstream words(text);
-        int count = 0;
-        for (std::string word; std::getline(words, word, ','); count++) {
-            char* end;
-            const uint64_t w = strtoull(word.c_str(), &end, 16);
-            if (!word.starts_with("0x") || *end)
-                throw failure("'" + word + "' is no bit pattern; write 0x and hexadecimal digits");
-            if (count < 2) x[count] = w;
-        }
-        if (count != s.row.arguments())
-            throw failure("'" + text + "' has " + std::to_string(count) + " pattern(s); " + std::string(s.row.name) +
-                          " takes " + std::to_string(s.row.arguments()) + ", joined by a comma");
+        const subject::lane x = lane_of(s.row, text);
         const lane_path path = s.path_of(x);
         const double error = s.decided(x, measure_of(s.row, path));
         if (std::isfinite(error) && error > found[path].error) found[path] = {x, error};
@@ -252,7 +271,7 @@ findings measured(subject& s, const std::vector<std::string>& lanes) {
 }
 
 findings climbed(subject& s, const options& o) {
-    source draw(s.row, o.seed);
+    source draw(s.row, o);
     struct bins {
         std::unordered_map<uint64_t, candidate> of;
         std::vector<uint64_t> best; // those with the largest errors
@@ -262,7 +281,7 @@ findings climbed(subject& s, const options& o) {
         uint64_t b = 0;
         for (int j = 0; j < s.row.arguments(); j++) {
             const lane_type t = s.row.argument(j);
-            const int shift = t == lane_type::f64 ? 50 : t == lane_type::f32 ? 21 : 26;
+            const int shift = o.within ? std::max(o.within - 5, 0) : t == lane_type::f64 ? 50 : t == lane_type::f32 ? 21 : 26;
             b = b * 0x10001 + (x[j] >> (s.row.arguments() == 1 ? shift - 1 : shift + 1));
         }
         return b;
@@ -423,6 +442,7 @@ int run(int argc, char** argv) {
     options o;
     std::string file = ORVANE_SOURCES "/data/worst_cases.txt", lib = library_path();
     std::vector<std::string> at;
+    std::string near;
     bool append = false, lines = false;
     app.add_option("kernels", names,
                    "families with their tier, as exports are named without the width: exp, powf_native; "
@@ -431,6 +451,9 @@ int run(int argc, char** argv) {
     app.add_option("--seed", o.seed, "of the random arguments (1)");
     app.add_flag("--every", o.every, "every float instead, for float kernels of one argument: about two minutes");
     app.add_option("--at", at, "measure these arguments instead: bit patterns, two joined by a comma");
+    app.add_option("--near", near, "draw arguments around these alone: bit patterns, two joined by a comma");
+    app.add_option("--within", o.within, "of --near: low bits of the patterns that are drawn (44, for float 16)")
+        ->check(CLI::Range(1, 63));
     app.add_option("--from", o.from, "only arguments of this magnitude or larger")->check(CLI::NonNegativeNumber);
     app.add_option("--to", o.to, "only arguments of this magnitude or smaller")->check(CLI::NonNegativeNumber);
     app.add_flag("--append", append, "put what is larger than the data file's row into it");
@@ -453,6 +476,7 @@ int run(int argc, char** argv) {
         std::cout << placed << " lines\n";
         return 0;
     }
+    if (o.within && near.empty()) throw failure("--within tells how far from the arguments of --near; name them, too");
     if (o.from > o.to) throw failure("--from is larger than --to: no argument lies between them");
     const library opened(lib);
     if (!opened.handle()) throw failure("cannot open the library: " + opened.error());
@@ -468,7 +492,12 @@ int run(int argc, char** argv) {
     if (append) read_worst_cases(file);
     for (const kernel_row* row : rows) {
         subject s(*row, opened);
-        const findings found = !at.empty() ? measured(s, at) : o.every ? every_float(s, o) : climbed(s, o);
+        options here = o;
+        if (!near.empty()) {
+            here.near = lane_of(*row, near);
+            if (!here.within) here.within = row->in == lane_type::f64 ? 44 : 16;
+        }
+        const findings found = !at.empty() ? measured(s, at) : o.every ? every_float(s, o) : climbed(s, here);
         auto known = append ? read_worst_cases(file) : std::vector<worst_case>();
         for (const auto& [path, c] : found) {
             if (c.error <= 0) continue;
