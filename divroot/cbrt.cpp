@@ -277,7 +277,7 @@ template <int W> ORVANE_INLINE thirds<W> exponent_thirds(const auto& c, lanes<fl
     auto q = multiply_short(e, lanes<uint32_t, W>(c.third_mul_f)) >> 12;
     return {q, e - (q + q + q + c.one_i), top & c.sign_bit_f};
 }
-// The table's row and entry as a byte offset, four times i being given: 0 in special lanes, whose rem may be -1.
+// The byte offset of entry i in row rem of the table, from 4 i; 0 in special lanes, whose rem may be -1.
 template <int Entry, int W>
 ORVANE_INLINE auto root_offset(lanes<uint32_t, W> rem, lanes<uint32_t, W> i4, lanes<int32_t, W> special) {
     return andnot(as<uint32_t>(special), Entry == 8 ? (rem << 8) + (i4 + i4) : (rem << 7) + i4);

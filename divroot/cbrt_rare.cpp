@@ -21,8 +21,8 @@ ORVANE_SLOW_PATH(__orvane_dcbrt_cout_rare, const double* x, double* result) {
     const double e1 = 1.0 - a * r, eh = leading(e1, T.splitter);
     const double d = (e1 - eh) - r * b, ee = eh + d;
 
-    // v + vl = (1 - e)^(-2/3) - 1 over e, v split.
-    const double p = horner_up(T.k, ee) * ee;
+    // v + vl = ((1 - e)^(-2/3) - 1) / e, v split.
+    const double p = horner_up(ee, T.k) * ee;
     const auto [c0, c0_lo] = T.two_thirds;
     const double v = p + c0, vc = c0 - v, vh = leading(v, T.splitter);
     const double vl = (((p + vc) + (c0 - (v + vc))) + c0_lo) + (v - vh);
@@ -57,7 +57,7 @@ ORVANE_SLOW_PATH(__orvane_scbrt_cout_rare, const float* x, float* result) {
     const auto [hi, lo] = T.root_pairs_f.entry[32 * rem + i];
     const float HS = hi * scale, LS = lo * scale;
     constexpr float coefficients[] = {f32(0x3EAAAAAB), f32(0xBDE38E39), f32(0x3D7CD6EA), f32(0xBD288F47)};
-    const float P = horner_up(coefficients, u);
+    const float P = horner_up(u, coefficients);
     *result = ((LS + (u * HS) * P) + HS) * 0x1p-42f;
     return ordinary;
 }
@@ -75,11 +75,11 @@ double reciprocal_cube_root(double x) {
     const int i = bits(m + T.index_shifter) & 63; // m to a multiple of 1/32, in the last places
     const double r = T.rcbrt_seed[32 * rem + i], r3 = (r * r) * r;
 
-    // e1 = 1 - M r^3, and (1 - e)^(-1/3) in it.
+    // e1 = 1 - M r^3, and (1 - e1)^(-1/3) as a polynomial in e1.
     const double Mh = leading(M, T.splitter), Ml = M - Mh;
     const double a = r3 * Ml, e0 = 1.0 - Mh * r3, e1 = e0 - a, eh = leading(e0, T.splitter);
     const double c = T.third_hi, b = (eh * r) * c;
-    const double v = e1 * T.third_lo + horner_up(T.j, e1) * e1 * e1;
+    const double v = e1 * T.third_lo + horner_up(e1, T.j) * e1 * e1;
     const double s = r + b;
     const double y = (((e0 - eh) * c + (a * -c + v)) * r + ((r - s) + b)) + s;
     const double scale = power_of_two((subnormal ? 1053 : 1023) - third + (rem0 < 0));

@@ -59,7 +59,8 @@ struct sdiv : kernel<two_arguments<float>> {
 ORVANE_EXPORT_SETTLED(divf, , sdiv)
 ORVANE_TWIN_SETTLED(divf, _rm, divf, )
 
-// Zeros and subnormals (by the borrow), divisors whose reciprocal is not normal, infinities and NaN.
+// Whether y is zero or subnormal (the subtraction wraps these), infinite, a NaN, or too large for a normal
+// reciprocal.
 template <int W> ORVANE_INLINE auto beyond_estimate(const auto& c, lanes<float, W> y) {
     return ((signed_bits(y) - c.min_normal_bits) & c.abs_mask) > c.divisor_limit;
 }

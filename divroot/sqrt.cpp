@@ -81,13 +81,13 @@ ORVANE_TWIN_SETTLED(sqrt, _native, sqrt, )
 ORVANE_TWIN_SETTLED(sqrt, _half, sqrt, )
 ORVANE_EXPORT_SETTLED(sqrtf, , ssqrt)
 
-// x outside the positive normal numbers that the formula takes, up to the largest of them: by a shift of the range of
-// words, zeros, negatives, what is too small, infinities and NaN compare as greater.
+// Whether x lies outside the positive normal numbers that the formula takes. With the least of them subtracted, words
+// of zeros, negatives, smaller numbers, infinities and NaN all compare as greater than the limit.
 template <class T, int W> ORVANE_INLINE auto outside_range(const auto& c, lanes<T, W> x) {
     return marked<T, W>(words(x) - c.test_bias > c.test_limit);
 }
 
-// x e, of which 0 and +Inf make a NaN: 0 * Inf.
+// x e; for 0 and +Inf that is 0 * Inf, a NaN.
 struct ssqrt_native : kernel<one_argument<float>> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto&, lanes<float, W> x) {
         return x * rsqrt_estimate(x);

@@ -22,7 +22,7 @@ double reciprocal_root(double v, int field) {
     const double t2 = t * t, b = t2 * wl, a = 1.0 - wh * t2, ee = a - b;
     const double ah = leading(a, 0x1p27), al = a - ah;
     const double g1 = (0.5 * t) * ah;
-    const double p = horner_up(inverse_sqrt, ee);
+    const double p = horner_up(ee, inverse_sqrt);
     const double r1 = ((b - al) * -0.5 + (p * ee) * ee) * t;
     const double h1 = t + g1, c1 = (t - h1) + g1;
     return power_of_two(field - (e >> 1)) * ((r1 + c1) + h1);

@@ -17,7 +17,7 @@ ORVANE_INLINE A settle_exp_limits(const Block& c, lanes<T, W> x, A a) {
     return a;
 }
 
-// |x| above the ordinary limit, NaN and infinities: in one comparison of patterns, of double in their high words
+// Whether |x| is above the ordinary limit, infinite or a NaN: one comparison of patterns, in double of the high words
 // alone.
 template <class Block, int W> ORVANE_INLINE auto beyond_limit(const Block& c, lanes<double, W> x) {
     return high_word_exceeds(x, c.abs_high_mask, c.ordinary_high_limit);

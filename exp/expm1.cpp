@@ -143,7 +143,7 @@ template <class T, const auto& Block, auto& Rare> struct expm1_compensated : ker
     }
 };
 
-// The same with one value a table entry, one step of reduction and one fused operation at the end.
+// The same with one value per table entry, one step of reduction and one fused operation at the end.
 template <class T, const auto& Block, auto& Rare> struct expm1_plain : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         constexpr bool is_double = sizeof(T) == 8;

@@ -1,5 +1,5 @@
-// The slow paths of fmod, remainder and remquo: long division of the significands as integers, a quotient bit a step,
-// and what has no remainder. Every result is exact.
+// The slow paths of fmod, remainder and remquo: long division of the significands as integers, one quotient bit per
+// step, and what has no remainder. Every result is exact.
 #include "frame/rare.h"
 
 namespace orvane {

@@ -11,24 +11,24 @@
 // by its sign (by a lane of ones, say). The rest of an instance is here: spare lane, copy-up of low lanes, the
 // formula register by register, the one branch of the ordinary path, the callout, results in their places.
 //
-// A kernel may have more:
+// A kernel may have more members:
 //
-//     static constexpr double spare = 1;                              lane 3 of every input of a 3-wide vector, 0.75
-//                                                                      where none is named
-//     template <int W> static auto settle(block, x..., answer)        finishes special lanes with no slow path: gives
-//                                                                      the answer with those lanes out of `special`
-//     template <int W> static auto large_path(block, x..., answer)    an inline path for the lanes that the formula
-//                                                                      left as special; gives all results, and as
-//                                                                      special what needs the slow path
-//     template <int W> static auto beyond(block, x...)                beside large_path: where a vector has lanes
-//     that
-//                                                                      this marks, large_path(block, x...) takes the
-//                                                                      formula's place, which then sees none of them
-//     template <int W> static auto reduce(block, x...)                a step before the formula that gives what
-//     template <int W> static auto large_reduce(block, x..., reduced) vector_path(block, x..., reduced) takes; where
-//                                                                      reduced.special has lanes, large_reduce gives
-//                                                                      the reduced arguments anew
-//     static constexpr bool all_lanes = true;                          no formula: every lane is a slow-path lane
+//     static constexpr double spare = 1;
+//         the value of lane 3 of every input of a 3-wide vector; 0.75 where a kernel names none
+//     template <int W> static auto settle(block, x..., answer)
+//         finishes special lanes without a slow path: gives the answer with those lanes taken out of `special`
+//     template <int W> static auto large_path(block, x..., answer)
+//         an inline path for lanes that the formula left as special; gives the results of all lanes, and as special
+//         the lanes that need the slow path
+//     template <int W> static auto beyond(block, x...)
+//         beside large_path: marks lanes that the formula must not see. A vector with such lanes takes
+//         large_path(block, x...) in the formula's place
+//     template <int W> static auto reduce(block, x...)
+//     template <int W> static auto large_reduce(block, x..., reduced)
+//         a step before the formula, which is then vector_path(block, x..., reduced); where reduced.special has
+//         lanes, large_reduce gives the reduced arguments of all lanes anew
+//     static constexpr bool all_lanes = true;
+//         no formula: every lane is a slow-path lane
 //
 // large_path and large_reduce each stand behind a branch that ordinary vectors never take and run register by
 // register. A kernel that finishes every lane has no `special` in its answer and no slow path.
@@ -113,9 +113,9 @@ concept has_special = requires(A a) {
 // The bits of the lanes of a chunk that count.
 template <int C> inline constexpr unsigned live_lanes = C < 4 ? (1u << C) - 1 : ~0u;
 
-// The answers of N chunks of C lanes, one finished before the next begins. Special lanes are bits in an integer
-// register from then on, so that no vector register is kept for them; the ordinary path ORs these and never packs a
-// mask.
+// The answers of N chunks of C lanes, one finished before the next begins. From then on special lanes are bits in an
+// integer register, so that no vector register is kept for them. The ordinary path only ORs these bits; the mask of
+// the whole vector is put together behind the branch.
 template <class A, int C, size_t N> struct answers {
     A chunk[N];
     unsigned special[N];
@@ -144,8 +144,8 @@ template <class A, int C, size_t N> struct answers {
         return m;
     }
     static constexpr unsigned live = live_lanes<C>;
-    // A chunk's answer for the steps behind the branch, its special lanes made from their bits where these alone were
-    // kept.
+    // A chunk's answer for the steps behind the branch; its special lanes are made from their bits where only these
+    // were kept.
     ORVANE_INLINE A again(auto i) const {
         A a = chunk[i];
         if constexpr (N > 1) a.special = decltype(a.special)::of_bits(special[i]);
@@ -185,8 +185,8 @@ using enum moment;
 // First room: the lanes that came in, and the steps that run on them.
 //
 // Arguments in registers are admitted at once and stay there. Arguments on the stack are loaded where a chunk needs
-// them, and again behind a branch, instead of being kept in registers in between; the compiler may not see that these
-// loads are the same.
+// them, and loaded again behind a branch rather than kept in registers in between. The second load is hidden from the
+// compiler, which would make one of the two.
 template <class K, int W> struct admission {
     using S = typename K::signature;
     using L = layout<S, W>;
@@ -241,8 +241,8 @@ template <class K, int W> struct admission {
         return __builtin_expect((some & detail::live_lanes<C>) != 0, 0);
     }
 
-    // What lives on behind the branch gets new names: a large path needs all registers, and a value that it keeps in
-    // memory would be there on the ordinary path too.
+    // Values that live on behind the branch become new values there. A large path needs all registers and keeps some
+    // of them in memory; without this the compiler would put them there on the ordinary path, too.
     ORVANE_INLINE void rename() {
         if constexpr (!L::in_memory)
             each<N>([&](auto i) ORVANE_LAMBDA {
@@ -258,7 +258,7 @@ template <class K, int W> struct admission {
     }
 };
 
-// Last room of the ordinary path: results alone, to where the caller looks for them.
+// Last room of the ordinary path: the results, without the special lanes, go to where the caller looks for them.
 template <class K, int W, class Answers> ORVANE_INLINE auto leave(const admission<K, W>& in, const Answers& a) {
     decltype(detail::results_of(a.chunk[0])) r[in.N];
     each<in.N>([&](auto i) ORVANE_LAMBDA { r[i] = detail::results_of(a.chunk[i]); });

@@ -198,7 +198,7 @@ ORVANE_INLINE void clear_upper_state() {
     asm volatile("vzeroupper" : : : "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5", "xmm6", "xmm7", "memory");
 }
 
-// Hands results over. R is a tuple a chunk: the results, then the out-lanes where the signature has them.
+// Hands results over. R is one tuple per chunk: the results, then the out-lanes where the signature has them.
 template <class S, int W, class R, size_t N>
 ORVANE_INLINE entry_result<S, W> hand_over(const R (&r)[N], void* result_object, void* out) {
     using L = layout<S, W>;

@@ -57,8 +57,8 @@ struct preserved_registers {
     }
 };
 
-// The body of a wrapper: one call of the slow path for each marked lane, in ascending order, each pointer moved on by
-// the lane's number in elements of its own array.
+// The body of a wrapper: calls the slow path once for each marked lane, in ascending order, with pointers to that
+// lane in each of the arrays.
 template <class K, int W, class A, class B, class C, class D, class M>
 ORVANE_INLINE void walk_special_lanes(A a, B b, C c, D d, M mask) {
     constexpr bool in_memory = layout<typename K::signature, W>::in_memory;
@@ -90,7 +90,7 @@ struct argument_registers {
     }
 };
 
-// Where results go that do not travel in registers.
+// Where results go that do not travel in registers: the result object of the memory form, and the out-pointer.
 struct objects {
     void *result, *out;
 };
@@ -108,7 +108,7 @@ call_out(const Arguments& arguments_of, R (&r)[N], unsigned mask, Wrapper* wrapp
     constexpr int pointers = slow_path_of<K>::count;
     static_assert(pointers == arguments + results, "a slow path takes its arguments and its results by pointers");
     static_assert(!std::is_same_v<Wrapper, void()>, "a kernel with special lanes is exported by ORVANE_EXPORT");
-    // One array an argument and one a result, each on a boundary of 64 bytes. An int array has 4-byte lanes.
+    // One array per argument and one per result, each aligned to 64 bytes. An int array has 4-byte lanes.
     alignas(64) unsigned char array[pointers][(L::widest * stored(W) + 63) / 64 * 64];
 
     each<L::chunks>([&](auto i) ORVANE_LAMBDA {

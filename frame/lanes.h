@@ -140,7 +140,7 @@ template <class T, int W> struct lanes {
     }
     friend ORVANE_INLINE lanes operator~(lanes a) requires(!is_floating<T>) { return ~a.v; }
 
-    // Shifts: logical on unsigned lanes, arithmetic on signed ones; by one count or by a count a lane.
+    // Shifts: logical on unsigned lanes, arithmetic on signed ones; by one count for all lanes, or by one per lane.
     friend ORVANE_INLINE lanes operator<<(lanes a, int n) requires(!is_floating<T>) { return a.v << (T)n; }
     friend ORVANE_INLINE lanes operator>>(lanes a, int n) requires(!is_floating<T>) { return a.v >> (T)n; }
     // A count at or above the lane's width gives 0 (the processor's rule), where a built-in shift is undefined.
@@ -398,6 +398,11 @@ template <class U, class T, int W> ORVANE_INLINE lanes<U, W> convert(lanes<T, W>
 }
 template <class U, class T, int W> ORVANE_INLINE lanes<U, W> truncate(lanes<T, W> a) {
     return detail::convert<U, true>(a);
+}
+
+// The 12-bit estimate of 1 / a for double lanes, made in float: 0 or infinite beyond the range of that.
+template <int W> ORVANE_INLINE lanes<double, W> reciprocal_estimate(lanes<double, W> a) {
+    return convert<double>(reciprocal_estimate(convert<float>(a)));
 }
 
 // The 32-bit words of 64-bit lanes.

@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-// Table lookups from memory, a scalar load a live lane, assembled in a register; the index counts entries.
+// One entry per lane; the index counts entries.
 namespace detail {
 template <class T> ORVANE_INLINE T load(const void* at) {
     T x;
@@ -77,7 +77,7 @@ template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup(const T* tab
 template <class T, class I, int W> ORVANE_INLINE lanes<T, W> lookup_bytes(const void* base, lanes<I, W> offset) {
     return detail::assemble<T, W>(detail::addresses<1, I, W>(base, offset));
 }
-// Pairs (first, second) that stand side by side: one load of both a lane.
+// Pairs (first, second) that stand side by side: one load per lane gives both.
 template <class T, int W> struct lane_pair { lanes<T, W> first, second; };
 namespace detail {
 template <class T, int W, class At> ORVANE_INLINE lane_pair<T, W> assemble_pair(At at) {
@@ -128,7 +128,7 @@ template <class T, class I, int W> ORVANE_INLINE lane_pair<T, W> lookup_pair(con
     else return detail::assemble_pair<T, W>(detail::addresses<8, I, W>(base, index));
 }
 
-// Four floats that stand side by side: one load of all a lane, and a transposition.
+// Four floats that stand side by side: one load per lane gives all four; a transposition sorts them.
 template <int W> struct lane_four { lanes<float, W> first, second, third, fourth; };
 namespace detail {
 template <int W, class At> ORVANE_INLINE lane_four<W> assemble_four(At at) {

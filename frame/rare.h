@@ -1,4 +1,4 @@
-// What slow paths are written with: scalar code, one lane a call, in the baseline instruction set.
+// What slow paths are written with: scalar code, one lane per call, in the baseline instruction set.
 //
 // A slow path reads its lane through pointers, stores its result and returns a status code that only a debugger or a
 // test ever sees. There are no fused operations: every product and every sum rounds by itself, in the order written.
@@ -69,14 +69,14 @@ template <class T> T invalid_operation() {
     return zero / zero;
 }
 
-// Horner's scheme: from the first coefficient on, or with the coefficients in the order of their powers.
-template <class V, class C, int N> V horner(const C (&c)[N], V x) {
+// Horner's scheme at x: coefficients from the highest power down, or (horner_up) from the lowest up.
+template <class V, class C, int N> V horner(V x, const C (&c)[N]) {
     V r = c[0];
     for (int i = 1; i < N; i++)
         r = r * x + c[i];
     return r;
 }
-template <class V, class C, int N> V horner_up(const C (&c)[N], V x) {
+template <class V, class C, int N> V horner_up(V x, const C (&c)[N]) {
     V r = c[N - 1];
     for (int i = N - 2; i >= 0; i--)
         r = r * x + c[i];

@@ -97,7 +97,7 @@ template <class B> constexpr int reading_point() {
     ORVANE_PLACED(64 * (number), name)
 
 // A table in memory, from slot `number` on: a copy of a constexpr object, which may serve other blocks too. table_at
-// is declared to be asked for alone.
+// has no body: reading_point() asks whether a block declares it for offset 0.
 #define TABLE(number, name, ...)                                                                                     \
     alignas(::orvane::slot_bytes) std::remove_const_t<decltype(__VA_ARGS__)> name = __VA_ARGS__;                     \
     static void table_at(std::integral_constant<int, 64 * (number)>);                                                \

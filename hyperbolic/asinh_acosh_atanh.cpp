@@ -242,8 +242,7 @@ enum class tier { accurate, fast };
 
 // ---- The logarithm of Wh + Wl.
 
-// Where abs(x) >= 2^30, 1 + V is replaced by abs(x) 2^-30, and the exponent is 31 too small for the logarithm of
-// 2 abs(x).
+// Where abs(x) >= 2^30 the logarithm is that of 2 abs(x), taken of abs(x) 2^-30: big_k = 31 is added to the exponent.
 struct no_big_lanes {};
 template <class V> ORVANE_INLINE V with_big_k(const auto& c, V k, const auto& big) {
     if constexpr (std::is_same_v<decltype(big), const no_big_lanes&>) return k;
@@ -275,7 +274,7 @@ template <tier Tier, rest_of_r Rest, int W> ORVANE_INLINE lanes<double, W>
 log_stage_f64(const auto& c, lanes<double, W> Wh, lanes<double, W> Wl, const auto& big) {
     using V = lanes<double, W>;
     auto m = (Wh & c.mant_mask) | c.m_exp;
-    auto integer = round_to<to_nearest>(reciprocal(m)); // 512 to 1024
+    auto integer = round_to<to_nearest>(reciprocal_estimate(m)); // 512 to 1024
     auto sc = as<double>(c.sc_base - (bits(Wh) & c.exp_mask));
     auto cs = integer * sc;
     // 1023 above c_split, else 1022: the patterns differ in one bit.
@@ -293,7 +292,7 @@ log_stage_f64(const auto& c, lanes<double, W> Wh, lanes<double, W> Wl, const aut
     }
 }
 
-// The logarithm of 1 + V = Wh + Wl; where |x| >= 2^30, where 1 + V would be 2 |x|, that of x 2^-30 and 31 ln 2.
+// ln(1 + V) = ln(Wh + Wl). From |x| = 2^30 on 1 + V is 2 |x| to working precision: there it is ln(x 2^-30) + 31 ln 2.
 template <tier Tier, rest_of_r Rest = rest_of_r::dropped, class T, int W>
 ORVANE_INLINE lanes<T, W> log_or_large(const auto& c, lanes<T, W> x, lanes<T, W> Wh, lanes<T, W> Wl) {
     using V = lanes<T, W>;
@@ -304,8 +303,8 @@ ORVANE_INLINE lanes<T, W> log_or_large(const auto& c, lanes<T, W> x, lanes<T, W>
     else return log_stage_f64<Tier, Rest>(c, Wh, Wl, big);
 }
 
-// ---- 1 + V as head and tail: the operands by size, so that the error term is exact. A double head is cut to 42
-// bits, so that its product with cs is exact, but not where that would take V itself away.
+// ---- 1 + V as head and tail: the larger operand first, so that the tail is exact. In double the head is cut to 42
+// bits, so that its product with cs is exact, but not where V is so small that nothing of it would be left.
 
 template <class V> struct head_and_tail { V Wh, Wl; };
 
@@ -401,13 +400,13 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct atanh_kernel
         auto N = ax + ax;
         V y, v;
         if constexpr (sizeof(T) == 8) {
-            y = reciprocal(D) & c.y_mask;
+            y = reciprocal_estimate(D) & c.y_mask;
             auto [Qh, Ql, e] = quotient(c, y, D, Dl, N, N & c.n_mask);
             auto E = e * fma(fma(e, e, e), fma(e, e, V(c.one)), c.one); // of 1 / (1 - e) - 1, five terms
             auto [Wh, Wl] = one_and<Tier>(c, Qh + (E * Qh + fma(E, Ql, Ql)));
             v = log_stage_f64<Tier, rest_of_r::dropped>(c, Wh, Wl, no_big_lanes{});
         } else {
-            y = reciprocal(D) & c.rcp_mask;
+            y = reciprocal_estimate(D) & c.rcp_mask;
             auto [Qh, Ql, e] = quotient(c, y, D, Dl, N, N & c.rcp_mask);
             auto E = fma(e, e, e);
             auto cq = E * Qh + fma(E, Ql, Ql);

@@ -201,8 +201,8 @@ template <class V> ORVANE_INLINE V combined(const auto& c, const leading<V>& f, 
     }
 }
 
-// Special are lanes near the ends of the range and beyond, and NaN: in one comparison of patterns, of double in their
-// high words alone.
+// Lanes near the ends of the range and beyond, and NaN: one comparison of patterns, in double of the high words
+// alone.
 template <class T, const auto& Block, auto& Rare> struct sinh_kernel : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;

@@ -82,7 +82,7 @@ template <class V> ORVANE_INLINE V saturated(const auto& c, V x, V ax, V v) {
     return select(V(c.sat_limit) <= ax, V(c.one), v) ^ (x ^ ax);
 }
 
-// x P(x^2) / Q(x^2), the steps that weigh most in double.
+// x P(x^2) / Q(x^2); the last steps, whose errors count most, run in double.
 struct tanhf_mixed : kernel<one_argument<float>, __orvane_stanh_data_avx2> {
     template <int W> static ORVANE_INLINE auto vector_path(const stanh_block& c, lanes<float, W> x) {
         auto ax = x & c.abs_mask;

@@ -18,9 +18,9 @@ struct intdiv_pool {
 ORVANE_BLOCK(intdiv_pool, __orvane_intdiv_pool)
 
 // 1 / b from its estimate r0 as two factors, whose product has the bias: (a r1) e lies just above a / b.
-template <int W> struct reciprocal { lanes<double, W> r1, e; };
+template <int W> struct refined_reciprocal { lanes<double, W> r1, e; };
 template <int W>
-ORVANE_INLINE reciprocal<W> refined(const intdiv_pool& c, lanes<double, W> bd, lanes<float, W> estimate) {
+ORVANE_INLINE refined_reciprocal<W> refined(const intdiv_pool& c, lanes<double, W> bd, lanes<float, W> estimate) {
     auto r0 = convert<double>(estimate);
     auto r1 = fma(-r0, bd, c.two) * r0;
     auto e = fma(-r1, bd, c.two_biased);

@@ -239,13 +239,14 @@ template <class V> ORVANE_INLINE V polynomial(const coefficients<float, 5>& c, V
     V A = fma(V(c[0]), t, c[1]), B = fma(V(c[2]), t, c[3]);
     return fma(fma(A, t * t, B), t, c[4]);
 }
-template <class V> ORVANE_INLINE V polynomial(const coefficients<float, 3>& c, V t) { return horner(c, t); }
+template <class V> ORVANE_INLINE V polynomial(const coefficients<float, 3>& c, V t) { return horner(t, c); }
 
 template <bool Native> ORVANE_INLINE const auto& polynomial_of(const auto& c) {
     if constexpr (Native) return c.poly_short;
     else return c.poly_long;
 }
-// Q, where the leading 1 stays outside, and J with it inside; the short float polynomials have that in them.
+// Q(t), which leaves the leading 1 out, and J(t), which has 1 / pi in it. The short float polynomials are Q and J
+// whole.
 template <bool Native, class V> ORVANE_INLINE V Q_of(const auto& c, V t) {
     V I = polynomial(polynomial_of<Native>(c), t);
     if constexpr (Native && sizeof(typename V::element) == 4) return I;

@@ -143,7 +143,7 @@ template <int W> ORVANE_INLINE auto reciprocal(const satan_native_block& c, lane
 }
 template <int W> ORVANE_INLINE auto reciprocal(const datan_native_block& c, lanes<double, W> x) {
     using V = lanes<double, W>;
-    V r = convert<double>(reciprocal_estimate(convert<float>(x))); // a NaN comes from x, with all its bits
+    V r = reciprocal_estimate(x); // a NaN comes from x, with all its bits
     V e = fma_in_order(x ^ c.sign_mask, r, V(c.one));
     e = fma(e, e, e);
     return fma_in_order(e, r, r);
@@ -157,8 +157,8 @@ template <class T, const auto& Block> struct atan_settled : kernel<one_argument<
         V offset = andnot(V(as<T>(inside)), V(c.pi_half)) ^ sgn;
         V z = select(inside, x, reciprocal(c, x) ^ c.sign_mask);
         V y = z * z, P;
-        if constexpr (decltype(c.poly)::count == 9) P = fma(two_chains<8>(c.poly, y), y, V(c.poly[8]));
-        else P = two_chains<decltype(c.poly)::count>(c.poly, y);
+        if constexpr (decltype(c.poly)::count == 9) P = fma(two_chains<8>(y, c.poly), y, V(c.poly[8]));
+        else P = two_chains<decltype(c.poly)::count>(y, c.poly);
         return fma(P, z, offset);
     }
 };
@@ -191,8 +191,8 @@ template <class T, const auto& Block, auto& Rare, class Quotient, bool Native> s
         auto outside = V(c.one) < ax;
         V z = Quotient::of(c, select(outside, V(c.neg_one), ax), max(ax, V(c.one)));
         V y = z * z, P;
-        if constexpr (Native) P = two_chains<decltype(c.poly)::count>(c.poly, y);
-        else P = horner(c.poly, y);
+        if constexpr (Native) P = two_chains<decltype(c.poly)::count>(y, c.poly);
+        else P = horner(y, c.poly);
         return answer{(keep(outside, V(c.half)) + z * P) | sx, special};
     }
 };

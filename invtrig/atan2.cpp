@@ -108,24 +108,24 @@ ORVANE_BLOCK(satan2pi_native_block, __orvane_satan2pi_native_data)
 // How a kernel puts the octant together: the value of atan on q, and `add`, a quarter of a turn or 0, beside it.
 struct two_chains_fused {
     template <class V> static ORVANE_INLINE V octant(const auto& p, V q, V add) {
-        return fma(two_chains<std::remove_cvref_t<decltype(p)>::count>(p, q * q), q, add);
+        return fma(two_chains<std::remove_cvref_t<decltype(p)>::count>(q * q, p), q, add);
     }
 };
 struct two_chains_summed {
     template <class V> static ORVANE_INLINE V octant(const auto& p, V q, V add) {
-        return add + q * two_chains<std::remove_cvref_t<decltype(p)>::count>(p, q * q);
+        return add + q * two_chains<std::remove_cvref_t<decltype(p)>::count>(q * q, p);
     }
 };
 struct horner_summed {
-    template <class V> static ORVANE_INLINE V octant(const auto& p, V q, V add) { return add + q * horner(p, q * q); }
+    template <class V> static ORVANE_INLINE V octant(const auto& p, V q, V add) { return add + q * horner(q * q, p); }
 };
 // Four chains in s^4: atan q = q + q U, U a multiple of s = q^2.
 struct four_chains {
     template <class V> static ORVANE_INLINE V octant(const auto& p, V q, V add) {
         V s = q * q, s2 = s * s, s4 = s2 * s2;
-        V U = s4 * chain<3, 4, 19>(p, s4);
-        U = fma(s, chain<2, 4, 19>(p, s4), U);
-        V A = fma(s, chain<0, 4, 19>(p, s4), chain<1, 4, 19>(p, s4));
+        V U = s4 * chain<3, 4, 19>(s4, p);
+        U = fma(s, chain<2, 4, 19>(s4, p), U);
+        V A = fma(s, chain<0, 4, 19>(s4, p), chain<1, 4, 19>(s4, p));
         U = fma(s2, A, U);
         return fma(U, q, q) + add;
     }
@@ -163,14 +163,14 @@ template <class InRange> struct atan2_with_zeros : InRange {
 #define ORVANE_ATAN2(d, family, tier, element, Quotient, Polynomial, ties)                                           \
     atan2_in_range<element, __orvane_##d##family##tier##_data, __orvane_##d##family##_cout_rare, Quotient,           \
                    Polynomial, ties>
-using atan2_default = atan2_with_zeros<ORVANE_ATAN2(d, atan2, , double, division, four_chains, true)>;
+using atan2_default = atan2_with_zeros<ORVANE_ATAN2(d, atan2, , double, by_division, four_chains, true)>;
 using atan2_native =
     atan2_with_zeros<ORVANE_ATAN2(d, atan2, _native, double, word_estimate_fused, two_chains_fused, true)>;
-using atan2f_default = atan2_with_zeros<ORVANE_ATAN2(s, atan2, , float, division, two_chains_fused, true)>;
+using atan2f_default = atan2_with_zeros<ORVANE_ATAN2(s, atan2, , float, by_division, two_chains_fused, true)>;
 using atan2f_native = atan2_with_zeros<ORVANE_ATAN2(s, atan2, _native, float, newton_fused, two_chains_fused, true)>;
 using atan2pi_default = ORVANE_ATAN2(d, atan2pi, , double, word_estimate_long, horner_summed, false);
 using atan2pi_native = ORVANE_ATAN2(d, atan2pi, _native, double, word_estimate_short, two_chains_summed, false);
-using atan2pif_default = ORVANE_ATAN2(s, atan2pi, , float, division, horner_summed, false);
+using atan2pif_default = ORVANE_ATAN2(s, atan2pi, , float, by_division, horner_summed, false);
 using atan2pif_native = ORVANE_ATAN2(s, atan2pi, _native, float, newton, two_chains_summed, false);
 // Largest known error of atan2: 3.013 ulp at 0x3FF0056B0E84C078,0x3FF000973BB7EF31
 // Largest known error of atan2, slow path: 0.5099 ulp at 0xFF956A412DA9AC1B,0x7FC61CB7B557274E

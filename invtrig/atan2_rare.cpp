@@ -9,7 +9,7 @@ namespace {
 
 double high_part(double v) { return split(v).hi; }
 
-// base + factor * (hi + lo) of B, its high part short.
+// base + factor * B as hi + lo, the high part short.
 hi_lo<double> add_multiple(double base, double factor, hi_lo<double> B) {
     const double m = B.hi * factor, n = factor * B.lo;
     const double sum = m + n;
@@ -37,7 +37,7 @@ quotient product(hi_lo<double> N, hi_lo<double> R) {
 // atan z for small z = N / D, w = z^2: z + z Q(w) in two parts.
 hi_lo<double> atan_polynomial(hi_lo<double> z, double w) {
     const auto& p = __datan2_g_CoutTab->at_p;
-    const auto [Qh, Ql] = split(horner_up(p, w) * w);
+    const auto [Qh, Ql] = split(horner_up(w, p) * w);
     const auto [G, error] = add(z.hi * Qh, z.hi);
     return {G, (z.lo + error) + (Ql * z.hi + (Qh * z.lo + z.lo * Ql))};
 }
@@ -74,15 +74,15 @@ hi_lo<double> angle(double y, double x) {
     return {S, table.pi.lo + (-L + error)};
 }
 
-// The quotient where atan q = q (1 - ...) rounds as q: a step of q^2 shows that it is not exact. Whether it is
-// subnormal counts in the type T of the result.
+// atan q for a q so small that it rounds as q itself: a term in q^2 is added, so that the result is inexact as it
+// should be. T is the type of the result, in which q may be subnormal.
 template <class T> double barely(double q) {
     const T r = (T)q;
     const T least = sizeof(T) == 8 ? T(0x1p-1022) : T(0x1p-126);
     return r < least ? q + double(r * r) : q * (1.0 + q);
 }
 
-// By classes: exponents that far apart, zeros, infinities. Gives the magnitude; the result has the sign of y.
+// The magnitude of the result, which has the sign of y. First infinities, zeros and exponents far apart.
 template <class T> double atan2_magnitude(double y, double x) {
     const auto& table = *__datan2_g_CoutTab;
     const bool y_infinite = __builtin_isinf(y), x_infinite = __builtin_isinf(x);
@@ -98,7 +98,7 @@ template <class T> double atan2_magnitude(double y, double x) {
     return magnitude(lo + S);
 }
 
-// y / (pi x) for a quotient below 2^-53: y, and the quotient once more, are carried up by 2^82 where low parts would
+// y / (pi x) for a quotient below 2^-53: y, and later the quotient, are scaled by 2^82 where low parts would
 // underflow.
 double small_quotient_over_pi(double y, double x) {
     const auto& table = *__datan2pi_g_CoutTab;

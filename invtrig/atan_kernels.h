@@ -64,8 +64,8 @@ template <class T, int W, class M> ORVANE_INLINE lanes<int_of<T>, W> out_of_rang
     return (typename lanes<int_of<T>, W>::raw)(limit <= words).v;
 }
 
-// num / den.
-struct division {
+// num / den, in several ways: by the division instruction,
+struct by_division {
     template <class V> static ORVANE_INLINE V of(const auto&, V num, V den) { return num / den; }
 };
 

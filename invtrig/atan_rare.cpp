@@ -6,7 +6,7 @@ namespace orvane {
 
 namespace {
 
-// x / pi for |x| < 2^-53: carried up by 2^82, so that the low parts of the product do not underflow. A subnormal
+// x / pi for |x| < 2^-53: scaled by 2^82, so that the low parts of the product do not underflow. A subnormal
 // result is rounded there a second time.
 double atanpi_small(double ax) {
     const auto [h, l] = multiply(split((ax * (1.0 + ax)) * 0x1p82), inv_pi_parts);

@@ -91,7 +91,7 @@ ORVANE_BLOCK(sln_half_block, __orvane_sln_half_data)
 struct log_compensated : kernel<one_argument<double>, __orvane_dln_data, __orvane_dln_cout_rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const dln_block& c, lanes<double, W> x) {
         auto m = significand(c, x, c.m_exponent);
-        auto integer = round_to<to_nearest>(reciprocal(m)); // 512 to 1024
+        auto integer = round_to<to_nearest>(reciprocal_estimate(m)); // 512 to 1024
         auto E = biased_exponent(x);
         auto r = fma(integer, m, -lanes<double, W>(c.one));
 
@@ -141,7 +141,7 @@ template <const auto& Block> struct logf_polynomial : kernel<one_argument<float>
         auto y = fma(r, q, r);
         if constexpr (requires { c.ln2_lo; }) y = fma(K, c.ln2_hi, fma(K, c.ln2_lo, y));
         else y = fma(K, c.ln2, y);
-        // Below the smallest normal, zeros and negatives, and by overflow of the sum +Inf and NaN.
+        // Special: what is below the smallest normal, with zeros and negatives, and +Inf and NaN, whose sum wraps.
         return answer{y, signed_bits(x) + c.min_normal_bits < c.test_limit};
     }
 };

@@ -96,7 +96,7 @@ template <class T, const auto& Block, auto& Rare> struct log1p_compensated : ker
         auto err = finished((big - zz) + small); // 1 + x = zz + err exactly
 
         auto m = significand(c, zz, c.m_exponent);
-        auto integer = round_to<to_nearest>(reciprocal(m));
+        auto integer = round_to<to_nearest>(reciprocal_estimate(m));
         auto E = biased_exponent(zz);
         auto s = scale_to_significand(c, zz);
         auto v = integer * s;

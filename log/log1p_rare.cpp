@@ -1,4 +1,4 @@
-// The slow paths of log1p and log1pf: the logarithm of 1 + x, which is large or no number to take one of.
+// The slow paths of log1p and log1pf: the logarithm of 1 + x where that is large, not positive, or a NaN.
 #include "log/log_rare.h"
 
 namespace orvane {
@@ -24,7 +24,7 @@ ORVANE_SLOW_PATH(__orvane_slog1p_cout_rare, const float* x, float* result) {
     const float Mh = (M + c::cut) - c::cut;
     const float u = (M - Mh) * R, t = Mh * R + -1.0f;
     const float A = t + b, v = t + u, G = g + u, S = A + G;
-    const float P = horner(c::p, v);
+    const float P = horner(v, c::p);
     *result = S + (((P * v) * v + (u - (G - g))) + (G - (S - A)));
     return ordinary;
 }

@@ -176,7 +176,7 @@ template <class T, class Base, const auto& Block, auto& Rare> struct log_scaled
     : kernel<one_argument<T>, Block, Rare> {
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
         auto m = Base::significand_of(c, x);
-        auto integer = round_to<to_nearest>(reciprocal(m) * c.k_scale);
+        auto integer = round_to<to_nearest>(reciprocal_estimate(m) * c.k_scale);
         auto E = biased_exponent(x);
         auto r = fma(integer, m, -lanes<T, W>(c.k_scale));
         auto [h, l] = Base::with_exponent(c, Base::pair(c, integer), E);

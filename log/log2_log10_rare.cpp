@@ -16,7 +16,7 @@ ORVANE_SLOW_PATH(__orvane_dlog10_cout_rare, const double* x, double* result) {
     static constexpr double p[] = {-43.39945393331915,  21.537397485614264,   -10.89268808217976,
                                    5.667600559012126,   -3.0717952611199135,  1.7758816353485936,
                                    -1.1550167667401798, 0.0016161024074997103};
-    const double P = horner(p, v);
+    const double P = horner(v, p);
     *result = P * t + ((P * u + Bl) + u) + (A + t);
     return ordinary;
 }
@@ -36,7 +36,7 @@ template <int Scaling, class Part> float scaled_log(float x, const rare_log_entr
     const float v = A0 + B0;
     const auto [high, low] = exponent_part(K, hi, lo);
     const float A = high + A0;
-    const float P = horner(p, v);
+    const float P = horner(v, p);
     return (P * A0 + ((P * B0 + low) + B0)) + A;
 }
 

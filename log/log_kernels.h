@@ -11,7 +11,7 @@
 
 namespace orvane {
 
-// x is no positive, normal, finite number.
+// Whether x is anything but a positive, normal, finite number.
 template <class V> ORVANE_INLINE auto not_positive_normal(const auto& c, V x) {
     return not_less_equal(x, V(c.max_finite)) | (x < V(c.min_normal));
 }
@@ -26,12 +26,6 @@ template <int W> ORVANE_INLINE lanes<double, W> biased_exponent(lanes<double, W>
 template <int W> ORVANE_INLINE lanes<float, W> biased_exponent(lanes<float, W> x) {
     return convert<float>(as<int32_t>(bits(x) >> 23));
 }
-
-// About 1 / m, to 12 bits; of double in single precision.
-template <int W> ORVANE_INLINE lanes<double, W> reciprocal(lanes<double, W> m) {
-    return convert<double>(reciprocal_estimate(convert<float>(m)));
-}
-template <int W> ORVANE_INLINE lanes<float, W> reciprocal(lanes<float, W> m) { return reciprocal_estimate(m); }
 
 // The table entry that stands `bias` bytes below where the shifted bits of c point; the block begins with its table
 // of pairs, so that one base serves.
@@ -65,7 +59,7 @@ ORVANE_INLINE lanes<double, W> unbiased(const auto& c, lanes<double, W> integer,
 }
 template <int W> ORVANE_INLINE fast_log_parts<W> fast_log(const auto& c, lanes<double, W> x) {
     auto m = significand(c, x, c.m_exponent);
-    auto integer = round_to<to_nearest>(reciprocal(m));
+    auto integer = round_to<to_nearest>(reciprocal_estimate(m));
     auto r = fma(integer, m, -lanes<double, W>(c.one));
     return {r, unbiased(c, integer, biased_exponent(x)), integer};
 }

@@ -5,7 +5,7 @@
 
 namespace orvane {
 
-// What is no number to take a logarithm of: true, with result and status, for NaN, infinities, zeros and negatives.
+// Arguments without a finite logarithm: true, with result and status, for NaN, infinities, zeros and negatives.
 template <class T> bool no_logarithm(T x, T* result, int* status) {
     if (biased_exponent(x) == top_exponent<T>) {
         const bool negative = x == -T(__builtin_inf());
@@ -52,7 +52,7 @@ template <class T> T ln_rare(T M, T K) {
     const T t = Mh * R + T(-1), u = Ml * R;
     const T A = K * c::ln2_hi + hi, Bl = K * c::ln2_lo + lo;
     const T v = t + u;
-    const T P = (horner(c::p, v) * v) * v;
+    const T P = (horner(v, c::p) * v) * v;
     return ((u + Bl) + P) + (t + A);
 }
 

@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-// 32-bit words in place seen as the 64-bit lanes they are of.
+// 32-bit words in place, seen as 64-bit lanes again.
 template <class T, int W, int N> ORVANE_INLINE lanes<T, W> in_lanes(lanes<int32_t, N> words) {
     return (typename lanes<T, W>::raw)words.v;
 }
@@ -20,7 +20,7 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
     static ORVANE_INLINE auto vector_path(const dpow_block& c, lanes<double, W> x, lanes<double, W> y) {
         auto z = (x & c.mant_mask) | c.one;
         auto e = as<double>((bits(x) >> 52) | c.exp_shifter) - c.exp_shifter; // biased: the table has the bias
-        auto r = as<double>((bits(reciprocal(z)) + c.rcp_round) & c.rcp_mask);
+        auto r = as<double>((bits(reciprocal_estimate(z)) + c.rcp_round) & c.rcp_mask);
         auto [Th, Tl] = pair_of_bits<39, 0x7FC000>(c.log2_tab, r);
 
         auto A = Th + e;
@@ -36,8 +36,8 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         auto herr = fma(u, c.log2e_hi, -from_A) - (H - (from_A + A));
         auto L = fma(q, u2, tl + herr);
 
-        // Near overflow and underflow a lane is special: by y H, and below by s too, since in H half a part in a
-        // thousand of the logarithm may be missing (x from 0.9990 to 0.9992), and below -1022 there is no scale.
+        // Lanes near overflow and underflow are special. y H tells them; at the lower end s has to tell, too: H may
+        // lack half a thousandth of the logarithm (x from 0.9990 to 0.9992), and below -1022 there is no scale.
         auto P = y * H;
         auto perr = fma(y, H, -P);
         lane_bits<W> special = not_less_equal(x, lanes<double, W>(c.max_normal)) | (x < c.min_normal) |
@@ -64,7 +64,7 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
 // entry of r, 0 at both ends so that little is lost around 1.
 template <int Degree, int W> ORVANE_INLINE lanes<double, W> reduced_ln(const auto& c, lanes<double, W> x) {
     auto z = (x & c.mant_mask) | c.z_exponent;
-    auto r = round_to<to_nearest>(reciprocal(z)); // 512 to 1024
+    auto r = round_to<to_nearest>(reciprocal_estimate(z)); // 512 to 1024
     auto u = fma(r, z, -lanes<double, W>(c.one));
     auto T = single_of_bits<40, 0x408000>(c.ln_tab, r);
     auto bias = keep(r > c.r_split, lanes<double, W>(c.bias_hi)) | c.bias_lo; // the patterns differ in one bit
@@ -86,12 +86,12 @@ template <int W> ORVANE_INLINE lanes<double, W> chord_exp(const auto& c, lanes<d
     return as<double>(bits(w) + ((bits(a) >> 11) << 52));
 }
 
-// The high word of x under `c.word_abs` is below the limit (by the sign of each lane).
+// Whether the high word of x, masked by `c.word_abs`, is below the limit; the sign of a lane tells.
 template <int W>
 ORVANE_INLINE lanes<int64_t, W> high_word_below(const auto& c, lanes<double, W> x, const auto& limit) {
     return in_lanes<int64_t, W>((words_in_place<int32_t>(x) & c.word_abs) < limit);
 }
-// x is no positive normal number: in one addition, which takes infinities and NaN to the negative ones.
+// Whether x is anything but a positive normal number, by one addition, which makes infinities and NaN negative, too.
 template <int W> ORVANE_INLINE lanes<int64_t, W> no_positive_normal(const auto& c, lanes<double, W> x) {
     return in_lanes<int64_t, W>((words_in_place<int32_t>(x) + c.x_bias) < c.x_limit);
 }

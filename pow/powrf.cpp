@@ -47,7 +47,7 @@ struct powrf_in_pairs : kernel<two_arguments<float>, __orvane_spowr_data_avx2, _
     template <int W>
     static ORVANE_INLINE auto vector_path(const spowr_block& c, lanes<float, W> x, lanes<float, W> y) {
         auto low = x < c.min_normal;
-        auto rb = andnot(as<uint32_t>(low), (bits(reciprocal(x)) + c.rcp_round) & c.rcp_mask);
+        auto rb = andnot(as<uint32_t>(low), (bits(reciprocal_estimate(x)) + c.rcp_round) & c.rcp_mask);
         auto u = fma(as<float>(rb), x, -lanes<float, W>(c.one));
         auto E = convert<float>(as<int32_t>(rb >> 23));
         auto k = rb >> 20;

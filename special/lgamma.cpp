@@ -1,6 +1,6 @@
 // lgamma and lgammar, log|gamma(x)|, the second with the sign of gamma(x) as out-lane, in pairs of doubles.
 //
-// From 1/8 to 512 a row around the nearest of 16 grid points a binade gives log gamma with its margin. Behind a
+// From 1/8 to 512 a row around the nearest of 16 grid points per binade gives log gamma with its margin. Behind a
 // branch: below 1/8 log gamma(1 + x) - ln x; from 512 on Stirling's series; from -512 to 0 reflection, -log gamma(A)
 // - ln(A sin(pi r) / pi), A = -x and r its distance to the nearest integer (without A, and with log gamma(1 + A),
 // where A is below 1/8). Rows hold the slow path's polynomials.

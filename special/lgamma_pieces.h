@@ -53,8 +53,8 @@ struct series {
     extended pe[3];
     double q[6];
     extended qe[2];
-    template <class V> V odd(V u, V v) const { return u * horner_from(horner(p, v), pe, v); }
-    template <class V> V even(V v) const { return v * horner_from(horner(q, v), qe, v); }
+    template <class V> V odd(V u, V v) const { return u * horner_from(v, horner(v, p), pe); }
+    template <class V> V even(V v) const { return v * horner_from(v, horner(v, q), qe); }
 };
 constexpr extended ld_c146 = -0xF8CDCDE61C520E0Fp-67L;
 constexpr series ld_s200 = {-2,

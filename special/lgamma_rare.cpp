@@ -1,7 +1,7 @@
 // The slow paths of lgamma and lgammar, in extended precision.
 #include "special/lgamma_rare.h"
-#include "log/log_tables.h"
 #include "special/lgamma_pieces.h"
+#include "special/logl_rare.h"
 
 #include <initializer_list>
 
@@ -10,94 +10,6 @@ namespace orvane {
 using namespace lgamma_pieces;
 
 namespace {
-
-// (hi, lo): -ln of the reciprocals 1 / (1 + (i + 1/2) / 256), hi with at most 40 significant bits.
-constexpr hi_lo<double> __libm_logl_table_256[256] = {
-#include "special/tables/logl_256.inc"
-};
-
-// An extended value by its fields.
-struct extended_fields {
-    uint64_t significand; // with its leading one
-    uint16_t exponent;
-};
-extended_fields fields(extended y) {
-    extended_fields f;
-    __builtin_memcpy(&f, &y, 10);
-    return f;
-}
-extended with_exponent_0(extended_fields f) {
-    extended y = 0;
-    f.exponent = 16383;
-    __builtin_memcpy(&y, &f, 10);
-    return y;
-}
-
-// ln y for a positive y.
-[[gnu::noinline]] extended own_logl(extended y) {
-    const extended_fields f = fields(y);
-    const uint32_t w = uint32_t(f.exponent) << 16 | uint32_t(f.significand >> 48);
-    if (w >= 0x3FFEFFFF && w <= 0x3FFF8000) { // 1 and what is within 2^-15 of it
-        constexpr extended ll_n0 = 0xCCCACCD25F7EF9AAp-66L, ll_n1 = 0xAAAAAAAAAAAC1552p-65L,
-                           ll_n2 = -0xFFFFFFFFC004AE8Ap-66L;
-        if (y == 1) return 0;
-        const extended d = y + -1;
-        const extended z = d * d;
-        const extended s = ((ll_n0 * z + ll_n1) * z) * d;
-        const extended t = (ll_n2 * z + -0.5L) * z;
-        return (s + t) + d;
-    }
-    if (w >= 0x3FFEF800 && w <= 0x3FFF8800) {
-        // d - d^2 / 2 + d^3 / 3 with d = a + b, a short enough for an exact square, the head of 1/3 short too
-        constexpr float ll_split = 0x1.8p52f, ll_third = 0x1.554p-2f;
-        constexpr extended ll_p[] = {0xDA3EB73F2509BDB7p-68L, 0x9D86222D7A648AC4p-67L, 0xBA2E9A1CE811D305p-67L,
-                                     0xE38E38DDBC1754F0p-67L, 0x9249249249A4A0C4p-66L, 0xCCCCCCCCCCCCC236p-66L,
-                                     0xAAAAAAAAAAAAADC6p-77L};
-        constexpr extended ll_q[] = {-0x9033450A5189D630p-67L, -0xAAAC2BCE12338B18p-67L, -0xCCCCCC8103D7E06Ep-67L,
-                                     -0xFFFFFFFFFF0A3715p-67L, -0xAAAAAAAAAAAB8F55p-66L, -0xFFFFFFFFFFFFFFEAp-66L,
-                                     -0x9F28EA2D2DF7E646p-138L};
-        const extended d = y + -1;
-        const extended a = (d + d * ll_split) - d * ll_split;
-        const extended b = d - a;
-        const extended mm = d * b + a * b;
-        const extended aa = a * a;
-        const extended z = aa + mm;
-        const extended P = horner(ll_p, z);
-        const extended Q = horner(ll_q, z);
-        const extended R0 = d * Q + z * P;
-        const extended va = aa * ll_third + a * -0.5L;
-        const extended R1 = (R0 + mm * ll_third) + b * -0.5L;
-        extended W = (va + R1) * b + R1 * a;
-        W = W + b;
-        const extended e = va * a;
-        const extended h = a + e;
-        const extended l = (a - h) + e;
-        W = W + l;
-        return h + W;
-    }
-    // y = 2^e m: ln m = ln(1 + r) - ln c, r = m c - 1 in two parts, the first exact.
-    constexpr float ll_round = 0x1.8p32f;
-    constexpr double ll_ln2_hi = f64(0x3FE62E42FF000000), ll_ln2_lo = f64(0xBDC718432A1B0E26);
-    constexpr extended ll_a0 = 0x92497ECBBF12A224p-66L, ll_a1 = 0xCCCCCCCCB4796149p-66L,
-                       ll_a2 = 0xAAAAAAAAAAAAABEAp-65L;
-    constexpr extended ll_b0 = -0xAAAAFBDE6BC3DEDDp-66L, ll_b1 = -0xFFFFFFFFEFE6E52Ep-66L,
-                       ll_b2 = -0x8000000000000041p-64L;
-    const extended e = f.exponent - 16383;
-    const extended m = with_exponent_0(f);
-    const int i = f.significand >> 55 & 0xFF;
-    const extended mh = (m + ll_round) - ll_round;
-    const extended ml = m - mh;
-    const extended c = __dlog2_g___libm_rcp_table_256[i];
-    const extended r0 = mh * c + -1;
-    const extended r1 = ml * c;
-    const extended r = r1 + r0;
-    const extended z = r * r;
-    const extended A1 = ((ll_a0 * z + ll_a1) * z + ll_a2) * z;
-    const extended B1 = (ll_b0 * z + ll_b1) * z + ll_b2;
-    extended T = r1 + (z * B1 + r * A1);
-    T = T + (e * ll_ln2_lo + __libm_logl_table_256[i].lo);
-    return ((e * ll_ln2_hi + __libm_logl_table_256[i].hi) + r0) + T;
-}
 
 // log gamma(y) for y from 0.875 to 512.
 [[gnu::noinline]] extended own_lgamma_pos(extended y) { return log_gamma(double(y), y); }
@@ -134,7 +46,7 @@ constexpr right_row _RRP[13] = {
 };
 
 // Horner's scheme carried on from r, the coefficients in an order of their own.
-template <class C> extended horner_in_order(extended r, const C& c, extended v, std::initializer_list<int> order) {
+template <class C> extended horner_in_order(extended v, extended r, const C& c, std::initializer_list<int> order) {
     for (int i : order)
         r = r * v + c[i];
     return r;
@@ -142,15 +54,15 @@ template <class C> extended horner_in_order(extended r, const C& c, extended v, 
 extended left_root(int k, double x) {
     const auto& [E, D, unused] = _LRP[k];
     const extended u = extended(x) - _LRIB[k].centre, v = u * u;
-    const extended P = horner_in_order(horner_in_order(_LRP16[k], D, v, {9, 7, 5, 3, 1}), E, v, {4, 2, 0});
-    const extended Q = horner_in_order(horner_in_order(D[10], D, v, {8, 6, 4, 2, 0}), E, v, {3, 1});
+    const extended P = horner_in_order(v, horner_in_order(v, _LRP16[k], D, {9, 7, 5, 3, 1}), E, {4, 2, 0});
+    const extended Q = horner_in_order(v, horner_in_order(v, D[10], D, {8, 6, 4, 2, 0}), E, {3, 1});
     return P + u * Q;
 }
 extended right_root(int k, double x) {
     const auto& [E, D] = _RRP[k];
     const extended u = extended(x) - _RRIB[k].centre, v = u * u;
-    const extended P = horner_in_order(horner_in_order(D[1], D, v, {7, 3, 9, 5, 11}), E, v, {2, 0});
-    const extended Q = horner_in_order(horner_in_order(D[0], D, v, {6, 2, 8, 4, 10}), E, v, {3, 1});
+    const extended P = horner_in_order(v, horner_in_order(v, D[1], D, {7, 3, 9, 5, 11}), E, {2, 0});
+    const extended Q = horner_in_order(v, horner_in_order(v, D[0], D, {6, 2, 8, 4, 10}), E, {3, 1});
     return P + u * Q;
 }
 
@@ -212,8 +124,8 @@ extended log_gamma_of_negative(double x) {
     const double R = double(extended(shifter) - x) + -shifter;
     const extended r = extended(A) - R;
     const extended z = r * r, w = z * z;
-    const extended P = horner_from(horner(ld_sinp, w), ld_sinp_e, w);
-    const extended Q = horner_from(horner(ld_sinq, w), ld_sinq_e, w);
+    const extended P = horner_from(w, horner(w, ld_sinp), ld_sinp_e);
+    const extended Q = horner_from(w, horner(w, ld_sinq), ld_sinq_e);
     const extended T = z * P + w * Q;
     const extended L = own_logl(A);
     const extended Lr = own_logl(r < 0 ? -r : r);

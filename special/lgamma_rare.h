@@ -16,7 +16,7 @@ struct root_window {
 };
 template <class T> bool inside(const root_window& w, T x) { return w.lower < x && x < w.upper; }
 
-template <class T> constexpr T whole_numbers = sizeof(T) == 8 ? T(0x1p52) : T(0x1p23); // from there on
+template <class T> constexpr T whole_numbers = sizeof(T) == 8 ? T(0x1p52) : T(0x1p23); // all are from here on
 template <class T> bool is_integer(T x) { return x <= -whole_numbers<T> || x == T(int64_t(x)); }
 
 // The sign of gamma(x): of its pole at a zero, -1 where the integer above a negative x is even, else +1.
@@ -25,8 +25,8 @@ template <class T> int sign_of_gamma(T x) {
     return x < 0 && !is_integer(x) && int64_t(x) % 2 == 0 ? -1 : 1; // the conversion is toward zero
 }
 
-// What needs no formula: true, with result and status, for NaN and infinities, zeros and negative integers, and x
-// from the overflow bound up.
+// Handles the arguments that need no formula: NaN and infinities, zeros and negative integers (the poles), and x
+// above `above`, where the result overflows. Returns true with result and status set; false for all others.
 template <class T> bool no_log_gamma(T x, T above, T* result, int* status) {
     if (!(std::fabs(x) <= std::numeric_limits<T>::max())) *result = x * x, *status = ordinary;
     else if (x > above) *result = std::numeric_limits<T>::max() * std::numeric_limits<T>::max(), *status = overflow;

@@ -1,9 +1,9 @@
 // lgammaf and lgammarf, log|gamma(x)|, the second with the sign of gamma(x) as out-lane, in double.
 //
-// From 2^-6 to 8192 a row of 16 cells a binade gives log gamma. Behind a branch: below 2^-6 log gamma(1 + x) - ln x;
-// from 8192 on Stirling's series; from -9 to 0 log gamma(y) - ln|x (x + 1) ... (y - 1)| with y from 1 to 2; and from
-// -8192 to -9 reflection, -log gamma(A) - ln(A r) - ln(sin(pi r) / (pi r)), A = -x and r its distance to the nearest
-// integer. The rows hold the slow path's polynomials, so that the margin is rounding alone.
+// From 2^-6 to 8192 a row of 16 cells per binade gives log gamma. Behind a branch: below 2^-6 log gamma(1 + x) - ln
+// x; from 8192 on Stirling's series; from -9 to 0 log gamma(y) - ln|x (x + 1) ... (y - 1)| with y from 1 to 2; and
+// from -8192 to -9 reflection, -log gamma(A) - ln(A r) - ln(sin(pi r) / (pi r)), A = -x and r its distance to the
+// nearest integer. The rows hold the slow path's polynomials, so that the margin is rounding alone.
 #include "special/gamma_lanes.h"
 #include "special/lgammaf_pieces.h"
 

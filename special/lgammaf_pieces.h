@@ -31,8 +31,8 @@ template <int N> struct split_polynomial {
     double from, shift, a[N], b[N], c;
     template <class V> V at(V x) const {
         const V v = x + shift, w = v * v;
-        const V P = horner(a, w);
-        const V Q = horner(b, w);
+        const V P = horner(w, a);
+        const V Q = horner(w, b);
         return (w * Q + c) + v * P;
     }
 };

@@ -42,8 +42,8 @@ double without_low_word(double v) { return f64(bits(v) & 0xFFFFFFFF00000000); }
         const double hh = dh * dh;
         const double h2 = without_low_word(hh);
         const double hl = hh - h2;
-        double s = horner(ol_m, z);
-        double t = horner(ol_n, z);
+        double s = horner(z, ol_m);
+        double t = horner(z, ol_n);
         s = s * d;
         const double dl = d - dh;
         t = t * z;
@@ -83,7 +83,7 @@ double without_low_word(double v) { return f64(bits(v) & 0xFFFFFFFF00000000); }
 struct root_cubic {
     root_window window;
     double P[4];
-    extended at(extended x) const { return horner(P, x - window.centre); }
+    extended at(extended x) const { return horner(x - window.centre, P); }
 };
 constexpr root_cubic left_roots[2] = {
     {{f64(0xC005FB43A9328A1D), f64(0xC005FB410A1BD901), f64(0xC005FB3E6B0527E5)},
@@ -135,7 +135,7 @@ extended log_gamma_of_negative(float x) {
     } else {
         const extended L = own_log(A);
         const extended V = ((x + -0.5L) * L + -lg_half_log2pi) - x;
-        T = V - z * horner(lg_sin, z);
+        T = V - z * horner(z, lg_sin);
     }
     return T - own_log(distance);
 }

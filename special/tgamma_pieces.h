@@ -108,7 +108,7 @@ template <> struct tgamma_constants<double> {
                                          -0xD28D3312983E9918p-63L};
     template <class V> static V sine(V r) {
         const V z = r * r;
-        return r + (z * r) * horner(sin_c, z);
+        return r + (z * r) * horner(z, sin_c);
     }
 };
 

@@ -13,7 +13,7 @@ namespace {
 template <class T, class V> V gamma_from_1_to_2(V w, bool subnormal) {
     const auto& piece = gamma_piece_of<T>(w);
     const double t = w + piece.shift; // rounded to double in extended precision, too
-    return subnormal ? piece.c[0] : horner_up(piece.c, V(t));
+    return subnormal ? piece.c[0] : horner_up(V(t), piece.c);
 }
 
 // gamma(A) for A = F + t >= 2, F = n: the row's product G and the product p of A - 1, A - 2 ... that leads to it.

@@ -22,8 +22,8 @@ template <auto Steps, class... Pointer> int with_64_bit_significands(Pointer... 
     return status;
 }
 
-// Horner's scheme carried on from r.
-template <class V, class C, int N> V horner_from(V r, const C (&c)[N], V v) {
+// Horner's scheme at v, carried on from r.
+template <class V, class C, int N> V horner_from(V v, V r, const C (&c)[N]) {
     for (int i = 0; i < N; i++)
         r = r * v + c[i];
     return r;

@@ -1,5 +1,5 @@
-// The bits of 1 / (2 pi) by which large arguments are reduced: one row an exponent field, from which the product with
-// the significand gives the fraction of a turn, words from the most significant one down.
+// The bits of 1 / (2 pi) by which large arguments are reduced: one row per exponent field, from which the product
+// with the significand gives the fraction of a turn, words from the most significant one down.
 #pragma once
 
 #include "frame/rare.h"

@@ -80,7 +80,7 @@ struct dcos_rm_block {
     SLOT(double, 14, s4, 0x3EC5D4567512BBD5)
     SLOT(double, 15, one, 0x3FF0000000000000)
 };
-// What finishes large lanes.
+// Constants of the last steps for large arguments: rows of angles, and sine and cosine of what is left.
 struct dsin_ha_block {
     TABLE(0, rows, sin_rows_f64)
     GAP(256, 257)

@@ -218,7 +218,7 @@ template <int W> ORVANE_INLINE lanes<double, W> row_tan(const auto& c, const red
     auto R = angle.rl + angle.rh;
 
     auto d = row.entry(&fields::pb_hi) - R;
-    auto y0 = convert<double>(reciprocal_estimate(convert<float>(d)));
+    auto y0 = reciprocal_estimate(d);
     auto e = fma(-y0, d, lanes<double, W>(1.0));
     auto e2 = e * e;
     auto g = fma(e, e, e);

@@ -118,8 +118,8 @@ template <class T, const auto& Block, auto& Rare> struct tanpi_kernel : kernel<o
         auto ax = x & c.abs_mask;
         return answer{tangent(c, ax, x), not_less_equal(ax, lanes<T, W>(c.large_limit))};
     }
-    // Lanes above the limit lose a multiple of 512 (256), all of them from int_limit on; the other lanes are as they
-    // were.
+    // Above the limit a multiple of 512 (in double 256) is taken off, from int_limit on all of the number; other
+    // lanes stay as they are.
     template <int W> static ORVANE_INLINE auto large_path(const auto& c, lanes<T, W> x, auto ordinary) {
         auto ax = x & c.abs_mask;
         auto m = keep(ax < lanes<T, W>(int_limit<T>), lanes<T, W>(int_shift<T>));

@@ -77,7 +77,7 @@ struct rows_of_eight {
 
 real power_of_two(int e) { return tables::exp2(real(e)); }
 
-// log gamma of the slow path in float on 16 cells a binade from 2^-6 to 8192.
+// log gamma of the slow path in float on 16 cells per binade from 2^-6 to 8192.
 file lgammaf_rows() {
     rows_of_eight rows;
     for (int e = -6; e < 13; e++)
@@ -93,7 +93,7 @@ file lgammaf_rows() {
             rows.add(f, lo, lo + cell, i == 0 && (e == 0 || e == 1), true); // 1 and 2 are zeros
         }
     return rows.under("special/tables/lgammaf_cells.inc",
-                      "the slow path's log gamma in 16 cells a binade, relative: ");
+                      "the slow path's log gamma in 16 cells per binade, relative: ");
 }
 
 // ln on 16 cells of [1, 2).
@@ -110,7 +110,7 @@ template <class T> real slow_gamma(double where, const real& x) {
     using constants = tgamma_constants<T>;
     if (where < 2) {
         const auto& piece = gamma_piece_of<T>(where);
-        return horner_up(piece.c, x + piece.shift);
+        return horner_up(x + piece.shift, piece.c);
     }
     const int n = int(where), step = 1 << constants::shift, factors = n >= step ? n % step : n - 2;
     real p = gamma_row_product<T>(n, x - n);
@@ -284,7 +284,7 @@ bounded<64> computed_log(const real& lo, const real& hi) {
     return {a, b, half_ulp(larger(magnitude(a), magnitude(b)), 64) + power_of_two(-70)};
 }
 
-// log gamma of the slow path around 16 grid points a binade, from 1/8 to 512; the last column is the margin.
+// log gamma of the slow path around 16 grid points per binade, from 1/8 to 512; the last column is the margin.
 file lgamma_rows() {
     using lgamma_pieces::log_gamma;
     std::string text;
@@ -325,7 +325,7 @@ file lgamma_rows() {
         text += text_of(row, margin, true);
     }
     return {"special/tables/lgamma_grid.inc",
-            heading("the slow path's log gamma around 16 grid points a binade, the margin last, relative: ",
+            heading("the slow path's log gamma around 16 grid points per binade, the margin last, relative: ",
                     log2_of(worst)) +
                 text};
 }
@@ -378,7 +378,7 @@ file lgamma_sine_row() {
 exact_polynomial exact_gamma(int n, double where, const real& centre) {
     if (n < 2) {
         const auto& piece = gamma_piece_of<double>(where);
-        return horner_up(piece.c, exact_polynomial({centre + piece.shift, real(1)}));
+        return horner_up(exact_polynomial({centre + piece.shift, real(1)}), piece.c);
     }
     exact_polynomial p = gamma_row_product<double>(n, exact_polynomial({centre - n, real(1)}));
     for (int i = 1; i <= (n >= 16 ? n % 16 : n - 2); i++)
@@ -390,7 +390,7 @@ exact_polynomial exact_gamma(int n, double where, const real& centre) {
 real gamma_rounding(int n, double where, const real& lo, const real& hi) {
     if (n < 2) {
         const auto& piece = gamma_piece_of<double>(where);
-        const auto P = horner_up(piece.c, bounded<64>(lo + piece.shift, hi + piece.shift, power_of_two(-64)));
+        const auto P = horner_up(bounded<64>(lo + piece.shift, hi + piece.shift, power_of_two(-64)), piece.c);
         return P.error / P.least() + power_of_two(-63);
     }
     const auto G = gamma_row_product<double>(n, bounded<64>(lo - n, hi - n));
@@ -437,7 +437,7 @@ std::vector<file> tgamma_rows() {
     real sine = 0;
     for (int i = 0; i < 256; i++) {
         const bounded<64> r(real(i) / 512 + power_of_two(-60), real(i + 1) / 512);
-        const bounded<64> z = r * r, q = z * horner(tgamma_constants<double>::sin_c, z) + 1; // s / r, a rounding more
+        const bounded<64> z = r * r, q = z * horner(z, tgamma_constants<double>::sin_c) + 1; // s / r, a rounding more
         sine = larger(sine, q.error / q.least() + power_of_two(-62));
     }
     auto check = [&](const char* what, const real& proven, double margin) {
@@ -454,7 +454,7 @@ std::vector<file> tgamma_rows() {
 }
 exact_polynomial slow_sine(const real&) {
     const exact_polynomial z({real(0), real(1)});
-    return exact_polynomial(1) + z * horner(tgamma_constants<double>::sin_c, z);
+    return exact_polynomial(1) + z * horner(z, tgamma_constants<double>::sin_c);
 }
 file tgamma_sine_row() {
     const auto p = exact_part(0, real(1) / 4, slow_sine);
