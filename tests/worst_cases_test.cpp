@@ -4,7 +4,7 @@
 #include "tools/whole_file.h"
 #include "tools/worst_cases.h"
 
-#include "support.h"
+#include "accuracy.h"
 
 #include <set>
 
@@ -80,7 +80,7 @@ TEST(WorstCases, AreWithinTheLimitsOfOpenClAtEveryWidth) {
     const auto cases = read_worst_cases(file);
     for (const auto& row : library_rows()) {
         const auto limit = limit_of(row);
-        if (!limit || !limit->ulp || !limit->where.empty()) continue;
+        if (!limit || limit->condition != limit_condition::none) continue;
         const kernel_row* kernel =
             row.twin_name.empty() ? &row : find_row(library_rows(), row.twin_name, row.twin_tier);
         for (const auto& w : cases) {
@@ -109,6 +109,62 @@ TEST(WorstCases, AreWithinTheLimitsOfOpenClAtEveryWidth) {
         EXPECT_TRUE(held.contains(&row) || is_rounded_once) << row.name << row.suffix() << " has a limit and no case";
     }
     EXPECT_GT(held.size(), 80u);
+}
+
+// Limits that depend on the argument, of the relaxed tiers: worst cases and drawn arguments, at every width.
+TEST(WorstCases, RelaxedTiersAreWithinTheirLimitsAtEveryWidth) {
+    rng r(23);
+    int held = 0;
+    const auto cases = read_worst_cases(file);
+    for (const auto& row : library_rows()) {
+        const auto limit = limit_of(row);
+        if (!limit || limit->condition == limit_condition::none) continue;
+        const auto* reference = extended_reference_of(row);
+        ASSERT_TRUE(reference) << row.name;
+        held++;
+        std::vector<words> x(row.arguments());
+        for (const auto& w : cases)
+            if (w.row->name == row.name)
+                for (size_t j = 0; j < x.size(); j++)
+                    x[j].push_back(w.arguments[j]);
+        for (int j = 0; j < row.arguments(); j++) {
+            std::uniform_real_distribution<double> ordinary(row.range[2 * j], row.range[2 * j + 1]), size(-120, 120),
+                around_zero(-4, 4);
+            for (int i = 0; i < 3000; i++) {
+                const double sizes[] = {ordinary(r), around_zero(r), std::exp2(size(r))};
+                x[j].push_back(word_of(row.argument(j), sizes[i % 3]));
+            }
+        }
+        x[0].resize(x[0].size() / 48 * 48);
+        for (int width : widths) {
+            const auto plan = plan_of(row, width);
+            lane_caller call(plan, library_under_test().address(plan.symbol));
+            std::vector<words> arguments(x.size()), results;
+            for (size_t from = 0; from + width <= x[0].size(); from += width) {
+                for (size_t j = 0; j < x.size(); j++) {
+                    arguments[j].assign(x[j].begin() + from, x[j].begin() + from + width);
+                    arguments[j].resize(stored_lanes(width), arguments[j][0]);
+                }
+                call(arguments, results);
+                for (int i = 0; i < width; i++) {
+                    const double a = value_of(row.in, arguments[0][i]);
+                    const double b = x.size() > 1 ? value_of(row.argument(1), arguments[1][i]) : 0;
+                    for (size_t k = 0; k < results.size(); k++) {
+                        const long double v = k ? reference->second(a, b) : reference->value(a, b);
+                        const double ulps = approximate_ulps(row.result(k), results[k][i], v);
+                        const double off = std::isfinite(ulps) && std::isfinite(v)
+                                               ? std::fabs(value_of(row.result(k), results[k][i]) - v)
+                                               : ulps;
+                        if (!limit->allows(x.size() > 1 ? b : a, ulps, off))
+                            ADD_FAILURE()
+                                << row.name << row.suffix() << " at " << a << ", " << b << ", width " << width << ": "
+                                << ulps << " ulp, " << off << ", the limit is " << limit->text();
+                    }
+                }
+            }
+        }
+    }
+    EXPECT_GE(held, 10);
 }
 
 // What callers are told of families without rows, which are exact or rounded once: arguments of all kinds.

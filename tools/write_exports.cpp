@@ -70,7 +70,7 @@ json described(const known_error& e) { return {{std::string(to_string(e.measure)
 json described(const std::optional<error_limit>& l) {
     if (!l) return nullptr;
     json j = l->absolute ? json{{"absolute", l->absolute}} : json{{"ulp", l->ulp}};
-    if (!l->where.empty()) j["where"] = std::string(l->where);
+    if (!l->where().empty()) j["where"] = std::string(l->where());
     return j;
 }
 
