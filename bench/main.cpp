@@ -1,4 +1,4 @@
-// Throughput of every export that is built, in one run with SLEEF and scalar libm: nanoseconds a lane over a buffer
+// Throughput of every export that is built, in one run with SLEEF and scalar libm: nanoseconds per lane over a buffer
 // of lanes in the first-level cache, on ordinary lanes and with one special lane in 64.
 //
 //     orvane-bench [FAMILY_REGEX ...] [--benchmark_...]
@@ -390,7 +390,7 @@ int main(int argc, char** argv) {
     }
     benchmark::Shutdown();
     printf(
-        "On %s: nanoseconds a lane, medians; a ratio is the peer's time over ours. The vector peer is SLEEF's "
+        "On %s: nanoseconds per lane, medians; a ratio is the peer's time over ours. The vector peer is SLEEF's "
         "function\n"
         "(u10: within 1.0 ulp) or, marked C, what the compiler makes of scalar code; it runs 128 bits a call beside "
         "vectors that\nfit them and else 256. libm (for conversions an inlined loop) runs one lane; ulp is our "

@@ -19,8 +19,8 @@ template <class R, class... A> constexpr bool is_in_registers =
 
 struct peer {
     const char* name;       // "u10": within 1.0 ulp; empty where SLEEF states no error
-    vector_function wide;   // 256 bits a call
-    vector_function narrow; // 128 bits a call, for vectors that fit them
+    vector_function wide;   // 256 bits per call
+    vector_function narrow; // 128 bits per call, for vectors that fit them
     const char* library;    // "SLEEF" or "C", what the compiler makes of scalar code
     peer(const char* name, vector_function wide, vector_function narrow, const char* library = "SLEEF")
         : name(name), wide(std::move(wide)), narrow(std::move(narrow)), library(library) {}

@@ -35,7 +35,7 @@ public:
     explicit gathering_reporter(size_t expected) : expected(expected) {}
     bool ReportContext(const Context&) override { return true; }
     void ReportRuns(const std::vector<Run>&) override;
-    // The median time a lane of a benchmark, in nanoseconds; negative if it did not run.
+    // The median time per lane of a benchmark, in nanoseconds; negative if it did not run.
     double nanoseconds(const std::string& benchmark_name) const;
 
 private:
@@ -46,7 +46,7 @@ private:
 void print_table(const std::vector<table_row>&, const gathering_reporter&);
 
 // The same figures for programs: an object with `processor` and `rows`, one row for each line of the table that was
-// measured: `family`, `tiers` (an array), `set`, `width`, `ns` (nanoseconds a lane), and where there is such a peer
+// measured: `family`, `tiers` (an array), `set`, `width`, `ns` (nanoseconds per lane), and where there is such a peer
 // `peer` (its name) with `peer_ns`, and `libm_ns`.
 std::string as_json(const std::vector<table_row>&, const gathering_reporter&, const std::string& processor);
 

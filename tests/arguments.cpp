@@ -26,7 +26,7 @@ struct drawing {
     }
 };
 
-// The logarithm by squaring, a bit a step.
+// The logarithm by squaring, one bit per step.
 double log2_of(double x) {
     int exponent;
     double m = 2 * std::frexp(std::fabs(x), &exponent), sum = exponent - 1;

@@ -269,7 +269,7 @@ TEST_P(LongEveryFloat, ToInteger) {
         for (size_t i = 0; i < x.size(); i++)
             x[i] = first + i;
         const words& y = f({x})[0];
-        bool same = true; // an assertion a lane would take as long as the lane
+        bool same = true; // one assertion per lane would take as long as the lane
         for (size_t i = 0; i < x.size(); i++)
             same &= y[i] == expected_integer(c, x[i]);
         if (!same) return expect_integers(c, x, y);

@@ -3,7 +3,7 @@
 //     orvane-call expf8_half 1 2 nan 0x42b17217 -inf 1e-40 88.7 0
 //     orvane-call powf2 2,3 4,0.5                  the arguments of a lane joined by commas
 //     orvane-call exp4 -i numbers.txt -o out.txt   lanes from a file (- is standard input), any number of them
-//     orvane-call --raw remquo4                    for programs: hexadecimal words in and out, a lane a line
+//     orvane-call --raw remquo4                    for programs: hexadecimal words in and out, one lane per line
 //     orvane-call --list
 //
 // A number is decimal, a hexadecimal float (0x with a p) or a bit pattern (0x without). Every call goes through the
@@ -438,7 +438,7 @@ int run(int argc, char** argv) {
     bool raw = false, list = false, as_json = false, summary = false;
     app.add_option("export", name, "expf8_half, __orvane_l9_powf2, ...");
     app.add_option("lanes", lanes,
-                   "a word a lane, as many as the width; the arguments of one lane joined by commas. A number is "
+                   "one word per lane, as many as the width; the arguments of one lane joined by commas. A number is "
                    "decimal (1.5, "
                    "-inf, nan), a hexadecimal float (0x1.8p3) or, 0x without a p, its bits (0x3fc00000)")
         ->allow_extra_args();
@@ -446,7 +446,7 @@ int run(int argc, char** argv) {
     app.add_option("-o,--output", to,
                    "write to a file, which appears only when it is complete (devices and FIFOs as they are)");
     app.add_option("--library", library_path, "the shared library (default: the one beside this program)");
-    app.add_flag("--raw", raw, "hexadecimal words from standard input, a lane a line; words to standard output");
+    app.add_flag("--raw", raw, "hexadecimal words from standard input, one lane per line; words to standard output");
     app.add_flag("--list", list, "names of all exports");
     app.add_flag("--json", as_json, "output as JSON, an object a line");
     app.add_flag("--summary", summary,

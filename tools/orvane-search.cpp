@@ -281,7 +281,10 @@ findings climbed(subject& s, const options& o) {
         uint64_t b = 0;
         for (int j = 0; j < s.row.arguments(); j++) {
             const lane_type t = s.row.argument(j);
-            const int shift = o.within ? std::max(o.within - 5, 0) : t == lane_type::f64 ? 50 : t == lane_type::f32 ? 21 : 26;
+            const int shift = o.within              ? std::max(o.within - 5, 0)
+                              : t == lane_type::f64 ? 50
+                              : t == lane_type::f32 ? 21
+                                                    : 26;
             b = b * 0x10001 + (x[j] >> (s.row.arguments() == 1 ? shift - 1 : shift + 1));
         }
         return b;
@@ -476,7 +479,8 @@ int run(int argc, char** argv) {
         std::cout << placed << " lines\n";
         return 0;
     }
-    if (o.within && near.empty()) throw failure("--within tells how far from the arguments of --near; name them, too");
+    if (o.within && near.empty())
+        throw failure("--within tells how far from the arguments of --near; name them, too");
     if (o.from > o.to) throw failure("--from is larger than --to: no argument lies between them");
     const library opened(lib);
     if (!opened.handle()) throw failure("cannot open the library: " + opened.error());

@@ -140,7 +140,7 @@ std::string speed_table(const json& speed) {
     const auto lines = speed_lines(speed);
     const std::string widths =
         at_all_widths(lines.at(0), [](const json& r) { return std::to_string(int(r["width"])); });
-    std::string s = "| family | tier | ns a lane at " + widths +
+    std::string s = "| family | tier | ns per lane at " + widths +
                     " | times the vector peer | times libm |\n|---|---|---|---|---|\n";
     for (const auto& l : lines) {
         const std::string vector = at_all_widths(l, [](const json& r) { return ratio(r, "peer_ns"); });
@@ -156,7 +156,7 @@ std::string sample_table(const std::vector<worst_case>& cases, const json& speed
     const auto worst = worst_by_kernel(cases);
     const auto lines = speed_lines(speed);
     std::string s =
-        "| the case | export | largest known error | OpenCL C's limit | ns a lane | times SLEEF | times libm |\n"
+        "| the case | export | largest known error | OpenCL C's limit | ns per lane | times SLEEF | times libm |\n"
         "|---|---|---|---|---|---|---|\n";
     for (const auto& [name, tier] : std::vector<std::pair<std::string, std::string>>{{"expf", "default"},
                                                                                      {"expf", "native"},
@@ -212,7 +212,7 @@ int main(int argc, char** argv) {
         const std::tuple<const char*, const char*, std::string> tables[] = {
             {"README.md", "sample of accuracy and speed", sample_table(cases, speed)},
             {"docs/accuracy.md", "largest known errors", accuracy_table(cases)},
-            {"docs/speed.md", "time a lane", speed_table(speed)}};
+            {"docs/speed.md", "time per lane", speed_table(speed)}};
         int wrong = 0;
         for (const auto& [file, name, table] : tables) {
             const std::string now = contents_of(root / file), written = with_table(now, name, table);

@@ -15,7 +15,7 @@ namespace {
 
 constexpr const char* written = "Written by write-vecabi.";
 
-// One line a name: a macro of names.S and its arguments.
+// One line per name: a macro of names.S and its arguments.
 std::string assembler_lines() {
     std::string text = "        // " + std::string(written) + "\n";
     std::string family;

@@ -1,4 +1,4 @@
-// Real loops, as GCC vectorizes them: time an element with liborvane_vecabi, with SLEEF's library of the same names,
+// Real loops, as GCC vectorizes them: time per element with liborvane_vecabi, with SLEEF's library of the same names,
 // and as scalar code on the C library, in one run.
 //
 //     orvane-bench-loops [NAME_REGEX]
