@@ -28,7 +28,14 @@
 //     template <int W> static auto large_reduce(block, x..., reduced) vector_path(block, x..., reduced) takes; where
 //                                                                      reduced.special has lanes, large_reduce gives
 //                                                                      the reduced arguments anew
+//     template <int W> static auto prepare(block, x...)                the formula in stages: each stage runs on all
+//     template <int W> static auto proceed(block, x..., ready)         chunks before the next begins, and takes what
+//                                                                      the one before gave; vector_path is the last
 //     static constexpr bool all_lanes = true;                          no formula: every lane is a slow-path lane
+//
+// A kernel has stages where it is one long chain of steps: the processor holds too few steps in waiting to reach the
+// next chunk's chain before this one ends. Between stages values lie in the frame, which costs a store and a load
+// each; a stage gives up to three, named first, second and third.
 //
 // large_path and large_reduce each stand behind a branch that ordinary vectors never take and run register by
 // register. A kernel that finishes every lane has no `special` in its answer and no slow path.
@@ -60,6 +67,11 @@ template <class First, class Second, class Special> answer(First, Second, Specia
 template <class First, class Second> struct results {
     First first;
     Second second;
+};
+template <class First, class Second, class Third> struct three_results {
+    First first;
+    Second second;
+    Third third;
 };
 
 struct no_block_type {};
@@ -103,6 +115,8 @@ ORVANE_HAS_MEMBER(settle)
 ORVANE_HAS_MEMBER(large_path)
 ORVANE_HAS_MEMBER(beyond)
 ORVANE_HAS_MEMBER(reduce)
+ORVANE_HAS_MEMBER(prepare)
+ORVANE_HAS_MEMBER(proceed)
 #undef ORVANE_HAS_MEMBER
 
 template <class A>
@@ -123,6 +137,8 @@ template <class A, int C, size_t N> struct answers {
     ORVANE_INLINE void put(auto i, const A& a) {
         chunk[i] = a;
         if constexpr (N == 1) void();
+        else if constexpr (requires { a.third; })
+            chunk[i].first = finished(a.first), chunk[i].second = finished(a.second), chunk[i].third = finished(a.third);
         else if constexpr (requires { a.second; })
             chunk[i].first = finished(a.first), chunk[i].second = finished(a.second);
         else if constexpr (requires { a.first; }) chunk[i].first = finished(a.first);
@@ -165,6 +181,8 @@ ORVANE_STEP(settle, settle)
 ORVANE_STEP(large_path, large_path)
 ORVANE_STEP(beyond, beyond)
 ORVANE_STEP(reduce, reduce)
+ORVANE_STEP(prepare, prepare)
+ORVANE_STEP(proceed, proceed)
 ORVANE_STEP(large_reduce, large_reduce)
 #undef ORVANE_STEP
 
@@ -337,6 +355,19 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         auto a =
             in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i, reduced.chunk[i]); });
         return conclude(in, a, wrapper);
+    } else if constexpr (detail::has_prepare<K>) {
+        auto ready = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, prepare>(i); });
+        if constexpr (detail::has_proceed<K>) {
+            auto further = in.run_all(
+                [&](auto i) ORVANE_LAMBDA { return in.template run<at_first, proceed>(i, ready.chunk[i]); });
+            auto a = in.run_all(
+                [&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i, further.chunk[i]); });
+            return conclude(in, a, wrapper);
+        } else {
+            auto a = in.run_all(
+                [&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i, ready.chunk[i]); });
+            return conclude(in, a, wrapper);
+        }
     } else {
         auto a = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i); });
         return conclude(in, a, wrapper);
