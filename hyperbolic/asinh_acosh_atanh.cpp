@@ -294,8 +294,8 @@ log_stage_f64(const auto& c, lanes<double, W> Wh, lanes<double, W> Wl, lanes<dou
     }
 }
 
-// The stage before the logarithm: Wh + Wl and, in double, the row of Wh. Where |x| >= 2^30, where 1 + V would be 2 |x|,
-// x 2^-30 takes the place of 1 + V, and 31 ln 2 is added.
+// The stage before the logarithm: Wh + Wl and, in double, the row of Wh. Where |x| >= 2^30, where 1 + V would be 2
+// |x|, x 2^-30 takes the place of 1 + V, and 31 ln 2 is added.
 template <class T, int W> ORVANE_INLINE auto with_row(const auto& c, lanes<T, W> Wh, lanes<T, W> Wl) {
     if constexpr (sizeof(T) == 4) return results{Wh, Wl};
     else return three_results{Wh, Wl, row_of(c, Wh)};
@@ -351,6 +351,7 @@ template <class V> ORVANE_INLINE root<V> root_of(const auto& c, V sh, V sl) {
 
 template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel
     : kernel<one_argument<T>, Block, Rare> {
+    static constexpr bool staged = sizeof(T) == 8;
     template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
         auto ax = x & c.abs_mask;
         auto x2 = x * x, x2l = fma(x, x, -x2);
@@ -392,21 +393,22 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel
 
 template <class T, tier Tier, const auto& Block, auto& Rare> struct acosh_kernel
     : kernel<one_argument<T>, Block, Rare> {
+    static constexpr bool staged = sizeof(T) == 8;
     static constexpr double spare = 2.0;
 
     template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
-        using V = lanes<T, W>;
-        auto t = fma(x, x, -V(c.one));
+        auto t = fma(x, x, -lanes<T, W>(c.one));
         auto sh = t & c.sqrt_mask, sl = t - sh;
         auto [h, l, d] = root_of(c, sh, sl);
-        V w;
+        return three_results{h, l, d};
+    }
+    template <int W> static ORVANE_INLINE auto proceed(const auto& c, lanes<T, W> x, auto root) {
+        auto [h, l, d] = root;
+        lanes<T, W> w;
         if constexpr (sizeof(T) == 4 && Tier == tier::fast) w = d * c.half;
         else w = d * root_polynomial(c, d);
         auto s = h + l;
-        return (x - c.one) + fma(w, s, s);
-    }
-    template <int W> static ORVANE_INLINE auto proceed(const auto& c, lanes<T, W> x, lanes<T, W> v) {
-        auto [Wh, Wl] = one_and<Tier>(c, v);
+        auto [Wh, Wl] = one_and<Tier>(c, (x - c.one) + fma(w, s, s));
         return with_row_or_large(c, x, Wh, Wl);
     }
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, auto ready) {
@@ -418,6 +420,7 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct acosh_kernel
 
 template <class T, tier Tier, const auto& Block, auto& Rare> struct atanh_kernel
     : kernel<one_argument<T>, Block, Rare> {
+    static constexpr bool staged = sizeof(T) == 8;
     template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
         auto ax = x & c.abs_mask;
         auto D = c.one - ax, Dl = (c.one - D) - ax;

@@ -86,6 +86,8 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> scale_to_significand(const a
 }
 
 template <class T, const auto& Block, auto& Rare> struct log1p_compensated : kernel<one_argument<T>, Block, Rare> {
+    static constexpr bool staged = sizeof(T) == 8;
+
     template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         const V one = c.one;

@@ -174,6 +174,8 @@ struct base_10 {
 
 template <class T, class Base, const auto& Block, auto& Rare> struct log_scaled
     : kernel<one_argument<T>, Block, Rare> {
+    static constexpr bool staged = sizeof(T) == 8;
+
     template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
         auto m = Base::significand_of(c, x);
         auto integer = round_to<to_nearest>(reciprocal(m) * c.k_scale);
@@ -204,7 +206,9 @@ template <class T, class Base, const auto& Block, auto& Rare> struct log_scaled
 
 template <class Base, const auto& Block, auto& Rare> struct log_single_table
     : kernel<one_argument<double>, Block, Rare> {
-    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<double, W> x) { return rest_and_row(c, x); }
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<double, W> x) {
+        return rest_and_row(c, x);
+    }
     template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x, auto ready) {
         auto [r, integer] = ready;
         auto k = unbiased(c, integer, biased_exponent(x));

@@ -16,8 +16,7 @@ template <class T, int W, int N> ORVANE_INLINE lanes<T, W> in_lanes(lanes<int32_
 // exact. H is exact but for one rounding, whose error L takes up. Then y H is a pair too, and 2^ of it a table of 256
 // entries and a polynomial.
 template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_arguments<double>, Block, Rare> {
-    template <int W>
-    static ORVANE_INLINE auto prepare(const dpow_block& c, lanes<double, W> x, lanes<double, W>) {
+    template <int W> static ORVANE_INLINE auto prepare(const dpow_block& c, lanes<double, W> x, lanes<double, W>) {
         auto z = (x & c.mant_mask) | c.one;
         return as<double>((bits(reciprocal(z)) + c.rcp_round) & c.rcp_mask);
     }
@@ -40,8 +39,8 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         auto herr = fma(u, c.log2e_hi, -from_A) - (H - (from_A + A));
         return results{H, fma(q, u2, tl + herr)};
     }
-    template <int W> static ORVANE_INLINE auto
-    vector_path(const dpow_block& c, lanes<double, W> x, lanes<double, W> y, auto logarithm) {
+    template <int W> static ORVANE_INLINE auto vector_path(const dpow_block& c, lanes<double, W> x,
+                                                           lanes<double, W> y, auto logarithm) {
         auto [H, L] = logarithm;
         // Near overflow and underflow a lane is special: by y H, and below by s too, since in H half a part in a
         // thousand of the logarithm may be missing (x from 0.9990 to 0.9992), and below -1022 there is no scale.
