@@ -92,14 +92,19 @@ struct tanhf_mixed : kernel<one_argument<float>, __orvane_stanh_data_avx2> {
         auto ax = x & c.abs_mask;
         auto z = ax * ax;
         auto qf = fma(c.qf4, z, lanes<float, W>(c.qf3)), pf = horner(z, c.pf4, c.pf3, c.pf2);
-        auto quotient = [&](auto ax, auto qf, auto pf) ORVANE_LAMBDA {
-            auto a = convert<double>(ax);
-            auto zd = a * a; // exact
-            auto q = convert<float>(horner(zd, convert<double>(qf), c.qd2, c.qd1, c.qd0));
-            auto p = convert<float>(horner(zd, convert<double>(pf), c.pd1, c.pd0));
-            return p * ax / q;
-        };
-        return saturated(c, x, ax, by_halves(quotient, ax, qf, pf));
+        auto q = by_halves(
+            [&](auto ax, auto qf) ORVANE_LAMBDA {
+                auto a = convert<double>(ax), zd = a * a; // exact
+                return convert<float>(horner(zd, convert<double>(qf), c.qd2, c.qd1, c.qd0));
+            },
+            ax, qf);
+        auto p = by_halves(
+            [&](auto ax, auto pf) ORVANE_LAMBDA {
+                auto a = convert<double>(ax), zd = a * a;
+                return convert<float>(horner(zd, convert<double>(pf), c.pd1, c.pd0));
+            },
+            ax, pf);
+        return saturated(c, x, ax, p * ax / q);
     }
 };
 struct tanhf_short : kernel<one_argument<float>, __orvane_stanh_native_data_avx2> {
