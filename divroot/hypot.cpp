@@ -43,12 +43,16 @@ template <class V> ORVANE_INLINE V sum_of_squares(V x, V y) { return fma(y, y, x
 template <bool Native> struct dhypot_kernel
     : kernel<two_arguments<double>, __orvane_dhypot_data, __orvane_dhypot_cout_rare> {
     template <int W>
-    static ORVANE_INLINE auto vector_path(const dhypot_block& c, lanes<double, W> x, lanes<double, W> y) {
-        using V = lanes<double, W>;
+    static ORVANE_INLINE auto prepare(const dhypot_block& c, lanes<double, W> x, lanes<double, W> y) {
         auto s = sum_of_squares(x, y);
         auto special = marked<double, W>((words(s) > c.hw_max) | (words(s) < c.hw_min));
-        s = select(special, V(c.one), s); // the estimate stays finite
-        auto e0 = convert<double>(rsqrt_estimate(convert<float>(s)));
+        auto inside = select(special, lanes<double, W>(c.one), s); // the estimate stays finite
+        return three_results{inside, convert<double>(rsqrt_estimate(convert<float>(inside))), special};
+    }
+    template <int W>
+    static ORVANE_INLINE auto vector_path(const dhypot_block& c, lanes<double, W>, lanes<double, W>, auto estimated) {
+        using V = lanes<double, W>;
+        auto [s, e0, special] = estimated;
         auto h = fma(e0 * e0, s, -V(c.one));
         V P;
         if constexpr (Native) P = horner(h, c.hp1, c.hp0);

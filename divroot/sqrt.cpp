@@ -135,13 +135,15 @@ ORVANE_TWIN(rsqrtf, _half, rsqrtf, _native)
 // parity has it: in integers f is brought into a float, cut short, and 2^-k made from the rest of the exponent.
 template <const auto& Block> struct dinvsqrt_series
     : kernel<one_argument<double>, Block, __orvane_dinvsqrt_cout_rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<double, W> x) {
         auto exponent = bits(x) & c.exponent_mask;
         auto even = andnot(exponent, c.exponent_one);
         auto f = (even + c.float_bias) | (bits(x) & c.low_mask);
         auto r = convert<double>(rsqrt_estimate(as<float>(low_words(f >> 29))));
         auto g = as<double>((even - exponent + c.scale_bias) >> 1);
-        auto y0 = r * g;
+        return r * g;
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x, lanes<double, W> y0) {
         auto u = fma(-x, y0 * y0, c.one);
         lanes<double, W> y;
         if constexpr (requires { c.c3; }) y = fma(y0, u * horner(u, c.c3, c.c2, c.c1, c.c0), y0);

@@ -27,8 +27,18 @@
 //     template <int W> static auto large_reduce(block, x..., reduced)
 //         a step before the formula, which is then vector_path(block, x..., reduced); where reduced.special has
 //         lanes, large_reduce gives the reduced arguments of all lanes anew
+//     template <int W> static auto prepare(block, x...)
+//     template <int W> static auto proceed(block, x..., ready)
+//         the formula in stages, of which vector_path(block, x..., ready) is the last: each stage runs on all chunks
+//         before the next begins, and takes what the one before gave
 //     static constexpr bool all_lanes = true;
 //         no formula: every lane is a slow-path lane
+//
+// A kernel has stages where it is one long chain of steps: the processor holds too few steps in waiting to reach the
+// next chunk's chain before this one ends. Between stages values lie in the frame, which costs a store and a load
+// each; a stage gives up to three, named first, second and third. Floats at 16 lanes are two chunks, too few to gain
+// by it: a kernel of both types says `static constexpr bool staged = sizeof(T) == 8`, and then its stages run in a
+// row.
 //
 // large_path and large_reduce each stand behind a branch that ordinary vectors never take and run register by
 // register. A kernel that finishes every lane has no `special` in its answer and no slow path.
@@ -61,6 +71,11 @@ template <class First, class Second> struct results {
     First first;
     Second second;
 };
+template <class First, class Second, class Third> struct three_results {
+    First first;
+    Second second;
+    Third third;
+};
 
 struct no_block_type {};
 inline constexpr no_block_type no_block{};
@@ -70,6 +85,7 @@ template <class S, const auto& Block = no_block, auto&... SlowPath> struct kerne
     using signature = S;
     static constexpr auto& block = Block;
     static constexpr double spare = 0.75;
+    static constexpr bool staged = true;
 };
 template <class S, const auto& Block, auto& SlowPath> struct kernel<S, Block, SlowPath> : kernel<S, Block> {
     static constexpr auto& slow_path = SlowPath;
@@ -103,6 +119,8 @@ ORVANE_HAS_MEMBER(settle)
 ORVANE_HAS_MEMBER(large_path)
 ORVANE_HAS_MEMBER(beyond)
 ORVANE_HAS_MEMBER(reduce)
+ORVANE_HAS_MEMBER(prepare)
+ORVANE_HAS_MEMBER(proceed)
 #undef ORVANE_HAS_MEMBER
 
 template <class A>
@@ -123,6 +141,9 @@ template <class A, int C, size_t N> struct answers {
     ORVANE_INLINE void put(auto i, const A& a) {
         chunk[i] = a;
         if constexpr (N == 1) void();
+        else if constexpr (requires { a.third; })
+            chunk[i].first = finished(a.first), chunk[i].second = finished(a.second),
+            chunk[i].third = finished(a.third);
         else if constexpr (requires { a.second; })
             chunk[i].first = finished(a.first), chunk[i].second = finished(a.second);
         else if constexpr (requires { a.first; }) chunk[i].first = finished(a.first);
@@ -165,8 +186,19 @@ ORVANE_STEP(settle, settle)
 ORVANE_STEP(large_path, large_path)
 ORVANE_STEP(beyond, beyond)
 ORVANE_STEP(reduce, reduce)
+ORVANE_STEP(prepare, prepare)
+ORVANE_STEP(proceed, proceed)
 ORVANE_STEP(large_reduce, large_reduce)
 #undef ORVANE_STEP
+// All stages of a formula in a row.
+template <class K, int C> struct all_stages {
+    ORVANE_INLINE auto operator()(const auto& c, const auto&... x) const {
+        const auto ready = K::template prepare<C>(c, x...);
+        if constexpr (detail::has_proceed<K>)
+            return K::template vector_path<C>(c, x..., K::template proceed<C>(c, x..., ready));
+        else return K::template vector_path<C>(c, x..., ready);
+    }
+};
 
 // Chunk I of every argument, with its spare lane set and its low lanes copied up.
 template <class K, int W, int I> ORVANE_INLINE auto admit_chunk(const incoming<typename K::signature, W>& came) {
@@ -337,6 +369,22 @@ ORVANE_INLINE entry_result<typename K::signature, W> enter(Wrapper* wrapper, uin
         auto a =
             in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i, reduced.chunk[i]); });
         return conclude(in, a, wrapper);
+    } else if constexpr (detail::has_prepare<K> && !(K::staged && in.N > 1)) {
+        auto a = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, all_stages>(i); });
+        return conclude(in, a, wrapper);
+    } else if constexpr (detail::has_prepare<K>) {
+        auto ready = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, prepare>(i); });
+        if constexpr (detail::has_proceed<K>) {
+            auto further = in.run_all(
+                [&](auto i) ORVANE_LAMBDA { return in.template run<at_first, proceed>(i, ready.chunk[i]); });
+            auto a = in.run_all(
+                [&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i, further.chunk[i]); });
+            return conclude(in, a, wrapper);
+        } else {
+            auto a = in.run_all([&](auto i)
+                                    ORVANE_LAMBDA { return in.template run<at_first, formula>(i, ready.chunk[i]); });
+            return conclude(in, a, wrapper);
+        }
     } else {
         auto a = in.run_all([&](auto i) ORVANE_LAMBDA { return in.template run<at_first, formula>(i); });
         return conclude(in, a, wrapper);

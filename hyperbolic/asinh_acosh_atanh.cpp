@@ -270,11 +270,12 @@ ORVANE_INLINE lanes<float, W> log_stage_f32(const auto& c, lanes<float, W> Wh, l
 // ln(Wh + Wl) = k ln 2 - ln(c / 1024) + ln(1 + r), with c / 512 where c <= 724. acosh adds the rounding error of
 // r = rh + rl as well, since it counts there.
 enum class rest_of_r { dropped, kept };
+template <int W> ORVANE_INLINE lanes<double, W> row_of(const auto& c, lanes<double, W> Wh) {
+    return round_to<to_nearest>(reciprocal_estimate((Wh & c.mant_mask) | c.m_exp)); // 512 to 1024
+}
 template <tier Tier, rest_of_r Rest, int W> ORVANE_INLINE lanes<double, W>
-log_stage_f64(const auto& c, lanes<double, W> Wh, lanes<double, W> Wl, const auto& big) {
+log_stage_f64(const auto& c, lanes<double, W> Wh, lanes<double, W> Wl, lanes<double, W> integer, const auto& big) {
     using V = lanes<double, W>;
-    auto m = (Wh & c.mant_mask) | c.m_exp;
-    auto integer = round_to<to_nearest>(reciprocal_estimate(m)); // 512 to 1024
     auto sc = as<double>(c.sc_base - (bits(Wh) & c.exp_mask));
     auto cs = integer * sc;
     // 1023 above c_split, else 1022: the patterns differ in one bit.
@@ -292,15 +293,22 @@ log_stage_f64(const auto& c, lanes<double, W> Wh, lanes<double, W> Wl, const aut
     }
 }
 
-// ln(1 + V) = ln(Wh + Wl). From |x| = 2^30 on 1 + V is 2 |x| to working precision: there it is ln(x 2^-30) + 31 ln 2.
-template <tier Tier, rest_of_r Rest = rest_of_r::dropped, class T, int W>
-ORVANE_INLINE lanes<T, W> log_or_large(const auto& c, lanes<T, W> x, lanes<T, W> Wh, lanes<T, W> Wl) {
-    using V = lanes<T, W>;
-    auto big = x >= V(c.big_limit);
-    Wh = select(big, x * c.big_scale, Wh);
-    Wl = andnot(as<T>(big), Wl);
-    if constexpr (sizeof(T) == 4) return log_stage_f32<Tier>(c, Wh, Wl, big);
-    else return log_stage_f64<Tier, Rest>(c, Wh, Wl, big);
+// The stage before the logarithm of 1 + V = Wh + Wl: these and, in double, the row of Wh. From |x| = 2^30 on 1 + V is
+// 2 |x| to working precision: there it is ln(x 2^-30) + 31 ln 2.
+template <class T, int W> ORVANE_INLINE auto with_row(const auto& c, lanes<T, W> Wh, lanes<T, W> Wl) {
+    if constexpr (sizeof(T) == 4) return results{Wh, Wl};
+    else return three_results{Wh, Wl, row_of(c, Wh)};
+}
+template <class T, int W>
+ORVANE_INLINE auto with_row_or_large(const auto& c, lanes<T, W> x, lanes<T, W> Wh, lanes<T, W> Wl) {
+    auto big = x >= lanes<T, W>(c.big_limit);
+    return with_row(c, select(big, x * c.big_scale, Wh), andnot(as<T>(big), Wl));
+}
+template <tier Tier, rest_of_r Rest = rest_of_r::dropped>
+ORVANE_INLINE auto log_stage(const auto& c, const auto& ready, const auto& big) {
+    if constexpr (requires { ready.third; })
+        return log_stage_f64<Tier, Rest>(c, ready.first, ready.second, ready.third, big);
+    else return log_stage_f32<Tier>(c, ready.first, ready.second, big);
 }
 
 // ---- 1 + V as head and tail: the larger operand first, so that the tail is exact. In double the head is cut to 42
@@ -342,8 +350,8 @@ template <class V> ORVANE_INLINE root<V> root_of(const auto& c, V sh, V sl) {
 
 template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel
     : kernel<one_argument<T>, Block, Rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
-        using V = lanes<T, W>;
+    static constexpr bool staged = sizeof(T) == 8;
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
         auto ax = x & c.abs_mask;
         auto x2 = x * x, x2l = fma(x, x, -x2);
         auto s = x2 + c.one, e = ((c.one - s) + x2) + x2l; // 1 + x^2 and what is missing
@@ -355,65 +363,95 @@ template <class T, tier Tier, const auto& Block, auto& Rare> struct asinh_kernel
         // sqrt(1 + x^2) - 1 of a small x by its series: u - u^2 / 2 + u^3 / 2, u = x^2 / 2.
         auto u = (x2 + x2l) * c.half, uu = u * u;
         auto q = fma(u, uu, -uu) * c.half;
-        auto small = ax <= V(c.small_limit);
-        V y;
-        if constexpr (sizeof(T) == 8) {
-            auto [Wh, Wl] = one_and<Tier>(c, select(small, u + q, g + v) + ax);
-            y = log_or_large<Tier>(c, ax, Wh, Wl);
-        } else {
+        auto small = ax <= lanes<T, W>(c.small_limit);
+        if constexpr (sizeof(T) == 8) return select(small, u + q, g + v) + ax;
+        else {
             auto Th = g + v, Tl = v + (g - Th), Sh = u + q, Sl = q + (u - Sh);
             Th = select(small, Sh, Th), Tl = select(small, Sl, Tl);
             auto Vh = Th + ax, Vl = Tl + ((ax - Vh) + Th);
-            auto [Wh, Wl] = one_and<Tier>(c, Vh);
-            y = log_or_large<Tier>(c, ax, Wh, Wl + Vl);
+            return results{Vh, Vl};
         }
+    }
+    template <int W> static ORVANE_INLINE auto proceed(const auto& c, lanes<T, W> x, auto v) {
+        auto ax = x & c.abs_mask;
+        if constexpr (sizeof(T) == 8) {
+            auto [Wh, Wl] = one_and<Tier>(c, v);
+            return with_row_or_large(c, ax, Wh, Wl);
+        } else {
+            auto [Wh, Wl] = one_and<Tier>(c, v.first);
+            return with_row_or_large(c, ax, Wh, Wl + v.second);
+        }
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, auto ready) {
+        using V = lanes<T, W>;
+        auto ax = x & c.abs_mask;
+        auto y = log_stage<Tier>(c, ready, ax >= V(c.big_limit));
         return answer{y ^ (x & c.sign_mask), not_less_equal(ax, V(c.max_finite))};
     }
 };
 
 template <class T, tier Tier, const auto& Block, auto& Rare> struct acosh_kernel
     : kernel<one_argument<T>, Block, Rare> {
+    static constexpr bool staged = sizeof(T) == 8;
     static constexpr double spare = 2.0;
 
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
-        using V = lanes<T, W>;
-        const lane_bits<W> special = not_less_equal(x, V(c.max_finite)) | not_less(V(c.one), x);
-        auto t = fma(x, x, -V(c.one));
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
+        auto t = fma(x, x, -lanes<T, W>(c.one));
         auto sh = t & c.sqrt_mask, sl = t - sh;
         auto [h, l, d] = root_of(c, sh, sl);
-        V w;
+        return three_results{h, l, d};
+    }
+    template <int W> static ORVANE_INLINE auto proceed(const auto& c, lanes<T, W> x, auto root) {
+        auto [h, l, d] = root;
+        lanes<T, W> w;
         if constexpr (sizeof(T) == 4 && Tier == tier::fast) w = d * c.half;
         else w = d * root_polynomial(c, d);
         auto s = h + l;
         auto [Wh, Wl] = one_and<Tier>(c, (x - c.one) + fma(w, s, s));
-        return answer{log_or_large<Tier, rest_of_r::kept>(c, x, Wh, Wl), special};
+        return with_row_or_large(c, x, Wh, Wl);
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, auto ready) {
+        using V = lanes<T, W>;
+        const lane_bits<W> special = not_less_equal(x, V(c.max_finite)) | not_less(V(c.one), x);
+        return answer{log_stage<Tier, rest_of_r::kept>(c, ready, x >= V(c.big_limit)), special};
     }
 };
 
 template <class T, tier Tier, const auto& Block, auto& Rare> struct atanh_kernel
     : kernel<one_argument<T>, Block, Rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
-        using V = lanes<T, W>;
+    static constexpr bool staged = sizeof(T) == 8;
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
         auto ax = x & c.abs_mask;
-        const lane_bits<W> special = not_less(ax, V(c.one));
         auto D = c.one - ax, Dl = (c.one - D) - ax;
         auto N = ax + ax;
-        V y, v;
         if constexpr (sizeof(T) == 8) {
-            y = reciprocal_estimate(D) & c.y_mask;
+            auto y = reciprocal_estimate(D) & c.y_mask;
             auto [Qh, Ql, e] = quotient(c, y, D, Dl, N, N & c.n_mask);
-            auto E = e * fma(fma(e, e, e), fma(e, e, V(c.one)), c.one); // of 1 / (1 - e) - 1, five terms
-            auto [Wh, Wl] = one_and<Tier>(c, Qh + (E * Qh + fma(E, Ql, Ql)));
-            v = log_stage_f64<Tier, rest_of_r::dropped>(c, Wh, Wl, no_big_lanes{});
+            auto E = e * fma(fma(e, e, e), fma(e, e, lanes<T, W>(c.one)), c.one); // of 1 / (1 - e) - 1, five terms
+            return Qh + (E * Qh + fma(E, Ql, Ql));
         } else {
-            y = reciprocal_estimate(D) & c.rcp_mask;
+            auto y = reciprocal_estimate(D) & c.rcp_mask;
             auto [Qh, Ql, e] = quotient(c, y, D, Dl, N, N & c.rcp_mask);
             auto E = fma(e, e, e);
             auto cq = E * Qh + fma(E, Ql, Ql);
             auto Vh = Qh + cq, Vl = cq + (Qh - Vh);
-            auto [Wh, Wl] = one_and<Tier>(c, Vh);
-            v = log_stage_f32<Tier>(c, Wh, Wl + Vl, no_big_lanes{});
+            return results{Vh, Vl};
         }
+    }
+    template <int W> static ORVANE_INLINE auto proceed(const auto& c, lanes<T, W>, auto v) {
+        if constexpr (sizeof(T) == 8) {
+            auto [Wh, Wl] = one_and<Tier>(c, v);
+            return with_row(c, Wh, Wl);
+        } else {
+            auto [Wh, Wl] = one_and<Tier>(c, v.first);
+            return with_row(c, Wh, Wl + v.second);
+        }
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, auto ready) {
+        using V = lanes<T, W>;
+        auto ax = x & c.abs_mask;
+        const lane_bits<W> special = not_less(ax, V(c.one));
+        auto v = log_stage<Tier>(c, ready, no_big_lanes{});
         auto sign = x & c.sign_mask;
         v = v * (sign ^ c.half);
         v = select(ax < V(c.tiny_limit), fma(x, x, x) | sign, v);

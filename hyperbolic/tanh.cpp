@@ -54,11 +54,15 @@ ORVANE_BLOCK(stanh_native_block, __orvane_stanh_native_data_avx2)
 // A polynomial in y = abs(x) - c, its coefficients and the centre c in a row for each eighth of a binade, which the
 // high word of x numbers; below 0.125 and from 18 on one row serves all.
 struct tanh_by_rows : kernel<one_argument<double>, __orvane_dtanh_data, __orvane_dtanh_cout_rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const dtanh_block& c, lanes<double, W> x) {
+    template <int W> static ORVANE_INLINE auto prepare(const dtanh_block& c, lanes<double, W> x) {
         using words = lanes<int32_t, W>;
         auto hw = as<int32_t>(high_words(x)) & c.hw_mask;
         auto d = min(max(hw - c.hw_base, words(0)), words(c.hw_top));
-        const row_addresses<W> row(&c.rows, as<uint32_t>(d >> 10));
+        return results{as<uint32_t>(d >> 10), hw};
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const dtanh_block& c, lanes<double, W> x, auto ready) {
+        auto [offset, hw] = ready;
+        const row_addresses<W> row(&c.rows, offset);
 
         auto y = row.template entry<double>(12) + (x & c.abs_mask);
         auto [p9, p10] = row.template pair<double>(10);
@@ -88,14 +92,19 @@ struct tanhf_mixed : kernel<one_argument<float>, __orvane_stanh_data_avx2> {
         auto ax = x & c.abs_mask;
         auto z = ax * ax;
         auto qf = fma(c.qf4, z, lanes<float, W>(c.qf3)), pf = horner(z, c.pf4, c.pf3, c.pf2);
-        auto quotient = [&](auto ax, auto qf, auto pf) ORVANE_LAMBDA {
-            auto a = convert<double>(ax);
-            auto zd = a * a; // exact
-            auto q = convert<float>(horner(zd, convert<double>(qf), c.qd2, c.qd1, c.qd0));
-            auto p = convert<float>(horner(zd, convert<double>(pf), c.pd1, c.pd0));
-            return p * ax / q;
-        };
-        return saturated(c, x, ax, by_halves(quotient, ax, qf, pf));
+        auto q = by_halves(
+            [&](auto ax, auto qf) ORVANE_LAMBDA {
+                auto a = convert<double>(ax), zd = a * a; // exact
+                return convert<float>(horner(zd, convert<double>(qf), c.qd2, c.qd1, c.qd0));
+            },
+            ax, qf);
+        auto p = by_halves(
+            [&](auto ax, auto pf) ORVANE_LAMBDA {
+                auto a = convert<double>(ax), zd = a * a;
+                return convert<float>(horner(zd, convert<double>(pf), c.pd1, c.pd0));
+            },
+            ax, pf);
+        return saturated(c, x, ax, p * ax / q);
     }
 };
 struct tanhf_short : kernel<one_argument<float>, __orvane_stanh_native_data_avx2> {

@@ -134,13 +134,24 @@ struct four_chains {
 // Octant and quadrant; Ties says whether |y| = |x| is turned round. All lanes out of range are special.
 template <class T, const auto& Block, auto& Rare, class Quotient, class Polynomial, bool Ties> struct atan2_in_range
     : kernel<two_arguments<T>, Block, Rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> y, lanes<T, W> x) {
+    static constexpr bool staged = sizeof(T) == 8;
+
+    template <class V> static ORVANE_INLINE auto is_turned(V ay, V ax) {
+        return Ties ? not_less(ay, ax) : not_less_equal(ay, ax);
+    }
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> y, lanes<T, W> x) {
         using V = lanes<T, W>;
         V ax = x & c.abs_mask, ay = y & c.abs_mask;
         auto special = out_of_range<T, W>(c, max(biased_words(c, ax), biased_words(c, ay)));
-        auto turned = Ties ? not_less(ay, ax) : not_less_equal(ay, ax);
-        V num = min(ay, ax) | keep(turned, V(c.sign_mask)); // -|x| / |y| beyond the diagonal
-        V q = Quotient::of(c, num, max(ay, ax));
+        V num = min(ay, ax) | keep(is_turned(ay, ax), V(c.sign_mask)); // -|x| / |y| beyond the diagonal
+        return results{V(Quotient::of(c, num, max(ay, ax))), special};
+    }
+    template <int W>
+    static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> y, lanes<T, W> x, auto divided) {
+        using V = lanes<T, W>;
+        auto [q, special] = divided;
+        V ax = x & c.abs_mask, ay = y & c.abs_mask;
+        auto turned = is_turned(ay, ax);
         V r = Polynomial::octant(c.poly, q, keep(turned, V(c.quarter_turn)));
         r = (r | (x & c.sign_mask)) + keep(x <= V(c.zero), V(c.turn));
         return answer{r | (y & c.sign_mask), special};

@@ -89,12 +89,12 @@ ORVANE_BLOCK(sln_half_block, __orvane_sln_half_data)
 
 // ln x = E ln 2 + ln(2^10 / c) - 1023 ln 2 + ln(1 + r): h and l the first three in hi and lo, summed with the error.
 struct log_compensated : kernel<one_argument<double>, __orvane_dln_data, __orvane_dln_cout_rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const dln_block& c, lanes<double, W> x) {
-        auto m = significand(c, x, c.m_exponent);
-        auto integer = round_to<to_nearest>(reciprocal_estimate(m)); // 512 to 1024
+    template <int W> static ORVANE_INLINE auto prepare(const dln_block& c, lanes<double, W> x) {
+        return rest_and_row(c, x);
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const dln_block& c, lanes<double, W> x, auto ready) {
+        auto [r, integer] = ready;
         auto E = biased_exponent(x);
-        auto r = fma(integer, m, -lanes<double, W>(c.one));
-
         auto [T0, T1] = pair_of_bits<39, 0x810000>(c, integer);
         auto h = E * c.ln2_hi + T0;
         auto l = T1 + E * c.ln2_lo;
@@ -109,8 +109,12 @@ struct log_compensated : kernel<one_argument<double>, __orvane_dln_data, __orvan
 };
 
 struct log_plain : kernel<one_argument<double>, __orvane_dln_data, __orvane_dln_cout_rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const dln_block& c, lanes<double, W> x) {
-        auto [r, k, integer] = fast_log(c, x);
+    template <int W> static ORVANE_INLINE auto prepare(const dln_block& c, lanes<double, W> x) {
+        return rest_and_row(c, x);
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const dln_block& c, lanes<double, W> x, auto ready) {
+        auto [r, integer] = ready;
+        auto k = unbiased(c, integer, biased_exponent(x));
         auto U = single_of_bits<40, 0x405FC0>(c, integer);
         auto h = k * c.ln2;
         auto r2 = r * r;

@@ -86,7 +86,9 @@ template <class T, int W> ORVANE_INLINE lanes<T, W> scale_to_significand(const a
 }
 
 template <class T, const auto& Block, auto& Rare> struct log1p_compensated : kernel<one_argument<T>, Block, Rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
+    static constexpr bool staged = sizeof(T) == 8;
+
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
         using V = lanes<T, W>;
         const V one = c.one;
         auto z = x + one;
@@ -95,8 +97,13 @@ template <class T, const auto& Block, auto& Rare> struct log1p_compensated : ker
         auto [big, small] = order(one, x);
         auto err = finished((big - zz) + small); // 1 + x = zz + err exactly
 
+        return three_results{zz, err, round_to<to_nearest>(reciprocal_estimate(significand(c, zz, c.m_exponent)))};
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, auto ready) {
+        using V = lanes<T, W>;
+        const V one = c.one;
+        auto [zz, err, integer] = ready;
         auto m = significand(c, zz, c.m_exponent);
-        auto integer = round_to<to_nearest>(reciprocal_estimate(m));
         auto E = biased_exponent(zz);
         auto s = scale_to_significand(c, zz);
         auto v = integer * s;
@@ -127,12 +134,16 @@ template <class T, const auto& Block, auto& Rare> struct log1p_compensated : ker
 };
 
 struct log1p_plain : kernel<one_argument<double>, __orvane_dlog1p_data, __orvane_dlog1p_cout_rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const dlog1p_block& c, lanes<double, W> x) {
+    template <int W> static ORVANE_INLINE auto prepare(const dlog1p_block& c, lanes<double, W> x) {
+        return rest_and_row(c, x + c.one);
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const dlog1p_block& c, lanes<double, W> x, auto ready) {
         const lanes<double, W> one = c.one;
+        auto [r, integer] = ready;
         auto [big, small] = order(one, x);
         auto z = x + one;
         auto err = (big - z) + small;
-        auto [r, k, integer] = fast_log(c, z);
+        auto k = unbiased(c, integer, biased_exponent(z));
         auto R = fma(err, scale_to_significand(c, z) * integer, r);
         auto U = single_of_bits<40, 0x405FC0>(c, integer);
         auto a = fma(R, c.p3, c.p2);

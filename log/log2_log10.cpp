@@ -174,11 +174,16 @@ struct base_10 {
 
 template <class T, class Base, const auto& Block, auto& Rare> struct log_scaled
     : kernel<one_argument<T>, Block, Rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x) {
+    static constexpr bool staged = sizeof(T) == 8;
+
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<T, W> x) {
         auto m = Base::significand_of(c, x);
         auto integer = round_to<to_nearest>(reciprocal_estimate(m) * c.k_scale);
+        return results{fma(integer, m, -lanes<T, W>(c.k_scale)), integer};
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<T, W> x, auto ready) {
+        auto [r, integer] = ready;
         auto E = biased_exponent(x);
-        auto r = fma(integer, m, -lanes<T, W>(c.k_scale));
         auto [h, l] = Base::with_exponent(c, Base::pair(c, integer), E);
         auto [s, e] = add_exactly(r, h);
 
@@ -201,8 +206,12 @@ template <class T, class Base, const auto& Block, auto& Rare> struct log_scaled
 
 template <class Base, const auto& Block, auto& Rare> struct log_single_table
     : kernel<one_argument<double>, Block, Rare> {
-    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x) {
-        auto [r, k, integer] = fast_log(c, x);
+    template <int W> static ORVANE_INLINE auto prepare(const auto& c, lanes<double, W> x) {
+        return rest_and_row(c, x);
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const auto& c, lanes<double, W> x, auto ready) {
+        auto [r, integer] = ready;
+        auto k = unbiased(c, integer, biased_exponent(x));
         auto U = Base::single(c, integer);
         auto a = fma(r, c.e2, c.e1);
         auto r2 = r * r;

@@ -46,22 +46,18 @@ template <class V> ORVANE_INLINE sum_and_error<V> add_exactly(V a, V b) {
     return {s, a - t};
 }
 
-// The fast double kernels: c from the plain reciprocal, a single table value U, near 0 together with h around x = 1.
-template <int W> struct fast_log_parts {
-    lanes<double, W> r, k; // c m - 1; the exponent as a number
-    lanes<double, W> c;
-};
+// First stage of a double kernel: the integer near 1 / m that picks the row, and r = integer m - 1.
+template <int W> ORVANE_INLINE auto rest_and_row(const auto& c, lanes<double, W> x) {
+    auto m = significand(c, x, c.m_exponent);
+    auto integer = round_to<to_nearest>(reciprocal_estimate(m)); // 512 to 1024
+    return results{fma(integer, m, -lanes<double, W>(c.one)), integer};
+}
+// The fast double kernels have a single table value U, near 0 together with h around x = 1.
 template <int W>
 ORVANE_INLINE lanes<double, W> unbiased(const auto& c, lanes<double, W> integer, lanes<double, W> E) {
     // 1023 above c_split, else 1022: the patterns differ in one bit.
     auto bias = keep(integer > lanes<double, W>(c.c_split), lanes<double, W>(c.bias_small_m)) | c.bias_large_m;
     return E - bias;
-}
-template <int W> ORVANE_INLINE fast_log_parts<W> fast_log(const auto& c, lanes<double, W> x) {
-    auto m = significand(c, x, c.m_exponent);
-    auto integer = round_to<to_nearest>(reciprocal_estimate(m));
-    auto r = fma(integer, m, -lanes<double, W>(c.one));
-    return {r, unbiased(c, integer, biased_exponent(x)), integer};
 }
 
 // x = m 2^k with m in [2/3, 4/3), by integer arithmetic on the pattern b: v = m - 1 and k as a number.

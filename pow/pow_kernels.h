@@ -16,11 +16,14 @@ template <class T, int W, int N> ORVANE_INLINE lanes<T, W> in_lanes(lanes<int32_
 // exact. H is exact but for one rounding, whose error L takes up. Then y H is a pair too, and 2^ of it a table of 256
 // entries and a polynomial.
 template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_arguments<double>, Block, Rare> {
+    template <int W> static ORVANE_INLINE auto prepare(const dpow_block& c, lanes<double, W> x, lanes<double, W>) {
+        auto z = (x & c.mant_mask) | c.one;
+        return as<double>((bits(reciprocal_estimate(z)) + c.rcp_round) & c.rcp_mask);
+    }
     template <int W>
-    static ORVANE_INLINE auto vector_path(const dpow_block& c, lanes<double, W> x, lanes<double, W> y) {
+    static ORVANE_INLINE auto proceed(const dpow_block& c, lanes<double, W> x, lanes<double, W>, lanes<double, W> r) {
         auto z = (x & c.mant_mask) | c.one;
         auto e = as<double>((bits(x) >> 52) | c.exp_shifter) - c.exp_shifter; // biased: the table has the bias
-        auto r = as<double>((bits(reciprocal_estimate(z)) + c.rcp_round) & c.rcp_mask);
         auto [Th, Tl] = pair_of_bits<39, 0x7FC000>(c.log2_tab, r);
 
         auto A = Th + e;
@@ -34,8 +37,11 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
         // H - A is exact but where much cancels, and then its error is.
         auto from_A = H - A;
         auto herr = fma(u, c.log2e_hi, -from_A) - (H - (from_A + A));
-        auto L = fma(q, u2, tl + herr);
-
+        return results{H, fma(q, u2, tl + herr)};
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const dpow_block& c, lanes<double, W> x,
+                                                           lanes<double, W> y, auto logarithm) {
+        auto [H, L] = logarithm;
         // Lanes near overflow and underflow are special. y H tells them; at the lower end s has to tell, too: H may
         // lack half a thousandth of the logarithm (x from 0.9990 to 0.9992), and below -1022 there is no scale.
         auto P = y * H;

@@ -74,8 +74,7 @@ template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs
     : kernel<with_integer<double>, Block, Rare> {
     static constexpr double spare = 1.0;
 
-    template <int W>
-    static ORVANE_INLINE auto vector_path(const dpown_block& c, lanes<double, W> x, lanes<int32_t, W> n) {
+    template <int W> static ORVANE_INLINE auto prepare(const dpown_block& c, lanes<double, W> x, lanes<int32_t, W>) {
         auto ax = x & c.abs_mask;
         auto hw = words_in_place<int32_t>(ax);
         auto m = (ax & c.mant_mask) | c.one;
@@ -98,7 +97,12 @@ template <class Front, const auto& Block, auto& Rare> struct pown_in_pairs
         auto u = u0 + ulo;
         auto p = horner(u, c.lp5, c.lp4, c.lp3, c.lp2, c.lp1, c.lp0, lo);
         auto L1 = S2 + p;
-        auto llo = p - (L1 - S2);
+        return results{L1, p - (L1 - S2)};
+    }
+    template <int W> static ORVANE_INLINE auto vector_path(const dpown_block& c, lanes<double, W> x,
+                                                           lanes<int32_t, W> n, auto logarithm) {
+        auto [L1, llo] = logarithm;
+        auto hw = words_in_place<int32_t>(x & c.abs_mask);
         auto L1h = L1 & c.split_mask;
         auto L1l = L1 - L1h;
 
