@@ -1,5 +1,5 @@
-// What fast tiers give for special arguments: where that is not what the default tier gives, tools/special_values.h says
-// so, and with it orvane.h and exports.json; here it is searched.
+// What fast tiers give for special arguments: where that is not what the default tier gives, tools/special_values.h
+// says so, and with it orvane.h and exports.json; here it is searched.
 #include "support.h"
 #include "tools/special_values.h"
 
@@ -41,10 +41,39 @@ words edges(lane_type t) {
     const double largest = wide ? 0x1.fffffffffffffp1023 : 0x1.fffffep127;
     words w;
     for (double sign : {1.0, -1.0})
-        for (double x : {0.0, unit, 3 * unit, smallest / 16, smallest - unit, smallest, smallest * 16, 1e-25, 0.25, 0.5,
-                         1 - (wide ? 0x1p-53 : 0x1p-24), 1.0, 1 + (wide ? 0x1p-52 : 0x1p-23), 1.5, 2.0, 3.0, 10.0,
-                         38.0, 45.0, 90.0, 104.0, 310.0, 323.0, 710.0, 745.0, 750.0, 1030.0, 1074.0, 1e5, 1e30,
-                         largest, (double)INFINITY, (double)NAN})
+        for (double x : {0.0,
+                         unit,
+                         3 * unit,
+                         smallest / 16,
+                         smallest - unit,
+                         smallest,
+                         smallest * 16,
+                         1e-25,
+                         0.25,
+                         0.5,
+                         1 - (wide ? 0x1p-53 : 0x1p-24),
+                         1.0,
+                         1 + (wide ? 0x1p-52 : 0x1p-23),
+                         1.5,
+                         2.0,
+                         3.0,
+                         10.0,
+                         38.0,
+                         45.0,
+                         90.0,
+                         104.0,
+                         310.0,
+                         323.0,
+                         710.0,
+                         745.0,
+                         750.0,
+                         1030.0,
+                         1074.0,
+                         1e5,
+                         1e30,
+                         largest,
+                         (double)INFINITY,
+                         (double)NAN})
             w.push_back(word_of(t, sign * x));
     return w;
 }
@@ -72,7 +101,8 @@ std::string differences(const kernel_row& row) {
     std::set<std::string> right;
     for (size_t j = 0; j < fast.size(); j++)
         for (size_t i = 0; i < a[0].size(); i++) {
-            std::string kinds = (j ? "in result " + std::to_string(j + 1) + " " : "") + kind_of(row.argument(0), a[0][i]);
+            std::string kinds =
+                (j ? "in result " + std::to_string(j + 1) + " " : "") + kind_of(row.argument(0), a[0][i]);
             for (size_t k = 1; k < a.size(); k++)
                 kinds += " with " + kind_of(row.argument(k), a[k][i]);
             const lane_type t = row.result(j);
