@@ -6,7 +6,7 @@ namespace orvane {
 namespace {
 
 template <class T, class Exp> int expm1_rare(T v, T* result, T largest, Exp exp_of) {
-    if (v < 0) {
+    if (__builtin_isless(v, T(0))) { // a NaN raises no flag
         *result = T(-1);
         return ordinary;
     }

@@ -77,8 +77,8 @@ template <class T> T no_remainder() { return sizeof(T) == 4 ? invalid<T> : inval
 
 template <class T> int remquo_rare(const T* x, const T* y, T* result, int32_t* out) {
     *out = 0;
-    if (is_nan(*x)) return *result = *x * T(1.7), ordinary;
-    if (is_nan(*y)) return *result = *y * T(1.7), ordinary;
+    if (is_nan(*x)) return *result = *x * T(1.0), ordinary;
+    if (is_nan(*y)) return *result = *y * T(1.0), ordinary;
     const T A = magnitude(*x), Y = magnitude(*y);
     if (Y == 0) return *result = no_remainder<T>(), domain_error;
     if (is_infinite(A)) return *result = no_remainder<T>(), ordinary;

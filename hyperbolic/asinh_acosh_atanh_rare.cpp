@@ -13,7 +13,7 @@ template <class T> int asinh_rare(T x, T* result) {
     return ordinary;
 }
 template <class T> int acosh_rare(T x, T* result) {
-    if (x < 1) {
+    if (__builtin_isless(x, T(1))) { // a NaN raises no flag
         *result = no_result<T>;
         return domain_error;
     }

@@ -2,8 +2,6 @@
 #include "exp/exp_rare.h"
 #include "hyperbolic/hyperbolic_tables.h"
 
-#include <limits>
-
 namespace orvane {
 
 namespace {
@@ -21,7 +19,7 @@ double half_exp(double ax) {
 
 template <class T> int sinh_rare(T x, T* result) {
     const T ax = magnitude(x);
-    if (!(ax <= std::numeric_limits<T>::max())) {
+    if (biased_exponent(x) == top_exponent<T>) {
         *result = x + x;
         return ordinary;
     }
@@ -31,7 +29,7 @@ template <class T> int sinh_rare(T x, T* result) {
 }
 template <class T> int cosh_rare(T x, T* result) {
     const T ax = magnitude(x);
-    if (!(ax <= std::numeric_limits<T>::max())) {
+    if (biased_exponent(x) == top_exponent<T>) {
         *result = x * x;
         return ordinary;
     }

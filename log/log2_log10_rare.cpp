@@ -71,7 +71,7 @@ ORVANE_SLOW_PATH(__orvane_dlog2_cout_rare, const double* x, double* result) {
             *result = -__builtin_inf();
             return pole;
         }
-        if (v0 < 0) {
+        if (__builtin_isless(v0, 0.0)) { // a NaN raises no flag
             *result = invalid<double>;
             return domain_error;
         }

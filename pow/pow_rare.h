@@ -183,6 +183,9 @@ template <class Head, class Finish, class T> scalar_power<T> power(T x, const ex
     return {sgn * tiny, underflow};
 }
 
+// What 0 / 0 gives, without its flag: for a quiet NaN.
+template <class T> constexpr T no_number = -invalid<T>;
+
 // x^y in all its cases, with the parity of y; what is left of them goes to the general algorithm.
 template <class T, class General> int power_by_cases(T x, T y, parity p, T* result, General general) {
     constexpr auto& t = power_format<T>::tables;

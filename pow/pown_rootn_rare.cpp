@@ -9,19 +9,19 @@ namespace {
 parity parity_of_integer(int n) { return n & 1 ? odd : even; }
 
 template <class T> int rootn_rare(T x, int n, T* result) {
-    const T nf = T(n), rn = T(1) / nf;
     auto settled = [=](T value) {
         *result = value;
         return ordinary;
     };
     const bool is_even = !(n & 1);
+    const T ax = magnitude(x), sgn = is_negative(x) ? T(-1) : T(1);
+    if (is_nan(x)) return settled(n == 0 || (is_even && is_negative(x)) ? no_number<T> : ax + ax);
     if (n == 0) return settled(invalid_operation<T>());
     if (is_even && x == 0) return settled(n < 0 ? T(__builtin_inf()) : T(0));
     if (!is_even && (x == 0 || is_infinite(x))) return settled(n > 0 ? x : T(1) / x);
     if (is_negative(x) && is_even) return settled(invalid_operation<T>());
-    const T ax = magnitude(x), sgn = is_negative(x) ? T(-1) : T(1);
     if (ax == 1) return settled(sgn);
-    if (is_nan(x)) return settled((ax + (sizeof(T) == 8 ? rn : nf)) * sgn);
+    const T nf = T(n), rn = T(1) / nf;
     if (is_infinite(x)) return settled(rn < 0 ? T(0) : rn * (x * x));
     // 1/n as yh + yl: e = 1 - n yh is exact, and 1/n = yh / (1 - e).
     const T yh = split(rn).hi, e = T(1) - nf * yh, yl = ((T(1) + e) * e) * yh;
@@ -36,6 +36,7 @@ ORVANE_SLOW_PATH(__orvane_dpown_cout_rare, const double* x, const int* n, double
                           [=](double sgn) { return power<leading_head, joined_finish>(*x, parts_of(y), sgn).value; });
 }
 ORVANE_SLOW_PATH(__orvane_spown_cout_rare, const float* x, const int* n, float* result) {
+    if (is_nan(*x) && *n) return *result = *x + *x, ordinary; // the conversion of n would raise inexact
     const float y = (float)*n;
     return power_by_cases(*x, y, parity_of_integer(*n), result, [=](float sgn) {
         // n = y + rest; the conversion of 2^31 back to an integer gives -2^31, and the difference wraps.

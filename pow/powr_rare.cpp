@@ -12,10 +12,11 @@ template <class T> int powr_rare(T x, T y, T* result) {
         *result = value;
         return status;
     };
-    if (is_nan(x) || (x == infinity && y == 0)) return settled(invalid_operation<T>());
+    const auto none = [=] { return is_nan(y) || is_nan(x) ? no_number<T> : invalid_operation<T>(); };
+    if (is_nan(x) || (x == infinity && y == 0)) return settled(none());
     if (x == 0 && !is_nan(y)) return settled(y == 0 ? invalid_operation<T>() : y > 0 ? T(0) : infinity);
-    if (x == 1) return settled(is_nan(y) || is_infinite(y) ? invalid_operation<T>() : T(1));
-    if (is_negative(x)) return settled(invalid_operation<T>(), domain_error);
+    if (x == 1) return settled(is_nan(y) || is_infinite(y) ? none() : T(1));
+    if (is_negative(x)) return settled(none(), domain_error);
     if (y == 0) return settled(T(1));
     if (is_nan(y)) return settled(x + y);
     if (is_infinite(x) || is_infinite(y)) {

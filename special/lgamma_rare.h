@@ -22,13 +22,14 @@ template <class T> bool is_integer(T x) { return x <= -whole_numbers<T> || x == 
 // The sign of gamma(x): of its pole at a zero, -1 where the integer above a negative x is even, else +1.
 template <class T> int sign_of_gamma(T x) {
     if (x == 0) return std::signbit(x) ? -1 : 1;
-    return x < 0 && !is_integer(x) && int64_t(x) % 2 == 0 ? -1 : 1; // the conversion is toward zero
+    return __builtin_isless(x, T(0)) && !is_integer(x) && int64_t(x) % 2 == 0 ? -1
+                                                                              : 1; // the conversion is toward zero
 }
 
 // Handles the arguments that need no formula: NaN and infinities, zeros and negative integers (the poles), and x
 // above `above`, where the result overflows. Returns true with result and status set; false for all others.
 template <class T> bool no_log_gamma(T x, T above, T* result, int* status) {
-    if (!(std::fabs(x) <= std::numeric_limits<T>::max())) *result = x * x, *status = ordinary;
+    if (!__builtin_islessequal(std::fabs(x), std::numeric_limits<T>::max())) *result = x * x, *status = ordinary;
     else if (x > above) *result = std::numeric_limits<T>::max() * std::numeric_limits<T>::max(), *status = overflow;
     else if (x == 0 || (x < 0 && is_integer(x))) *result = 1 / T(0), *status = pole;
     else return false;

@@ -34,10 +34,10 @@ template <class T> [[gnu::noinline]] int tgamma_rare(const T* argument, T* resul
     using V = typename c::working;
     using word = decltype(bits(T()));
     const T x = *argument;
-    const bool negative = x < 0;
+    const bool negative = __builtin_isless(x, T(0)); // a NaN raises no flag
     const T A = negative ? -x : x;
 
-    if (!(A < std::bit_cast<T>(c::infinity))) {
+    if (!__builtin_isless(A, std::bit_cast<T>(c::infinity))) {
         *result = negative ? std::bit_cast<T>(c::quiet_nan) : x + x;
         return negative ? domain_error : ordinary;
     }

@@ -207,6 +207,37 @@ TEST(Json, TellsWhatABuiltInBecomes) {
     EXPECT_EQ(serving.count("builtinhalf_sin(double8)"), 0u);
 }
 
+// What calls may change is told to the compiler by call.hpp: everything that the list names.
+TEST(Caller, ToldTheCompilerWhatCallsChange) {
+    const std::string text = contents_of(ORVANE_SOURCES "/include/orvane/call.hpp");
+    auto told = [&](const std::string& function) {
+        const auto from = text.find("inline void " + function);
+        std::string s = text.substr(from, text.find(");\n", text.find("asm volatile", from)) - from);
+        for (const std::string macro : {"ORVANE_X87", "ORVANE_XMM_8_TO_15"}) {
+            const auto at = text.find("#define " + macro) + 9 + macro.size();
+            if (s.find(" " + macro) != s.npos) s += text.substr(at, text.find("\n", at) - at);
+        }
+        return s;
+    };
+    const std::map<std::string, std::string> in_operands = {
+        {"rdi", "\"+D\""}, {"rsi", "\"+S\""}, {"rax", "\"=&a\""}, {"rcx", "\"+c\""}, {"rdx", "\"+d\""}};
+    const std::string forms[] = {told("call_in_registers"), told("call_in_memory")};
+    for (const json& e : json::parse(contents_of(ORVANE_SOURCES "/include/orvane/exports.json"))) {
+        const std::string& form = forms[e["form"] == "memory"];
+        for (const std::string r : e["clobbered"]) {
+            auto is_told = [&](const std::string& s) { return form.find(s) != form.npos; };
+            const auto named = "\"" +
+                               (r[0] == 'y'   ? "x" + r.substr(1)
+                                : r == "st0"  ? "st"
+                                : r[0] == 's' ? "st(" + r.substr(2) + ")"
+                                              : r) +
+                               "\"";
+            EXPECT_TRUE(is_told(named) || (in_operands.contains(r) && is_told(in_operands.at(r))))
+                << e["symbol"] << ": " << r;
+        }
+    }
+}
+
 // The header-only caller, with the types of every class of the list.
 template <class T, int W> vec<T, W> lanes_as(const words& w) {
     vec<T, W> v;

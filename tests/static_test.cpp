@@ -1,5 +1,8 @@
 // What the finished library may not contain, read off its file and its machine code.
 #include "machine_code.h"
+#include "tools/whole_file.h"
+
+#include <nlohmann/json.hpp>
 
 using namespace orvane;
 
@@ -124,6 +127,36 @@ TEST_P(Code, UpperRegistersAreKept) {
         }
         EXPECT_EQ(saved, restored) << f.name;
         EXPECT_TRUE(saved == 0 || saved == 8) << f.name;
+    }
+}
+
+// exports.json lists the x87 registers as changed where a slow path, with all that it calls, uses that unit.
+TEST(Clobbered, ListsTheX87WhereASlowPathUsesIt) {
+    const binary b(library_under_test());
+    std::map<uint64_t, const object::entry*> functions;
+    for (const auto& f : b.in.symbols())
+        if (f.is_function) functions[f.value] = &f;
+    auto uses_x87 = [&](uint64_t from) {
+        std::set<uint64_t> seen, next{from};
+        while (!next.empty()) {
+            const uint64_t at = *next.begin();
+            next.erase(at);
+            if (!functions.contains(at) || !seen.insert(at).second) continue;
+            for (const auto& [where, i] : b.code(*functions[at]))
+                if (i.what.meta.isa_set == ZYDIS_ISA_SET_X87) return true;
+            next.merge(references_of(b, *functions[at]).code);
+        }
+        return false;
+    };
+    std::map<std::string, bool> by_slow_path;
+    for (const auto& f : b.in.symbols())
+        if (f.name.ends_with("_cout_rare")) by_slow_path[f.name] = uses_x87(f.value);
+    for (const auto& e : nlohmann::json::parse(contents_of(ORVANE_SOURCES "/include/orvane/exports.json"))) {
+        const auto* row = find_row(library_rows(), std::string(e["family"]), std::string(e["tier"]));
+        ASSERT_NE(row, nullptr);
+        const auto listed = std::count_if(e["clobbered"].begin(), e["clobbered"].end(),
+                                          [](const std::string& r) { return r.starts_with("st"); });
+        EXPECT_EQ(listed, row->has_slow_path() && by_slow_path.at(row->slow_path_symbol()) ? 8 : 0) << e["symbol"];
     }
 }
 

@@ -3,6 +3,7 @@
 //     write-exports FOLDER
 #include "opencl_limits.h"
 #include "signature.h"
+#include "special_values.h"
 #include "whole_file.h"
 #include "worst_cases.h"
 
@@ -113,6 +114,8 @@ json object_of(const kernel_row& row, int width, const std::vector<worst_case>& 
     const json builtin = row.builtin.empty() ? json() : json(row.served_builtin(width));
     j["builtin"] = row.is_relaxed() ? json() : builtin;
     j["relaxed_builtin"] = row.is_relaxed() ? builtin : json();
+    const auto special = special_values_of(row);
+    j["special_values"] = special.empty() ? json() : json(special);
     j["error"] = described(largest_known_error(row, cases));
     j["opencl_limit"] = described(limit_of(row));
     return j;
@@ -210,9 +213,11 @@ std::string accuracy_line(const kernel_row& row, const std::vector<worst_case>& 
     snprintf(error, sizeof error, e.error < 1000 ? "%.3g %s" : "%.0f %s", e.error,
              std::string(to_string(e.measure)).c_str());
     const auto limit = limit_of(row);
+    const auto special = special_values_of(row);
     return "/* " + std::string(row.name) + " " + std::string(row.tier) + ": " +
            (e.error ? "largest known error " + std::string(error) : "exact") +
-           (limit ? "; OpenCL C allows " + limit->text() : "") + ". */\n";
+           (limit ? "; OpenCL C allows " + limit->text() : "") +
+           (special.empty() ? "" : "; unlike the default tier " + std::string(special)) + ". */\n";
 }
 
 std::string header(const std::vector<worst_case>& cases) {
@@ -225,6 +230,9 @@ std::string header(const std::vector<worst_case>& cases) {
  *
  * Every call keeps rbx, rbp, rsp, r12 to r15; a register-form call also vector registers 8 to 15, all 256 bits, and rdi
  * and rsi unless an argument travels there. A compiler that calls through this header need not know.
+ *
+ * A family's text tells what special arguments (zeros, infinities, NaN, subnormal and negative numbers) give, in every
+ * tier: where a fast tier gives something else than the default one, the line of the tier says of what.
  *
  * lgamma, lgammaf, lgammar, lgammarf and tgamma compute on the x87 unit: its register stack must be empty at the call (emms
  * after MMX code) and is empty again at the return. The double ones set significands of 64 bits in its control word and put

@@ -8,6 +8,9 @@
  * Every call keeps rbx, rbp, rsp, r12 to r15; a register-form call also vector registers 8 to 15, all 256 bits, and rdi
  * and rsi unless an argument travels there. A compiler that calls through this header need not know.
  *
+ * A family's text tells what special arguments (zeros, infinities, NaN, subnormal and negative numbers) give, in every
+ * tier: where a fast tier gives something else than the default one, the line of the tier says of what.
+ *
  * lgamma, lgammaf, lgammar, lgammarf and tgamma compute on the x87 unit: its register stack must be empty at the call (emms
  * after MMX code) and is empty again at the return. The double ones set significands of 64 bits in its control word and put
  * the caller's word back; the float ones count on them, which is the default. All compute under its rounding mode. */
@@ -741,7 +744,7 @@ orvane_float4 __orvane_l9_invf4_half(orvane_float4 x);
 orvane_float8 __orvane_l9_invf8_half(orvane_float8 x);
 void __orvane_l9_invf16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
-/* sqrt: Square root. NaN of negative numbers; zeros come back as they are. The native tier of float gives NaN of zeros and +Inf, and +Inf of positive subnormal numbers. */
+/* sqrt: Square root. NaN of negative numbers; zeros come back as they are. */
 /* sqrt default: largest known error 0.5 ulp; OpenCL C allows 0.5 ulp. */
 orvane_double2 __orvane_l9_sqrt1(orvane_double2 x);
 orvane_double2 __orvane_l9_sqrt2(orvane_double2 x);
@@ -764,7 +767,7 @@ orvane_double4 __orvane_l9_sqrt4_half(orvane_double4 x);
 void __orvane_l9_sqrt8_half(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 void __orvane_l9_sqrt16_half(void) ORVANE_NOT_C; /* in ymm0 ymm1 ymm2 ymm3; out ymm0 ymm1 ymm2 ymm3 */
 
-/* sqrtf: Square root. NaN of negative numbers; zeros come back as they are. The native tier of float gives NaN of zeros and +Inf, and +Inf of positive subnormal numbers. */
+/* sqrtf: Square root. NaN of negative numbers; zeros come back as they are. */
 /* sqrtf default: largest known error 0.5 ulp; OpenCL C allows 3 ulp. */
 orvane_float4 __orvane_l9_sqrtf1(orvane_float4 x);
 orvane_float4 __orvane_l9_sqrtf2(orvane_float4 x);
@@ -772,7 +775,7 @@ orvane_float4 __orvane_l9_sqrtf3(orvane_float4 x);
 orvane_float4 __orvane_l9_sqrtf4(orvane_float4 x);
 orvane_float8 __orvane_l9_sqrtf8(orvane_float8 x);
 void __orvane_l9_sqrtf16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
-/* sqrtf native: largest known error 4156 ulp. */
+/* sqrtf native: largest known error 4156 ulp; unlike the default tier NaN of +0, +Inf, -0; +Inf of positive subnormal numbers, negative subnormal numbers. */
 orvane_float4 __orvane_l9_sqrtf1_native(orvane_float4 x);
 orvane_float4 __orvane_l9_sqrtf2_native(orvane_float4 x);
 orvane_float4 __orvane_l9_sqrtf3_native(orvane_float4 x);
