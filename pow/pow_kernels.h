@@ -68,10 +68,16 @@ template <const auto& Block, auto& Rare> struct pow_in_pairs : kernel<two_argume
 
 // ln x in plain double: x = 2^n z', r an integer near 1 / z with z = z' 2^-10 (or 2^-9), u = r z - 1 exact, and the
 // entry of r, 0 at both ends so that little is lost around 1.
-template <int Degree, int W> ORVANE_INLINE lanes<double, W> reduced_ln(const auto& c, lanes<double, W> x) {
+template <int W> struct ln_reduction { lanes<double, W> r, u; };
+template <int W> ORVANE_INLINE ln_reduction<W> reduce_for_ln(const auto& c, lanes<double, W> x) {
     auto z = (x & c.mant_mask) | c.z_exponent;
     auto r = round_to<to_nearest>(reciprocal_estimate(z)); // 512 to 1024
     auto u = fma(r, z, -lanes<double, W>(c.one));
+    return {r, u};
+}
+template <int Degree, int W>
+ORVANE_INLINE lanes<double, W> reduced_ln(const auto& c, lanes<double, W> x, ln_reduction<W> reduced) {
+    auto [r, u] = reduced;
     auto T = single_of_bits<40, 0x408000>(c.ln_tab, r);
     auto bias = keep(r > c.r_split, lanes<double, W>(c.bias_hi)) | c.bias_lo; // the patterns differ in one bit
     auto Nl = (biased_exponent(x) - bias) * c.ln2;
@@ -80,6 +86,9 @@ template <int Degree, int W> ORVANE_INLINE lanes<double, W> reduced_ln(const aut
     else pl = horner(u, c.ln_a3, c.ln_a2);
     auto l = (u * u) * pl + u;
     return Nl + (T + l);
+}
+template <int Degree, int W> ORVANE_INLINE lanes<double, W> reduced_ln(const auto& c, lanes<double, W> x) {
+    return reduced_ln<Degree>(c, x, reduce_for_ln(c, x));
 }
 // e^P = 2^(N/2048) along the chord of 2^x between N/2048 and the next, N = floor(2048 P / ln 2).
 template <int W> ORVANE_INLINE lanes<double, W> chord_exp(const auto& c, lanes<double, W> P) {

@@ -8,29 +8,28 @@ ORVANE_SLOW_PATH(__orvane_spow_cout_rare, const float* x, const float* y, float*
 // The reduced double kernel on widened lanes, with a shorter polynomial. Overflow and underflow come from the
 // narrowing.
 struct powf_in_double : kernel<two_arguments<float>, __orvane_spow_data, __orvane_spow_cout_rare> {
-    template <int W> struct widened {
-        lanes<float, W> y;
-        lane_bits<W> special;
-    };
-    template <int W>
-    static ORVANE_INLINE widened<W> power(const spow_block& c, lanes<float, W> x, lanes<float, W> y) {
-        auto P = convert<double>(y) * reduced_ln<3>(c, convert<double>(x));
-        lane_bits<W> beyond = high_word_exceeds(P, c.word_abs2, c.p_word_limit2);
-        return {convert<float>(chord_exp(c, P)), beyond};
+    template <int W> static ORVANE_INLINE lane_bits<W> too_large(const spow_block& c, lanes<double, W> P) {
+        return high_word_exceeds(P, c.word_abs2, c.p_word_limit2);
     }
     template <int W>
     static ORVANE_INLINE auto vector_path(const spow_block& c, lanes<float, W> x, lanes<float, W> y) {
         lane_bits<W> special = pattern_out_of_range(x, c.x_bias, c.x_limit);
         if constexpr (W == 8) {
-            auto low = power(c, low_half(x), low_half(y));
-            low.y = finished(low.y);
-            auto high = power(c, high_half(x), high_half(y));
-            special.v |= low.special.v | high.special.v << 4;
-            return answer{join(low.y, high.y), special};
+            // The steps of both halves side by side, stage by stage: one chain after the other would wait for itself.
+            auto x_low = convert<double>(low_half(x)), x_high = convert<double>(high_half(x));
+            auto r_low = reduce_for_ln(c, x_low), r_high = reduce_for_ln(c, x_high);
+            r_low.u = finished(r_low.u), r_high.u = finished(r_high.u);
+            auto ln_low = finished(reduced_ln<3>(c, x_low, r_low)),
+                 ln_high = finished(reduced_ln<3>(c, x_high, r_high));
+            auto P_low = finished(convert<double>(low_half(y)) * ln_low);
+            auto P_high = finished(convert<double>(high_half(y)) * ln_high);
+            special.v |= too_large(c, P_low).v | too_large(c, P_high).v << 4;
+            auto low = chord_exp(c, P_low), high = chord_exp(c, P_high);
+            return answer{join(convert<float>(low), convert<float>(high)), special};
         } else {
-            auto p = power(c, x, y);
-            special.v |= p.special.v;
-            return answer{p.y, special};
+            auto P = convert<double>(y) * reduced_ln<3>(c, convert<double>(x));
+            special.v |= too_large(c, P).v;
+            return answer{convert<float>(chord_exp(c, P)), special};
         }
     }
 };
