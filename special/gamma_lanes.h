@@ -97,10 +97,16 @@ template <class Row, int W> ORVANE_INLINE hi_lo_lanes<W> sine_of(const Row& c, l
     return times(hi_lo_lanes<W>{v0.h, fma(slope, z_low, v0.l)}, r);
 }
 
-// Both ends of the margin E around h + l, rounded: the result where they agree.
+// Both ends of the margin E, of either sign, around h + l, rounded: the result where they agree.
 template <int W> ORVANE_INLINE auto rounding_test(hi_lo_lanes<W> v, lanes<double, W> E) {
     auto y = v.h + (v.l + E);
     return answer{y, y != v.h + (v.l - E)};
+}
+
+// Whether every lane is marked.
+template <class T, int W> ORVANE_INLINE bool all(lanes<T, W> m) {
+    constexpr unsigned live = (1u << W) - 1;
+    return (m.signs() & live) == live;
 }
 
 // The sign of gamma(x): of its pole at a zero, -1 where the integer below a negative |x| is even, else +1.
@@ -113,6 +119,35 @@ template <class T, int W> ORVANE_INLINE auto sign_of_gamma(lanes<T, W> x) {
     auto minus = keep((x < V(T(0))) & (F != A) & (A < V(whole)), ~signed_bits(as<T>(odd))) |
                  keep(x == V(T(0)), signed_bits(x));
     return minus;
+}
+
+// What needs no formula of log gamma: NaN, infinities, zeros, negative integers and overflow.
+template <class T, int W, class A> ORVANE_INLINE A settle_log_gamma(const auto& c, lanes<T, W> x, A a) {
+    using V = lanes<T, W>;
+    auto no_number = not_less(andnot(V(T(-0.0)), x), V(c.inf));
+    auto is_pole = (x <= V(T(0))) & (round_to<downward>(x) == x);
+    auto infinite = is_pole | (x > c.overflow_bound);
+    auto n = select(no_number, x, V(T(1))); // a product of others would take its time where it underflows
+    a.first = select(no_number, n * n, select(infinite, c.inf, a.first));
+    a.special = andnot(no_number | infinite, a.special);
+    return a;
+}
+// What needs no formula of gamma: NaN, poles, overflow and underflow, whose zeros have gamma's sign.
+template <class T, int W, class Answer> ORVANE_INLINE Answer settle_gamma(const auto& c, lanes<T, W> x, Answer a) {
+    using V = lanes<T, W>;
+    constexpr T whole = sizeof(T) == 8 ? T(0x1p52) : T(0x1p23);
+    auto A = andnot(V(T(-0.0)), x);
+    auto F = round_to<downward>(A);
+    auto is_pole = (x < V(T(0))) & (F == A);
+    auto over = (x >= V(c.overflow_bound)) | (A <= V(c.pole_side));
+    auto under = (x < V(c.zero_bound)) & ~is_pole;
+    auto odd = as<T>(bits(F + V(whole)) << (8 * sizeof(T) - 1));
+    auto y = select(over, V(c.inf) | (x & V(T(-0.0))), a.first);
+    y = select(under, andnot(odd, V(T(-0.0))), y);
+    y = select(is_pole, c.quiet_nan, y);
+    a.first = select(is_nan(x), x + x, y);
+    a.special = andnot(over | under | is_pole | is_nan(x), a.special);
+    return a;
 }
 
 } // namespace orvane

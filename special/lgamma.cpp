@@ -30,7 +30,7 @@ struct dlgamma_block {
     TABLE(420, sine, lgamma_sine)
     SLOT(uint64_t, 422, half_step, 0x0000800000000000)
     SLOT(uint64_t, 423, first_point, (1023 - 3) << 4)
-    SLOT(uint64_t, 424, last_point, 191)
+    SLOT(int64_t, 424, last_point, 191)
     SLOT(double, 425, point_mask, 0xFFFF000000000000)
     SLOT(double, 426, abs_mask, 0x7FFFFFFFFFFFFFFF)
     // Behind the branch.
@@ -77,10 +77,8 @@ template <class Signature, auto& Rare> struct dlgamma_kernel : kernel<Signature,
         return bits(x) + c.half_step;
     }
     template <int W> static ORVANE_INLINE auto beyond(const dlgamma_block& c, lanes<double, W> x) {
-        // Below the last point the high word is 0, and above it not; as words the upper ones are equal or both count.
-        auto k = (rounded_bits(c, x) >> 48) - c.first_point;
-        auto within = min(words_in_place<uint32_t>(k), words_in_place<uint32_t>(lanes<uint64_t, W>(c.last_point)));
-        return signed_bits(k != lanes<uint64_t, W>((typename lanes<uint64_t, W>::raw)within.v));
+        auto k = signed_bits((rounded_bits(c, x) >> 48) - c.first_point);
+        return (k > lanes<int64_t, W>(c.last_point)) | k; // its sign
     }
     template <int W> static ORVANE_INLINE auto vector_path(const dlgamma_block& c, lanes<double, W> x) {
         auto b = rounded_bits(c, x);
@@ -88,7 +86,7 @@ template <class Signature, auto& Rare> struct dlgamma_kernel : kernel<Signature,
         auto u = x - (as<double>(b) & c.point_mask);
         lanes<double, W> margin;
         auto v = polynomial_at<true>(row_addresses<W>(&c.grid, k << 7), u, &margin);
-        auto tested = rounding_test(v, (v.h * margin) & c.abs_mask);
+        auto tested = rounding_test(v, v.h * margin);
         return with_sign(x, tested.first, tested.special, true);
     }
 
@@ -111,6 +109,7 @@ template <class Signature, auto& Rare> struct dlgamma_kernel : kernel<Signature,
         auto whole = round_to<downward>(A) == A;
         auto special =
             not_less(A, select(negative, V(c.large), c.largest)) | (A < V(c.smallest)) | (negative & whole);
+        if (all(special)) return with_sign(x, x, special, true); // settle gives the signs
         A = select(special, c.safe, A);
         auto large = A >= c.large, tiny = A < V(c.eighth);
 
@@ -158,16 +157,11 @@ template <class Signature, auto& Rare> struct dlgamma_kernel : kernel<Signature,
         }
         auto own = select(negative, V(0.0), select(by_one, c.margin, margin));
         auto tested = rounding_test(y, fma(y.h & c.abs_mask, own, E));
-        special = special | tested.special;
-        if (!special.signs()) return with_sign(x, tested.first, special, false);
-
-        // NaN, infinities, zeros, negative integers and overflow need no formula.
-        auto result = tested.first;
-        auto no_number = not_less(x & c.abs_mask, V(c.inf));
-        auto infinite = (x > c.overflow_bound) | (x == V(0.0)) | (negative & whole);
-        result = select(no_number, x * x, select(infinite, c.inf, result));
-        special = andnot(no_number | infinite, special);
-        return with_sign(x, result, special, false);
+        return with_sign(x, tested.first, special | tested.special, false);
+    }
+    template <int W> static ORVANE_INLINE auto settle(const dlgamma_block& c, lanes<double, W> x, auto a) {
+        if constexpr (Signature::has_out) a.second = with_sign(x, a.first, a.special, false).second;
+        return settle_log_gamma(c, x, a);
     }
 };
 using dlgamma_values = dlgamma_kernel<one_argument<double>, __orvane_dlgamma_cout_rare>;

@@ -50,7 +50,7 @@ struct slgamma_block {
     SLOT(float, 342, overflow_bound, 0x7C44AF8D)
     SLOT(float, 343, inf, 0x7F800000)
     SLOT(float, 344, minus_large_f, 0xC6000000)
-    SLOT(float, 345, minus_whole, 0xCB000000) // -2^23
+    SLOT(float, 345, one_f, 0x3F800000)
     SLOT(double, 346, sin_0, bits(lgammaf_pieces::lg_sin[0]))
     SLOT(double, 347, sin_1, bits(lgammaf_pieces::lg_sin[1]))
     SLOT(double, 348, sin_2, bits(lgammaf_pieces::lg_sin[2]))
@@ -59,6 +59,7 @@ struct slgamma_block {
     SLOT(double, 351, sin_5, bits(lgammaf_pieces::lg_sin[5]))
     SLOT(double, 352, sin_6, bits(lgammaf_pieces::lg_sin[6]))
     SLOT(double, 353, sin_7, bits(lgammaf_pieces::lg_sin[7]))
+    SLOT(float, 354, two_f, 0x40000000)
 };
 ORVANE_BLOCK(slgamma_block, __orvane_slgamma_data)
 ORVANE_BLOCK_TWIN(__orvane_slgammar_data, __orvane_slgamma_data)
@@ -70,7 +71,7 @@ template <int W> struct slgamma_wide {
     lanes<int32_t, W> in_doubt;
 
     ORVANE_INLINE slgamma_wide(const slgamma_block& c, lanes<float, W> x_f) {
-        // Log gamma(a) w + ln q lw + k, a in the cells; lanes that are none of this are in doubt.
+        // Log gamma(a) w + ln q lw + k, a in the cells.
         const V x = convert<double>(x_f), one = c.one;
         auto A = x & c.abs_mask;
         auto tiny = x < c.first_x, large = x >= c.large, negative = x < V(0.0), reflected = x <= c.minus_nine;
@@ -95,9 +96,7 @@ template <int W> struct slgamma_wide {
             w = select(reflected, V(-1.0), w);
             k = select(reflected, V(0.0) - S, k);
         }
-        auto out = (x <= c.minus_large) | (negative & (round_to<downward>(A) == A)) | (x == V(0.0)) |
-                   not_less(x, V(0x1p127));
-        a = select(out | large, one, a);
+        a = select(large, one, a);
 
         auto cell = a & c.cell_end_d;
         auto offset = ((bits(a) >> 48) - c.first_cell_d) << 6;
@@ -112,8 +111,8 @@ template <int W> struct slgamma_wide {
         y = convert<float>(v + E);
         auto doubt = y != convert<float>(v - E);
         // Next to a zero the slow path has polynomials of its own.
-        auto special = out | (negative & ((v & c.abs_mask) < c.near_zero));
-        in_doubt = signed_bits(low_words(special)) | doubt;
+        auto near_zero = negative & ((v & c.abs_mask) < c.near_zero);
+        in_doubt = signed_bits(low_words(near_zero)) | doubt;
     }
 };
 
@@ -140,25 +139,30 @@ template <class Signature, auto& Rare> struct slgamma_kernel : kernel<Signature,
         auto cell = (bits(x) >> 19) - c.first_cell;
         return signed_bits(cell != min(cell, lanes<uint32_t, W>(c.last_cell)));
     }
-    // Lanes outside of the cells; and what no formula is for: NaN, infinities, zeros, negative integers, overflow.
+    // Lanes outside of the cells.
     template <int W> static ORVANE_INLINE auto large_path(const slgamma_block& c, lanes<float, W> x) {
         using V = lanes<float, W>;
-        lanes<int32_t, W> special;
+        auto is_pole = (x <= V(0.0f)) & (round_to<downward>(x) == x);
+        auto special = (x <= c.minus_large_f) | is_pole | not_less_equal(x, V(c.overflow_bound));
+        if (all(special)) return with_sign(x, x, special, true); // settle gives the signs
+        auto inside = select(special, c.one_f, x);
         V y;
         if constexpr (W == 8) {
-            const slgamma_wide<4> low(c, low_half(x)), high(c, high_half(x));
-            y = join(low.y, high.y), special = join(low.in_doubt, high.in_doubt);
+            const slgamma_wide<4> low(c, low_half(inside)), high(c, high_half(inside));
+            y = join(low.y, high.y), special = special | join(low.in_doubt, high.in_doubt);
         } else {
-            const slgamma_wide<W> all(c, x);
-            y = all.y, special = all.in_doubt;
+            const slgamma_wide<W> all(c, inside);
+            y = all.y, special = special | all.in_doubt;
         }
-        if (!special.signs()) return with_sign(x, y, special, false);
-        auto A = andnot(V(-0.0f), x);
-        auto no_number = not_less(A, V(c.inf));
-        auto infinite = (x > c.overflow_bound) | (x == V(0.0f)) | ((x < V(0.0f)) & (round_to<toward_zero>(x) == x));
-        y = select(no_number, x * x, select(infinite, V(c.inf), y));
-        special = andnot(no_number | infinite, special);
         return with_sign(x, y, special, false);
+    }
+    // Beside what needs no formula 1 and 2, whose value is 0: its rounding hangs on the margin.
+    template <int W> static ORVANE_INLINE auto settle(const slgamma_block& c, lanes<float, W> x, auto a) {
+        if constexpr (Signature::has_out) a.second = with_sign(x, a.first, a.special, false).second;
+        auto zero = (x == c.one_f) | (x == c.two_f);
+        a.first = andnot(as<float>(zero), a.first);
+        a.special = andnot(zero, a.special);
+        return settle_log_gamma(c, x, a);
     }
 };
 using slgamma_values = slgamma_kernel<one_argument<float>, __orvane_slgamma_cout_rare>;

@@ -29,7 +29,7 @@ struct dtgamma_block {
     TABLE(0, eighths, tgamma_eighths)
     TABLE(368, sine, tgamma_sine)
     SLOT(double, 370, smallest, 0x0170000000000000) // 2^-1000
-    SLOT(double, 371, largest, bits(slow::over))
+    SLOT(double, 371, overflow_bound, bits(slow::over))
     SLOT(double, 372, one, 0x3FF0000000000000)
     SLOT(double, 373, two, 0x4000000000000000)
     SLOT(double, 374, eight, 0x4020000000000000)
@@ -91,7 +91,7 @@ struct dtgamma_kernel : kernel<one_argument<double>, __orvane_dtgamma_data, __or
 
     template <int W> static ORVANE_INLINE auto beyond(const dtgamma_block& c, lanes<double, W> x) {
         using V = lanes<double, W>;
-        return not_less(x, V(c.largest)) | (x < V(c.smallest));
+        return not_less(x, V(c.overflow_bound)) | (x < V(c.smallest));
     }
     template <int W> static ORVANE_INLINE auto vector_path(const dtgamma_block& c, lanes<double, W> x) {
         using V = lanes<double, W>;
@@ -105,7 +105,8 @@ struct dtgamma_kernel : kernel<one_argument<double>, __orvane_dtgamma_data, __or
         auto A = x & c.abs_mask;
         auto F = round_to<downward>(A);
         auto negative = x < V(0.0), is_pole = negative & (F == A);
-        auto special = not_less(A, select(negative, V(c.far), c.largest)) | (A < V(c.smallest)) | is_pole;
+        auto special = not_less(A, select(negative, V(c.far), c.overflow_bound)) | (A < V(c.smallest)) | is_pole;
+        if (all(special)) return answer{x, special};
         auto a = select(special, c.safe, A);
         V margin;
         auto g = gamma_of(c, a, margin);
@@ -121,20 +122,10 @@ struct dtgamma_kernel : kernel<one_argument<double>, __orvane_dtgamma_data, __or
         auto y = quotient<W>(c, {select(negative, sign, g.h), andnot(as<double>(negative), g.l)},
                              {select(negative, product.h, select(below_1, a, c.one)), keep(negative, product.l)});
         auto tested = rounding_test(y, y.h * (margin + keep(negative, V(c.reflection_margin))));
-        special = special | tested.special;
-        if (!special.signs()) return answer{tested.first, special};
-
-        // NaN, poles, overflow and underflow need no formula.
-        auto result = tested.first;
-        auto over = (x >= V(c.largest)) | (A <= V(c.pole_side));
-        auto under = (x < V(c.zero_bound)) & ~is_pole;
-        auto even = andnot(as<double>(bits(F + c.two52) << 63), V(-0.0));
-        result = select(over, V(c.inf) | (x & V(-0.0)), result);
-        result = select(under, even, result);
-        result = select(is_pole, c.quiet_nan, result);
-        result = select(is_nan(x), x + x, result);
-        special = andnot(over | under | is_pole | is_nan(x), special);
-        return answer{result, special};
+        return answer{tested.first, special | tested.special};
+    }
+    template <int W> static ORVANE_INLINE auto settle(const dtgamma_block& c, lanes<double, W> x, auto a) {
+        return settle_gamma(c, x, a);
     }
 };
 ORVANE_EXPORT(tgamma, , dtgamma_kernel)

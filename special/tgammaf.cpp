@@ -36,7 +36,7 @@ struct stgamma_block {
     SLOT(float, 286, zero_bound, bits(slow::neg_zero))
     SLOT(float, 287, inf, 0x7F800000)
     SLOT(float, 288, quiet_nan, 0x7FC00000)
-    SLOT(float, 289, whole, 0x4B000000) // 2^23
+    GAP(289, 289)
     SLOT(float, 290, one_f, 0x3F800000)
     SLOT(double, 291, s0, bits(slow::sp_c[0]))
     SLOT(double, 292, s1, bits(slow::sp_c[1]))
@@ -78,7 +78,7 @@ struct stgamma_kernel : kernel<one_argument<float>, __orvane_stgamma_data, __orv
             },
             x);
         auto y = narrowed([](auto v) ORVANE_LAMBDA { return v; }, v);
-        return answer{y, in_doubt<W>(c, v) | in_doubt<W>(c, v)};
+        return answer{y, in_doubt<W>(c, v)};
     }
 
     // gamma(x) for 2^-126 <= |x| < 35.
@@ -102,28 +102,16 @@ struct stgamma_kernel : kernel<one_argument<float>, __orvane_stgamma_data, __orv
     template <int W> static ORVANE_INLINE auto large_path(const stgamma_block& c, lanes<float, W> x) {
         using V = lanes<float, W>;
         auto A = x & c.abs_mask_f;
-        auto F = round_to<downward>(A);
-        auto negative = x < V(0.0f);
-        auto is_pole = negative & (F == A);
-        auto no_number = is_nan(x) | is_pole; // -inf too
-        auto far = not_less(A, V(c.end)), tiny = not_less(V(c.smallest_f), A);
-        auto special = far | tiny | is_pole;
+        auto is_pole = (x < V(0.0f)) & (round_to<downward>(A) == A);
+        auto special = not_less(A, V(c.end)) | not_less(V(c.smallest_f), A) | is_pole;
+        if (all(special)) return answer{x, special};
         auto inside = select(special, V(c.one_f), x);
         auto v = widened([&](auto x) ORVANE_LAMBDA { return reflected(c, convert<double>(x)); }, inside);
         auto y = narrowed([](auto v) ORVANE_LAMBDA { return v; }, v);
-        special = special | in_doubt<W>(c, v) | ((y & c.abs_mask_f) <= V(c.smallest_f));
-
-        if (!special.signs()) return answer{y, special};
-        // Poles, overflow and underflow need no formula.
-        auto over = as<int32_t>(signed_bits(x >= V(c.overflow_bound))) | (A <= V(c.pole_side));
-        auto under = (x < V(c.zero_bound)) & (F != A);
-        auto even = bits(F + c.whole) << 31 ^ lanes<uint32_t, W>(0x80000000);
-        y = select(over, V(c.inf) | (x & V(-0.0f)), y);
-        y = select(under, as<float>(even), y);
-        y = select(is_pole, V(c.quiet_nan), y);
-        y = select(is_nan(x), x + x, y);
-        special = andnot(over | under | no_number, special);
-        return answer{y, special};
+        return answer{y, special | in_doubt<W>(c, v) | ((y & c.abs_mask_f) <= V(c.smallest_f))};
+    }
+    template <int W> static ORVANE_INLINE auto settle(const stgamma_block& c, lanes<float, W> x, auto a) {
+        return settle_gamma(c, x, a);
     }
 };
 ORVANE_EXPORT(tgammaf, , stgamma_kernel)
