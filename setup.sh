@@ -6,7 +6,8 @@ cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 # The library needs cmake, ninja-build and g++; the rest serves tools, tests and benchmarks.
 packages=(cmake ninja-build g++ pkg-config
     libmpfr-dev libgtest-dev libbenchmark-dev libsleef-dev libcli11-dev nlohmann-json3-dev libzydis-dev
-    clang-15 llvm-15-dev clang-16 llvm-16-dev clang-19 llvm-19-dev gfortran clang-format)
+    clang-15 llvm-15-dev clang-16 llvm-16-dev clang-19 llvm-19-dev gfortran clang-format
+    pocl-opencl-icd ocl-icd-opencl-dev opencl-clhpp-headers clinfo clpeak)
 
 install_missing() {
     command -v dpkg-query >/dev/null || return 0 # not a Debian: CMake says what it misses
@@ -51,8 +52,9 @@ configure() {
     # One that someone configured in another way keeps its generator and build type, and gets what is missing.
     if [[ ! -e build/CMakeCache.txt ]]; then cmake --preset tests
     elif ! grep -q '^ORVANE_TESTS:BOOL=ON$' build/CMakeCache.txt || ! grep -q '^ORVANE_BENCH:BOOL=ON$' build/CMakeCache.txt ||
-        ! grep -q '^ORVANE_LLVM:BOOL=ON$' build/CMakeCache.txt; then
-        cmake -S . -B build -DORVANE_TESTS=ON -DORVANE_BENCH=ON -DORVANE_LLVM=ON
+        ! grep -q '^ORVANE_LLVM:BOOL=ON$' build/CMakeCache.txt ||
+        ! grep -q '^ORVANE_OPENCL:BOOL=ON$' build/CMakeCache.txt; then
+        cmake -S . -B build -DORVANE_TESTS=ON -DORVANE_BENCH=ON -DORVANE_LLVM=ON -DORVANE_OPENCL=ON
     fi
 }
 

@@ -9,12 +9,10 @@
 // that form, calls the export, and puts the result back. MORE.bc holds what is no export and is linked in. With
 // --relaxed the rm tier takes the place of the default one, where a pair has it.
 #include "tools/whole_file.h"
-#include "llvm/core/exports_ir.h"
+#include "llvm/builtins/definitions.h"
 
 #include <llvm/Bitcode/BitcodeWriter.h>
-#include <llvm/IR/IRBuilder.h>
 #include <llvm/IR/InstIterator.h>
-#include <llvm/IR/Intrinsics.h>
 #include <llvm/IR/LLVMContext.h>
 #include <llvm/IR/Module.h>
 #include <llvm/IR/Verifier.h>
@@ -24,64 +22,16 @@
 #include <llvm/Support/raw_ostream.h>
 
 #include <iostream>
-#include <map>
 
 using namespace llvm;
-using orvane::kernel_row;
 using orvane::lane_type;
-using orvane::signature_class;
+using orvane::ir::builtin;
 
 namespace {
 
 [[noreturn]] void fail(const std::string& why) {
     std::cerr << "write-builtins: " << why << '\n';
     exit(1);
-}
-
-// ---- Which built-in is which export
-
-struct builtin {
-    const kernel_row* row;
-    int width;
-    std::string name;
-    int out_space = -1; // place in address_spaces of the out-pointer
-};
-constexpr const char* address_spaces[] = {"__global", "__local", "__private", "__generic"};
-
-// What stays with the compiler: an instruction or a few, at every width, for which a call would cost more than the
-// work (docs/jit.md has the figures). Only rows whose result is the same correctly rounded or exact value.
-const std::map<std::string_view, Intrinsic::ID> as_intrinsics = {
-    {"sqrt", Intrinsic::sqrt},           {"fabs", Intrinsic::fabs},   {"ceil", Intrinsic::ceil},
-    {"floor", Intrinsic::floor},         {"trunc", Intrinsic::trunc}, {"rint", Intrinsic::rint},
-    {"nearbyint", Intrinsic::nearbyint}, {"fma", Intrinsic::fma},     {"copysign", Intrinsic::copysign},
-    {"round", Intrinsic::round},         {"fmin", Intrinsic::minnum}, {"fmax", Intrinsic::maxnum}};
-
-// Names that a row serves in OpenCL C.
-std::vector<std::string> names_of(const kernel_row& row, int width) {
-    std::string s(row.builtin);
-    if (s.empty() || s.starts_with("operator")) return {};
-    if (const auto at = s.find('#'); at != s.npos) s.replace(at, 1, width == 1 ? "" : std::to_string(width));
-    if (row.sclass != signature_class::conversion) return {s};
-    // Without a mode a conversion to an integer truncates, and one to a floating type rounds to nearest.
-    const std::string default_mode = orvane::is_floating(row.out) ? "_rte" : "_rtz";
-    if (s.ends_with(default_mode)) return {s, s.substr(0, s.size() - 4)};
-    return {s};
-}
-
-std::vector<builtin> all_builtins(bool relaxed) {
-    std::vector<builtin> all;
-    const auto& rows = orvane::library_rows();
-    for (const auto& row : rows) {
-        if (row.is_relaxed() && !relaxed) continue;
-        if (row.tier == "default" && relaxed && orvane::find_row(rows, row.name, "rm")) continue;
-        for (int w : orvane::widths)
-            for (const auto& name : names_of(row, w))
-                if (row.has_out())
-                    for (int space = 0; space < 4; space++)
-                        all.push_back({&row, w, name, space});
-                else all.push_back({&row, w, name});
-    }
-    return all;
 }
 
 std::string opencl_type(lane_type t, int width) {
@@ -101,112 +51,11 @@ void write_prototypes(const std::vector<builtin>& all, raw_ostream& out) {
         for (int j = 0; j < b.row->arguments(); j++)
             out << (j ? ", " : "") << opencl_type(b.row->argument(j), b.width) << ' ' << "xyz"[j];
         if (b.out_space >= 0)
-            out << ", " << address_spaces[b.out_space] << ' ' << opencl_type(b.row->extra, b.width) << "* out";
+            out << ", " << orvane::ir::address_spaces[b.out_space] << ' ' << opencl_type(b.row->extra, b.width)
+                << "* out";
         out << ") { return (" << result << ")0; }\n";
     }
 }
-
-// ---- Bodies
-
-class definitions {
-public:
-    explicit definitions(Module& m) : m(m), c(m.getContext()) {}
-
-    void define(Function& f, const builtin& b) {
-        row = b.row;
-        width = b.width;
-        f.deleteBody();
-        f.setAttributes(f.getAttributes().removeFnAttributes(c));
-        f.setLinkage(GlobalValue::LinkOnceODRLinkage);
-        f.addFnAttr(Attribute::AlwaysInline);
-        f.setDoesNotThrow();
-        f.addFnAttr(Attribute::WillReturn);
-        IRBuilder<> code(BasicBlock::Create(c, "", &f));
-
-        unsigned next = f.hasStructRetAttr() ? 1 : 0;
-        std::vector<Value*> x;
-        for (int j = 0; j < row->arguments(); j++)
-            x.push_back(natural(code, f, next++, vector_of(row->argument(j))));
-        Value* second = nullptr;
-        Value* result = body(code, x, second);
-        if (second) code.CreateAlignedStore(second, f.getArg(next), Align(orvane::size_of(row->extra)));
-        give_back(code, f, result);
-        if (b.out_space < 0 && !f.hasStructRetAttr() && !any_indirect(f)) f.setDoesNotAccessMemory();
-    }
-
-private:
-    Module& m;
-    LLVMContext& c;
-    const kernel_row* row = nullptr;
-    int width = 0;
-
-    Type* vector_of(lane_type t) { return orvane::ir::vector_of(c, t, width); }
-    static bool any_indirect(Function& f) {
-        for (auto& a : f.args())
-            if (a.hasByValAttr() || a.getType()->isPointerTy()) return true;
-        return false;
-    }
-
-    // An argument as the target passes it, made the vector that it stands for: by itself, as the bits of another type
-    // (two floats in a double), as a vector with a spare lane, or in memory.
-    Value* natural(IRBuilder<>& code, Function& f, unsigned at, Type* wanted) {
-        Value* v = f.getArg(at);
-        if (v->getType() == wanted) return v;
-        if (v->getType()->isPointerTy()) {
-            const MaybeAlign aligned = f.getParamAlign(at);
-            return code.CreateAlignedLoad(wanted, v, aligned ? *aligned : Align(orvane::size_of(row->in)));
-        }
-        return reshaped(code, v, wanted, f);
-    }
-    Value* reshaped(IRBuilder<>& code, Value* v, Type* wanted, Function& f) {
-        Type* have = v->getType();
-        if (have == wanted) return v;
-        if (have->getPrimitiveSizeInBits() == wanted->getPrimitiveSizeInBits()) return code.CreateBitCast(v, wanted);
-        auto* hv = dyn_cast<FixedVectorType>(have);
-        auto* wv = dyn_cast<FixedVectorType>(wanted);
-        if (!hv || !wv || hv->getElementType() != wv->getElementType())
-            fail(f.getName().str() + ": this target's way to pass a vector is not known here");
-        SmallVector<int, 16> lanes;
-        for (unsigned k = 0; k < wv->getNumElements(); k++)
-            lanes.push_back(k < hv->getNumElements() ? int(k) : -1);
-        return code.CreateShuffleVector(v, lanes);
-    }
-    void give_back(IRBuilder<>& code, Function& f, Value* v) {
-        if (f.hasStructRetAttr()) {
-            const MaybeAlign aligned = f.getParamAlign(0);
-            code.CreateAlignedStore(v, f.getArg(0), aligned ? *aligned : Align(8));
-            code.CreateRetVoid();
-        } else code.CreateRet(reshaped(code, v, f.getReturnType(), f));
-    }
-
-    Value* body(IRBuilder<>& code, ArrayRef<Value*> x, Value*& second) {
-        if (Value* v = as_instructions(code, x)) return v;
-        const auto results = orvane::ir::call_export(code, *row, width, x);
-        if (results.size() == 2) second = results[1];
-        return results[0];
-    }
-
-    Value* as_instructions(IRBuilder<>& code, ArrayRef<Value*> x) {
-        if (row->sclass == signature_class::conversion) {
-            // Conversions that are exact or round to nearest are what the instruction does.
-            const bool to_nearest = row->builtin.ends_with("_rte");
-            const bool exact = orvane::size_of(row->in) == 4 && row->out == lane_type::f64;
-            if (!orvane::is_floating(row->out) || !(to_nearest || exact)) return nullptr;
-            Type* to = vector_of(row->out);
-            if (row->in == lane_type::f64) return code.CreateFPTrunc(x[0], to);
-            if (row->in == lane_type::i32) return code.CreateSIToFP(x[0], to);
-            if (row->in == lane_type::u32) return code.CreateUIToFP(x[0], to);
-            return nullptr;
-        }
-        const auto found = as_intrinsics.find(row->builtin);
-        if (found != as_intrinsics.end()) return code.CreateIntrinsic(found->second, {x[0]->getType()}, x);
-        if (row->builtin == "rsqrt") {
-            Value* root = code.CreateIntrinsic(Intrinsic::sqrt, {x[0]->getType()}, x);
-            return code.CreateFDiv(ConstantFP::get(x[0]->getType(), 1), root);
-        }
-        return nullptr;
-    }
-};
 
 // Device code of any target, made code of the host: plain conventions, no attributes of a processor, all of it to be
 // inlined or dropped.
@@ -255,11 +104,15 @@ void write_definitions(const std::vector<builtin>& all, const std::string& proto
     if (functions.size() != all.size())
         fail(prototypes + " defines " + std::to_string(functions.size()) + " functions, not the " +
              std::to_string(all.size()) + " of the list");
-    definitions d(*m);
+
     for (size_t i = 0; i < all.size(); i++) {
         if (!functions[i]->getName().contains(all[i].name))
             fail(functions[i]->getName().str() + " stands where " + all[i].name + " belongs");
-        d.define(*functions[i], all[i]);
+        try {
+            orvane::ir::define_builtin(*functions[i], all[i]);
+        } catch (const std::exception& e) {
+            fail(e.what());
+        }
     }
     if (Linker::linkModules(*m, read(more, c))) fail("cannot link " + more);
     make_host_code(*m);
@@ -288,7 +141,7 @@ int main(int argc, char** argv) {
     }
     std::string text;
     raw_string_ostream stream(text);
-    const auto all = all_builtins(relaxed);
+    const auto all = orvane::ir::all_builtins(relaxed);
     if (prototypes) write_prototypes(all, stream);
     else write_definitions(all, words[1], words[2], stream);
     try {

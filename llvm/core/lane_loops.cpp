@@ -822,9 +822,10 @@ bool loops_to_lane_loops(Function& f, const step_options& options, OptimizationR
                 });
                 continue;
             }
-            maker.run();
+            // Of the loop that stays for the last work-items, which is gone where there are known to be none.
             addStringMetadataToLoop(loop, "llvm.loop.isvectorized", 1);
             addStringMetadataToLoop(loop, "llvm.loop.unroll.disable", 1);
+            maker.run();
             remarks.emit([&] {
                 return OptimizationRemark("orvane", "WorkItems", at, header)
                        << "loop over work-items runs by lanes, "
