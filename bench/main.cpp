@@ -1,7 +1,7 @@
 // Throughput of every export that is built, in one run with SLEEF and scalar libm: nanoseconds per lane over a buffer
 // of lanes in the first-level cache, on ordinary lanes and with one special lane in 64.
 //
-//     orvane-bench [FAMILY_REGEX ...] [--benchmark_...]
+//     orvane-bench [FAMILY_REGEX ...] [--json=FILE] [--latency] [--benchmark_...]
 #include "bench/peers.h"
 #include "bench/table.h"
 #include "tools/whole_file.h"
@@ -81,26 +81,32 @@ void fill(buffer& b, const kernel_row& row, int width, const lane_set& set, unsi
     }
 }
 
-// The largest error of the first result over many lanes of a set, in units of the last place of the true value.
-double largest_error(const kernel_row& row, const pass& run, const family_peers& peers, const lane_set& set) {
-    if (!peers.truth) return -1;
+// The largest errors of the first result of functions over many lanes of a set, the same for all, in units of the
+// last place of the true value; -1 where there is no function or no truth.
+std::vector<double> largest_errors(const kernel_row& row, const std::vector<const pass*>& runs,
+                                   const family_peers& peers, const lane_set& set) {
+    std::vector<double> worst(runs.size(), -1);
+    if (!peers.truth) return worst;
     auto b = std::make_unique<buffer>();
     std::vector<long double> truth(lanes_of_buffer);
-    double worst = 0;
     for (unsigned seed = 1; seed <= 64; seed++) {
         fill(*b, row, 16, set, seed);
         peers.truth(*b, truth.data());
-        run(*b);
-        with_type(row.out, [&]<class T>(type<T>) {
-            using limits = std::numeric_limits<T>;
-            for (int i = 0; i < lanes_of_buffer; i++) {
-                if (!std::isfinite(truth[i])) continue;
-                const int exponent =
-                    std::max(truth[i] == 0 ? limits::min_exponent : std::ilogb(truth[i]), limits::min_exponent - 1);
-                const long double ulp = std::ldexp(1.0L, exponent - limits::digits + 1);
-                worst = std::max(worst, (double)(std::fabs(b->result[0].as<T>()[i] - truth[i]) / ulp));
-            }
-        });
+        for (size_t k = 0; k < runs.size(); k++) {
+            if (!runs[k] || !*runs[k]) continue;
+            (*runs[k])(*b);
+            with_type(row.out, [&]<class T>(type<T>) {
+                using limits = std::numeric_limits<T>;
+                for (int i = 0; i < lanes_of_buffer; i++) {
+                    if (!std::isfinite(truth[i])) continue;
+                    const int exponent = std::max(truth[i] == 0 ? limits::min_exponent : std::ilogb(truth[i]),
+                                                  limits::min_exponent - 1);
+                    const long double ulp = std::ldexp(1.0L, exponent - limits::digits + 1);
+                    const double error = (double)(std::fabs(b->result[0].as<T>()[i] - truth[i]) / ulp);
+                    worst[k] = std::max(worst[k], std::isnan(error) ? HUGE_VAL : error);
+                }
+            });
+        }
     }
     return worst;
 }
@@ -128,8 +134,9 @@ void check_widths(const kernel_row& row, const std::vector<pass>& runs, const la
 
 buffer lanes; // of the benchmark that runs
 
+// `count` of lanes, or of calls, share the time of a pass.
 void register_benchmark(const std::string& name, const kernel_row& row, int width, const lane_set& set,
-                        const pass& run) {
+                        const pass& run, double count) {
     benchmark::RegisterBenchmark(name.c_str(), [=, &row](benchmark::State& state) {
         fill(lanes, row, width, set);
         run(lanes); // the results' pages and the caches
@@ -138,9 +145,8 @@ void register_benchmark(const std::string& name, const kernel_row& row, int widt
             benchmark::ClobberMemory();
         }
         using flags = benchmark::Counter;
-        const double live = lanes_of_buffer / stored_lanes(width) * width;
         state.counters["lane"] =
-            benchmark::Counter(live, flags::Flags(flags::kIsIterationInvariantRate | flags::kInvert));
+            benchmark::Counter(count, flags::Flags(flags::kIsIterationInvariantRate | flags::kInvert));
     });
 }
 
@@ -153,7 +159,7 @@ const kernel_row* kernel_of(const kernel_row* row) {
 
 class bench_plan {
 public:
-    explicit bench_plan(void* library) : library(library) {}
+    bench_plan(void* library, bool with_latency) : library(library), with_latency(with_latency) {}
     std::vector<table_row> rows;
     size_t benchmarks = 0;
 
@@ -176,40 +182,51 @@ public:
         const std::regex regex("(?:" + filter + ")");
         std::set<std::string> picked;
         for (const entry& e : all)
-            for (lane_set set : lane_sets_of(*e.row)) {
+            for (lane_set set : sets_of(e)) {
                 const std::string name = e.name + '/' + set.name;
                 if (std::regex_search(name, regex, std::regex_constants::match_continuous) != inverted)
                     picked.insert(name);
             }
         for (const table_row& r : rows)
-            for (const lane_set& set : {r.set, special})
+            for (const lane_set& set : {r.set, special, latency})
                 if (picked.contains(r.ours + '/' + set.name))
                     for (const auto& peer : {r.sleef, r.scalar})
                         picked.insert(peer + '/' + set.name);
         for (const entry& e : all)
-            for (lane_set set : lane_sets_of(*e.row)) {
+            for (lane_set set : sets_of(e)) {
                 const std::string name = e.name + '/' + set.name;
                 if (!picked.contains(name)) continue;
-                register_benchmark(name, *e.row, e.width, set, e.run);
+                const bool chained = set == latency;
+                const double vectors = lanes_of_buffer / stored_lanes(e.width);
+                register_benchmark(name, *e.row, e.width, set, chained ? e.chained : e.run,
+                                   chained ? double(lanes_of_buffer / e.lanes) : vectors * e.width);
                 benchmarks++;
             }
     }
 
 private:
     void* library;
+    bool with_latency;
     std::map<const kernel_row*, std::vector<const kernel_row*>> tiers;
     struct entry {
         std::string name;
         const kernel_row* row;
         int width;
         pass run;
+        pass chained; // empty where that is not measured
+        int lanes;    // that one call takes
     };
+    std::vector<lane_set> sets_of(const entry& e) const {
+        auto sets = lane_sets_of(*e.row);
+        if (with_latency && e.chained) sets.push_back(latency);
+        return sets;
+    }
     std::vector<entry> all; // ours, and the peers that they stand beside
     std::set<std::string> seen;
 
     void add_kernel(const kernel_row& row) {
         const family_peers peers = peers_of(row);
-        std::vector<pass> runs;
+        std::vector<pass> runs, chained;
         for (int width : widths) {
             const call_plan plan = plan_of(row, width);
             const void* f = dlsym(library, plan.symbol.c_str());
@@ -218,40 +235,51 @@ private:
                 exit(1);
             }
             runs.push_back(export_pass(plan, f));
+            chained.push_back(export_pass(plan, f, calls::chained));
         }
         for (lane_set set : lane_sets_of(row))
             check_widths(row, runs, set);
-        const double error = largest_error(row, runs.back(), peers, ordinary);
+        const peer *const accurate = peers.accurate ? &*peers.accurate : nullptr, *const fast = peers.fast
+                                                                                                    ? &*peers.fast
+                                                                                                    : nullptr;
+        const auto errors_over = [&](const lane_set& set) {
+            return largest_errors(row,
+                                  {&runs.back(), accurate ? &accurate->wide.run : nullptr,
+                                   fast ? &fast->wide.run : nullptr, &peers.scalar},
+                                  peers, set);
+        };
+        const std::vector<double> errors = errors_over(ordinary);
+        const double error = errors[0];
 
         const std::string family(row.name), ours = family + '/' + std::string(row.tier) + '/';
         for (size_t w = 0; w < runs.size(); w++)
-            add(ours + std::to_string(widths[w]), row, widths[w], runs[w]);
+            add({ours + std::to_string(widths[w]), &row, widths[w], runs[w], chained[w], stored_lanes(widths[w])});
         const std::string scalar = peers.scalar ? family + "/libm" : "";
-        if (peers.scalar) add(scalar, row, 16, peers.scalar);
+        if (peers.scalar) add({scalar, &row, 16, peers.scalar, peers.chained_scalar, 1});
 
         // The tiers that are this kernel, by the function of SLEEF that they are held against: the most accurate one
         // where the error is at most 1.25 ulp, except for native.
         std::map<const peer*, std::string> tiers_beside;
         for (const kernel_row* t : tiers[&row]) {
-            const bool is_fast = peers.fast && (t->tier == "native" || error > 1.25);
-            const peer* sleef = is_fast ? &*peers.fast : peers.accurate ? &*peers.accurate : nullptr;
+            const peer* sleef = fast && (t->tier == "native" || error > 1.25) ? fast : accurate;
             std::string& names = tiers_beside[sleef];
             names += (names.empty() ? "" : " = ") + std::string(t->tier);
         }
         for (const auto& [sleef, names] : tiers_beside)
             for (int width : widths)
-                rows.push_back({family, names, width, error, sleef ? sleef->name : "", ordinary,
-                                ours + std::to_string(width), add_vector_peer(row, sleef, width), scalar});
+                rows.push_back({family, names, width, error, sleef ? errors[sleef == fast ? 2 : 1] : -1, errors[3],
+                                sleef ? sleef->name : "", ordinary, ours + std::to_string(width),
+                                add_vector_peer(row, sleef, width), scalar});
         // Of further ranges tiers show no difference: all are held against the most accurate function.
-        const peer* sleef = peers.accurate ? &*peers.accurate : nullptr;
         std::string names;
         for (const auto& [unused, some] : tiers_beside)
             names += (names.empty() ? "" : " = ") + some;
         for (const auto& range : further_ranges_of(row)) {
-            const double error_there = largest_error(row, runs.back(), peers, range);
+            const auto there = errors_over(range);
             for (int width : widths)
-                rows.push_back({family, names + ", " + range.name, width, error_there, sleef ? sleef->name : "",
-                                range, ours + std::to_string(width), add_vector_peer(row, sleef, width), scalar});
+                rows.push_back({family, names + ", " + range.name, width, there[0], there[1], there[3],
+                                accurate ? accurate->name : "", range, ours + std::to_string(width),
+                                add_vector_peer(row, accurate, width), scalar});
         }
     }
 
@@ -264,14 +292,17 @@ private:
             std::string(row.name) + '/' + sleef->library + function + (is_narrow ? "x128" : "x256");
         const vector_function& function_of_vector = sleef->at(width, row.in);
         const bool alike = function_of_vector.in_registers && row.results() == 1 && !row.has_out();
-        add(name, row, 16,
-            alike ? export_pass(plan_of(row, function_of_vector.lanes), function_of_vector.in_registers)
-                  : function_of_vector.run);
+        const int count = function_of_vector.lanes;
+        const auto called = [&](calls how) {
+            return export_pass(plan_of(row, count), function_of_vector.in_registers, how);
+        };
+        if (alike) add({name, &row, 16, called(calls::independent), called(calls::chained), count});
+        else add({name, &row, 16, function_of_vector.run, {}, count});
         return name;
     }
 
-    void add(const std::string& name, const kernel_row& row, int width, const pass& run) {
-        if (seen.insert(name).second) all.push_back({name, &row, width, run});
+    void add(const entry& e) {
+        if (seen.insert(e.name).second) all.push_back(e);
     }
 };
 
@@ -296,7 +327,9 @@ void print_usage() {
          "name,\n"
          "with the f of the float member: orvane-bench 'exp.*' fmodf. Single benchmarks are named "
          "FAMILY/TIER/WIDTH/SET;\n"
-         "--json=FILE writes the figures for programs as well. --benchmark_filter picks among them by the beginnings "
+         "--json=FILE writes the figures for programs as well, --latency adds to these the time of a call that waits "
+         "for "
+         "the\none before. --benchmark_filter picks among them by the beginnings "
          "of names, and the peers that they stand beside with them.\n");
     benchmark::PrintDefaultHelp();
 }
@@ -326,6 +359,7 @@ int main(int argc, char** argv) {
         json = a + option.size();
         return true;
     });
+    const bool with_latency = std::erase_if(arguments, [](const char* a) { return !strcmp(a, "--latency"); });
     int count = (int)arguments.size();
     benchmark::Initialize(&count, arguments.data(), print_usage);
 
@@ -373,7 +407,7 @@ int main(int argc, char** argv) {
         }
     }
 
-    bench_plan plan(library);
+    bench_plan plan(library, with_latency);
     for (const auto& f : families)
         if (picked.empty() || picked.contains(f)) plan.add_family(f);
 

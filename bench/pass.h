@@ -42,7 +42,10 @@ template <class F> auto with_type(lane_type t, F f) {
     }
 }
 
-// An export, called vector by vector from compiled code by its plan.
-pass export_pass(const call_plan&, const void* function);
+// An export, called vector by vector from compiled code by its plan. Calls are independent of each other, or chained:
+// all arguments of one wait for all results of the one before (but for an out-lane), by two instructions that change
+// nothing, an AND with zeros and an exclusive OR.
+enum class calls { independent, chained };
+pass export_pass(const call_plan&, const void* function, calls = calls::independent);
 
 } // namespace orvane::bench

@@ -1,5 +1,6 @@
 #include "bench/peers.h"
 
+#include <bit>
 #include <cmath>
 #include <cstring>
 #include <immintrin.h>
@@ -11,67 +12,85 @@ namespace orvane::bench {
 
 namespace {
 
-// ---- Scalar code. A shape computes lane i of the first result in the type T from lanes of the type L; a second
-// result goes to its own array.
+// ---- Scalar code. A shape computes lane i of the first result in the type T from its first argument x and lanes of
+// the type L; a second result goes to its own array.
 
 template <class F> struct one {
     F f;
-    template <class L, class T> auto at(buffer& b, int i) const { return f(T(b.argument[0].as<L>()[i])); }
+    template <class L, class T> auto at(buffer&, int, T x) const { return f(x); }
 };
 template <class F> struct two {
     F f;
-    template <class L, class T> auto at(buffer& b, int i) const {
-        return f(T(b.argument[0].as<L>()[i]), T(b.argument[1].as<L>()[i]));
-    }
+    template <class L, class T> auto at(buffer& b, int i, T x) const { return f(x, T(b.argument[1].as<L>()[i])); }
 };
 template <class F> struct three {
     F f;
-    template <class L, class T> auto at(buffer& b, int i) const {
-        return f(T(b.argument[0].as<L>()[i]), T(b.argument[1].as<L>()[i]), T(b.argument[2].as<L>()[i]));
+    template <class L, class T> auto at(buffer& b, int i, T x) const {
+        return f(x, T(b.argument[1].as<L>()[i]), T(b.argument[2].as<L>()[i]));
     }
 };
 template <class F> struct with_integer {
     F f;
-    template <class L, class T> auto at(buffer& b, int i) const {
-        return f(T(b.argument[0].as<L>()[i]), b.argument[1].as<int32_t>()[i]);
-    }
+    template <class L, class T> auto at(buffer& b, int i, T x) const { return f(x, b.argument[1].as<int32_t>()[i]); }
 };
 template <class F> struct with_second {
     F f;
-    template <class L, class T> auto at(buffer& b, int i) const {
+    template <class L, class T> auto at(buffer& b, int i, T x) const {
         T second;
-        const auto first = f(T(b.argument[0].as<L>()[i]), &second);
+        const auto first = f(x, &second);
         b.result[1].as<L>()[i] = L(second);
         return first;
     }
 };
 template <class F> struct with_integer_out {
     F f;
-    template <class L, class T> auto at(buffer& b, int i) const {
-        return f(T(b.argument[0].as<L>()[i]), &b.result[1].as<int32_t>()[i]);
-    }
+    template <class L, class T> auto at(buffer& b, int i, T x) const { return f(x, &b.result[1].as<int32_t>()[i]); }
 };
 template <class F> struct two_with_integer_out {
     F f;
-    template <class L, class T> auto at(buffer& b, int i) const {
-        return f(T(b.argument[0].as<L>()[i]), T(b.argument[1].as<L>()[i]), &b.result[1].as<int32_t>()[i]);
+    template <class L, class T> auto at(buffer& b, int i, T x) const {
+        return f(x, T(b.argument[1].as<L>()[i]), &b.result[1].as<int32_t>()[i]);
     }
 };
 
 template <class T, class Shape> pass scalar_pass(Shape shape) {
-    using result = decltype(shape.template at<T, T>(std::declval<buffer&>(), 0));
+    using result = decltype(shape.template at<T, T>(std::declval<buffer&>(), 0, T()));
     return [shape](buffer& b) {
         for (int i = 0; i < lanes_of_buffer; i++)
-            b.result[0].as<result>()[i] = shape.template at<T, T>(b, i);
+            b.result[0].as<result>()[i] = shape.template at<T, T>(b, i, b.argument[0].as<T>()[i]);
+    };
+}
+// x, after y is known.
+template <class T, class R> T after(T x, R y) {
+    unsigned none = 0;
+    asm("" : "+r"(none));
+    if constexpr (std::is_same_v<R, float>) {
+        const __m128 zeros = _mm_castsi128_ps(_mm_set1_epi32(none));
+        return _mm_cvtss_f32(_mm_xor_ps(_mm_set_ss(x), _mm_and_ps(_mm_set_ss(y), zeros)));
+    } else if constexpr (std::is_same_v<R, double>) {
+        const __m128d zeros = _mm_castsi128_pd(_mm_set1_epi32(none));
+        return _mm_cvtsd_f64(_mm_xor_pd(_mm_set_sd(x), _mm_and_pd(_mm_set_sd(y), zeros)));
+    } else {
+        using word = std::conditional_t<sizeof(T) == 8, uint64_t, uint32_t>;
+        return std::bit_cast<T>(word(std::bit_cast<word>(x) ^ word(y & R(none))));
+    }
+}
+// The same, where every lane waits for the one before.
+template <class T, class Shape> pass chained_pass(Shape shape) {
+    using result = decltype(shape.template at<T, T>(std::declval<buffer&>(), 0, T()));
+    return [shape](buffer& b) {
+        result last{};
+        for (int i = 0; i < lanes_of_buffer; i++)
+            b.result[0].as<result>()[i] = last = shape.template at<T, T>(b, i, after(b.argument[0].as<T>()[i], last));
     };
 }
 template <class T, class Shape> std::function<void(buffer&, long double*)> truth_pass(Shape shape) {
-    using result = decltype(shape.template at<T, T>(std::declval<buffer&>(), 0));
+    using result = decltype(shape.template at<T, T>(std::declval<buffer&>(), 0, T()));
     if constexpr (std::is_integral_v<result>) return {};
     else
         return [shape](buffer& b, long double* results) {
             for (int i = 0; i < lanes_of_buffer; i++)
-                results[i] = shape.template at<T, long double>(b, i);
+                results[i] = shape.template at<T, long double>(b, i, b.argument[0].as<T>()[i]);
         };
 }
 
@@ -161,8 +180,9 @@ struct peers_of_both_types {
 
 template <class Shape>
 peers_of_both_types against(Shape shape, const variants& accurate = {}, const variants& fast = {}) {
-    return {{accurate.f32, fast.f32, scalar_pass<float>(shape), truth_pass<float>(shape)},
-            {accurate.f64, fast.f64, scalar_pass<double>(shape), truth_pass<double>(shape)}};
+    return {
+        {accurate.f32, fast.f32, scalar_pass<float>(shape), chained_pass<float>(shape), truth_pass<float>(shape)},
+        {accurate.f64, fast.f64, scalar_pass<double>(shape), chained_pass<double>(shape), truth_pass<double>(shape)}};
 }
 
 // A function of scalar arguments as a lambda that takes them in any type.
@@ -290,7 +310,8 @@ family_peers peers_of(const kernel_row& row) {
     switch (row.sclass) {
     case signature_class::integer:
     case signature_class::integer_pair:
-        return {{}, {}, row.in == lane_type::i32 ? division<int32_t>(row.name) : division<uint32_t>(row.name), {}};
+        return {
+            {}, {}, row.in == lane_type::i32 ? division<int32_t>(row.name) : division<uint32_t>(row.name), {}, {}};
     case signature_class::conversion:
     case signature_class::bits_to_nan:
         return plain_peers_of(row);

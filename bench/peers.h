@@ -31,6 +31,7 @@ struct family_peers {
     std::optional<peer> accurate; // SLEEF, the most accurate one; or plain C
     std::optional<peer> fast;     // SLEEF, the one of lower accuracy where it has two
     pass scalar;                  // empty: nothing to compare with
+    pass chained_scalar;          // each lane after the one before; empty where that is not measured
     // The first result of the argument lanes in long double, to measure errors by; empty where the lanes are
     // integers.
     std::function<void(buffer&, long double* results)> truth;

@@ -23,12 +23,17 @@ double gathering_reporter::nanoseconds(const std::string& name) const {
     return at == medians.end() ? -1 : at->second;
 }
 
+namespace {
+std::string formatted(const char* format, double x) {
+    char s[32];
+    snprintf(s, sizeof s, format, x);
+    return s;
+}
+} // namespace
+
 void print_table(const std::vector<table_row>& rows, const gathering_reporter& measured) {
     auto text = [](const char* format, double x, const std::string& suffix = "") {
-        if (x < 0) return std::string("-");
-        char s[32];
-        snprintf(s, sizeof s, format, x);
-        return s + suffix;
+        return x < 0 ? "-" : formatted(format, x) + suffix;
     };
 
     std::vector<std::vector<std::string>> cells = {{"family", "tier", "width", "ulp", "ns/lane", "vector peer",
@@ -101,6 +106,16 @@ std::string as_json(const std::vector<table_row>& rows, const gathering_reporter
                 row["peer_ns"] = rounded(of(r.sleef));
             }
             if (!r.scalar.empty()) row["libm_ns"] = rounded(of(r.scalar));
+            if (set == r.set) {
+                const std::tuple<const char*, const std::string&, double> functions[] = {
+                    {"", r.ours, r.error}, {"peer_", r.sleef, r.peer_error}, {"libm_", r.scalar, r.libm_error}};
+                for (const auto& [who, name, error] : functions) {
+                    if (error >= 0 && !name.empty() && std::isfinite(error))
+                        row[std::string(who) + "error"] = std::stod(formatted("%.4g", error));
+                    const double wait = set == ordinary ? measured.nanoseconds(name + '/' + latency.name) : -1;
+                    if (wait >= 0) row[std::string(who) + "latency_ns"] = rounded(wait);
+                }
+            }
             all.push_back(row);
         }
     std::string text = "{\"processor\":" + json(processor).dump() + ",\"rows\":[\n";

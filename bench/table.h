@@ -19,11 +19,13 @@ struct lane_set {
     bool operator==(const lane_set& o) const { return name == o.name; }
 };
 inline const lane_set ordinary{"ordinary"}, special{"special"};
+// Ordinary lanes, in calls of which each waits for the one before: nanoseconds a call.
+inline const lane_set latency{"latency"};
 
 struct table_row {
     std::string family, tiers;
     int width;
-    double error; // in ulp; negative: not measured
+    double error, peer_error, libm_error; // in ulp, over the same arguments; negative: not measured
     std::string sleef_name;
     lane_set set; // ordinary, with special lanes beside them, or a further range
     // Names of benchmarks without the set; empty where there is no such peer.
@@ -47,7 +49,9 @@ void print_table(const std::vector<table_row>&, const gathering_reporter&);
 
 // The same figures for programs: an object with `processor` and `rows`, one row for each line of the table that was
 // measured: `family`, `tiers` (an array), `set`, `width`, `ns` (nanoseconds per lane), and where there is such a peer
-// `peer` (its name) with `peer_ns`, and `libm_ns`.
+// `peer` (its name) with `peer_ns`, and `libm_ns`. Where they were measured also `error`, `peer_error` and
+// `libm_error`, in ulp, over 32768 arguments of the set, the same for all, and `latency_ns`, `peer_latency_ns` and
+// `libm_latency_ns`, nanoseconds per call that waits for the one before.
 std::string as_json(const std::vector<table_row>&, const gathering_reporter&, const std::string& processor);
 
 } // namespace orvane::bench

@@ -14,6 +14,7 @@
 // tells errors while this goes on; those that are left at the end are decided by MPFR. Slow paths and inline paths of
 // large arguments are told apart by what a call does and are searched beside the formula.
 #include "extended.h"
+#include "subject.h"
 #include "whole_file.h"
 #include "worst_cases.h"
 
@@ -52,93 +53,6 @@ double processor_seconds() {
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
     return t.tv_sec + 1e-9 * t.tv_nsec;
 }
-
-// A kernel, many lanes at a time, beside its references.
-class subject {
-public:
-    using lane = std::array<uint64_t, 2>;
-    static constexpr int width = 16;
-
-    subject(const kernel_row& row, const library& in)
-        : row(row), one(row, in), reference(extended_reference_of(row)), wide(plan_of(row, width), address(in, row)) {
-        arguments.assign(row.arguments(), words(width));
-        for (int j = 0; j < row.results() + row.has_out(); j++)
-            if (is_floating(row.result(j)) && (j == 0 || reference->second)) of_interest.push_back(j);
-    }
-
-    // The errors of `width` lanes in a measure, by the C library.
-    void errors(const lane* x, error_measure m, double* error) {
-        for (int i = 0; i < width; i++)
-            for (size_t j = 0; j < arguments.size(); j++)
-                arguments[j][i] = x[i][j];
-        wide(arguments, results);
-        for (int i = 0; i < width; i++) {
-            const long double a = value_of(row.argument(0), x[i][0]);
-            const long double b = row.arguments() > 1 ? value_of(row.argument(1), x[i][1]) : 0;
-            error[i] = 0;
-            for (int j : of_interest) {
-                const long double v = j ? reference->second(a, b) : reference->value(a, b);
-                error[i] = std::max(error[i], error_of(m, row.result(j), results[j][i], v));
-            }
-        }
-    }
-    lane_path path_of(const lane& x) {
-        one({x[0], x[1]});
-        return one.path();
-    }
-    double decided(const lane& x, error_measure m) {
-        one({x[0], x[1]});
-        return one.error(exact, m);
-    }
-    // Where a result is a number and its true value none, or the other way round, there is no error to tell but a
-    // fault, which tests of special arguments hold.
-    static double error_of(error_measure m, lane_type t, uint64_t result, long double v) {
-        const double y = value_of(t, result);
-        if (!std::isfinite(v) || !std::isfinite(y)) return 0;
-        const int bits = t == lane_type::f32 ? 24 : 53, emin = t == lane_type::f32 ? -125 : -1021;
-        const long double e = std::fabs(y - v);
-        if (m == error_measure::absolute) return e;
-        if (m == error_measure::relative) return e / std::max(std::fabs(v), std::ldexp(1.0L, emin - 1));
-        return std::ldexp(e, bits - std::max(v == 0 ? emin : std::ilogb(v) + 1, emin));
-    }
-
-    const kernel_row& row;
-    one_lane one;
-    const extended_reference* reference;
-    std::vector<int> of_interest; // floating results
-
-    // Every float from `first` to `last` by pattern, eight bits of pattern at a time: visit(pattern, error) for those
-    // that are not the float nearest to the C library's double.
-    template <class F> void each_float(uint32_t first, uint32_t last, F visit) {
-        wide.place_arguments(arguments); // and the pointers to results in memory
-        auto* const at = wide.argument_lanes(0);
-        for (uint64_t x = first; x <= last; x += width) {
-            uint32_t patterns[width];
-            for (int i = 0; i < width; i++)
-                patterns[i] = std::min<uint64_t>(x + i, last);
-            memcpy(at, patterns, sizeof patterns);
-            wide.call();
-            for (int j : of_interest) {
-                float y[width];
-                memcpy(y, wide.result_lanes(j), sizeof y);
-                for (int i = 0; i < width; i++) {
-                    const double a = std::bit_cast<float>(patterns[i]);
-                    const double v = j ? reference->quick_second(a) : reference->quick(a);
-                    if (y[i] == (float)v || !(std::fabs(v) < 0x1.ffffffp127) || !std::isfinite(y[i])) continue;
-                    visit(patterns[i], y[i], v);
-                }
-            }
-        }
-    }
-
-private:
-    static const void* address(const library& in, const kernel_row& row) {
-        return in.address(plan_of(row, width).symbol);
-    }
-    lane_caller wide;
-    std::vector<words> arguments, results;
-    truth exact;
-};
 
 // Draws arguments.
 class source {

@@ -1,6 +1,7 @@
 // Writes what callers get of the list of exports and of data/worst_cases.txt: exports.json and orvane.h.
 //
 //     write-exports FOLDER
+#include "docs.h"
 #include "opencl_limits.h"
 #include "signature.h"
 #include "special_values.h"
@@ -16,10 +17,6 @@ using namespace orvane;
 using json = nlohmann::ordered_json;
 
 namespace {
-
-const std::map<std::string_view, std::string_view> docs = {
-#include "docs.inc"
-};
 
 constexpr const char* integer_registers[] = {"rdi", "rsi", "rdx"};
 
@@ -135,25 +132,6 @@ std::string vector_type(lane_type t, int lanes) {
     return "orvane_" + std::string(opencl_type(t)) + std::to_string(stored_lanes(lanes));
 }
 
-std::string doc_of(const kernel_row& row) {
-    if (const auto d = docs.find(row.base()); d != docs.end()) return std::string(d->second);
-    if (row.sclass != signature_class::conversion)
-        throw std::runtime_error("tools/docs.inc says nothing of '" + row.base() + "': write what it means");
-    std::string s =
-        "Conversion from " + std::string(opencl_type(row.in)) + " to " + std::string(opencl_type(row.out));
-    const std::string_view modes[][2] = {{"rte", "rounded to nearest, ties to even"},
-                                         {"rtn", "rounded down"},
-                                         {"rtp", "rounded up"},
-                                         {"rtz", "rounded toward zero"}};
-    const std::string base = row.base();
-    for (const auto& m : modes)
-        if (base.find(m[0]) != base.npos) s += ", " + std::string(m[1]);
-    if (base.find("nosat") != base.npos) s += "; values out of range give what the processor's steps give.";
-    else if (base.find("sat") != base.npos) s += "; values out of range give the nearest end of it, NaN gives 0.";
-    else s += ".";
-    return s;
-}
-
 std::string places_in_words(const call_plan& p) {
     std::string s;
     auto list = [&](const std::vector<place>& places, bool are_results, const char* what) {
@@ -263,7 +241,7 @@ extern "C" {
     std::string_view family;
     for (const auto& row : library_rows()) {
         if (row.name != family) {
-            s += "\n/* " + std::string(row.name) + ": " + doc_of(row) + " */\n";
+            s += "\n/* " + std::string(row.name) + ": " + meaning_of(row) + " */\n";
             family = row.name;
         }
         s += accuracy_line(row, cases);
