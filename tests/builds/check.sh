@@ -88,6 +88,10 @@ fi
 run_test "$tree" >"$scratch/test.log" 2>&1 || fail "./test does not recover: $(tail -n 5 "$scratch/test.log")"
 if grep -q old-g++ "$scratch/test.log"; then fail "./test keeps a refused compiler"; fi
 cp -a "$tree" "$scratch/copy"
+if cmake --build "$scratch/copy/build" --target check-library orvane_l9 >"$scratch/copy.log" 2>&1; then
+    fail "cmake --build of a copied tree builds the old one"
+fi
+grep -q "copy/build was configured as" "$scratch/copy.log" || fail "a copied build/: $(tail -n 5 "$scratch/copy.log")"
 run_test "$scratch/copy" >"$scratch/copy.log" 2>&1 || fail "./test in a copied tree: $(tail -n 5 "$scratch/copy.log")"
 grep -qx "CMAKE_HOME_DIRECTORY:INTERNAL=$scratch/copy" "$scratch/copy.log" || fail "a copied tree builds the old one"
 touch "$scratch/copy/build/kept"
