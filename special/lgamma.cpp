@@ -5,6 +5,7 @@
 // - ln(A sin(pi r) / pi), A = -x and r its distance to the nearest integer (without A, and with log gamma(1 + A),
 // where A is below 1/8). Rows hold the slow path's polynomials.
 #include "special/gamma_lanes.h"
+#include "special/lgamma_pieces.h"
 
 namespace orvane {
 
@@ -51,9 +52,9 @@ struct dlgamma_block {
     SLOT(double, 441, half_log2pi, 0x3FED67F1C864BEB5)
     SLOT(double, 442, twelfth, 0x3FB5555555555555)
     SLOT(double, 443, rcp_360, 0x3F66C16C16C16C17)
-    SLOT(double, 444, margin,
-         0x3C20000000000000) // 2^-61: of large and tiny lanes, and of both terms of negative ones
-    SLOT(double, 445, least_margin, 0x3C30000000000000) // 2^-60
+    // Of large and tiny lanes, and of both terms of negative ones; what these have beside it.
+    SLOT(double, 444, margin, bits(lgamma_pieces::term_margin))
+    SLOT(double, 445, least_margin, bits(lgamma_pieces::reflection_margin))
     SLOT(double, 446, overflow_bound, 0x7F5754D9278B51A7)
     SLOT(double, 447, inf, 0x7FF0000000000000)
     SLOT(double, 448, safe, 0x400C000000000000) // 3.5

@@ -96,4 +96,8 @@ template <class V> V log_gamma(double where, V y) {
     return at(ld_s100, y);
 }
 
+// How far the vector path can be from the slow path: relative to the value from 512 on and, below 1/8, to the terms'
+// magnitudes; and at negative arguments an absolute part more. fit-gamma proves both.
+constexpr double term_margin = 1.25 * 0x1p-61, reflection_margin = 0x1p-60;
+
 } // namespace orvane::lgamma_pieces

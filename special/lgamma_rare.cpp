@@ -122,7 +122,7 @@ extended log_gamma_of_negative(double x) {
     constexpr double shifter = 0x1.8p52;
     const double A = -x;
     const double R = double(extended(shifter) - x) + -shifter;
-    const extended r = extended(A) - R;
+    const extended r = to_nearest_integer(A, R);
     const extended z = r * r, w = z * z;
     const extended P = horner_from(w, horner(w, ld_sinp), ld_sinp_e);
     const extended Q = horner_from(w, horner(w, ld_sinq), ld_sinq_e);

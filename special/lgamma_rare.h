@@ -36,6 +36,13 @@ template <class T> bool no_log_gamma(T x, T above, T* result, int* status) {
     return true;
 }
 
+// The distance from A to the nearest integer, up to its sign, by that to an integer R next to A, which is the nearest
+// one in the default rounding mode.
+inline extended to_nearest_integer(extended A, extended R) {
+    const extended r = A - R;
+    return r > 0.5L ? r - 1 : r < -0.5L ? r + 1 : r;
+}
+
 // log|gamma(x)| for x < 0 by gamma(x) = gamma(y) / (x (x + 1) ... (y - 1)), y the first of x, x + 1 ... that is not
 // below 1.
 template <class LogGamma, class Log> extended shifted_up(extended x, LogGamma log_gamma, Log log_of) {

@@ -122,7 +122,7 @@ extended log_gamma_of_negative(float x) {
     }
     // gamma(x) gamma(A) = pi / (x sin(pi x)), A = -x
     const float A = -x;
-    const extended r = extended(A) - to_integer_nearest(x);
+    const extended r = to_nearest_integer(A, to_integer_nearest(x));
     const extended z = r * r;
     const double distance = r < 0 ? -r : r;
     extended T;

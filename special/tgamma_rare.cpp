@@ -29,7 +29,8 @@ template <class T, class V> shifted<V> gamma_from_2(T A, T F, uint32_t n) {
     return {G, p};
 }
 
-template <class T> [[gnu::noinline]] int tgamma_rare(const T* argument, T* result) {
+// The result is T's, or the unrounded value.
+template <class T, class Result = T> [[gnu::noinline]] int tgamma_rare(const T* argument, Result* result) {
     using c = tgamma_constants<T>;
     using V = typename c::working;
     using word = decltype(bits(T()));
@@ -50,7 +51,8 @@ template <class T> [[gnu::noinline]] int tgamma_rare(const T* argument, T* resul
         return overflow;
     }
 
-    // The nearest integer R, its parity the low bit of S, and F below A.
+    // An integer R next to A, the nearest one in the default rounding mode, its parity the low bit of S; and F below
+    // A.
     const T S = A + c::whole, R = S - c::whole;
     const bool above = A < R;
     const T F = above ? R - 1 : R;
@@ -65,8 +67,8 @@ template <class T> [[gnu::noinline]] int tgamma_rare(const T* argument, T* resul
             *result = (n % 2 ? 1 / c::huge : -1 / c::huge) * (1 / c::huge);
             return c::underflows;
         }
-        const T r = above ? R - A : A - R;
-        s = c::sine(V(r));
+        const T t = A - F;
+        s = c::sine(V(t > T(0.5) ? 1 - t : t));
     } else if (x >= c::over) {
         *result = c::huge * c::huge;
         return overflow;
@@ -86,7 +88,7 @@ template <class T> [[gnu::noinline]] int tgamma_rare(const T* argument, T* resul
             if (n % 2 == 0) y = -y;
         } else y = G * p;
     }
-    *result = T(y);
+    *result = Result(y);
     return ordinary;
 }
 

@@ -4,6 +4,7 @@
 #include "gamma_rows.h"
 #include "rounding_bounds.h"
 #include "special/lgamma_pieces.h"
+#include "special/lgamma_rare.h"
 #include "special/lgammaf_pieces.h"
 #include "special/tgamma_pieces.h"
 
@@ -40,7 +41,14 @@ polynomial interpolated(const function& f, const real& lo, const real& hi, const
     return p;
 }
 
+// Of a sample one row in 16 is fitted, and texts have no headings but a form feed after each row.
+bool is_sample = false;
+int rows_seen = 0;
+bool left_out() { return is_sample && rows_seen++ % 16; }
+const char* end_of_row() { return is_sample ? "\f" : ""; }
+
 std::string heading(const std::string& what, double error) {
+    if (is_sample) return "";
     char s[40];
     snprintf(s, sizeof s, "error 2^%.1f\n", error);
     return "// " + what + s;
@@ -53,6 +61,7 @@ struct rows_of_eight {
 
     // f on [lo, hi] in powers of x - lo. With an exact constant term the rest is fitted to (f(x) - f(lo)) / (x - lo).
     void add(const function& f, const real& lo, const real& hi, bool exact_at_lo, bool relative) {
+        if (left_out()) return;
         polynomial p;
         if (exact_at_lo) {
             const real f0 = f(lo);
@@ -63,7 +72,7 @@ struct rows_of_eight {
         for (auto& c : p)
             w.f64(tables::rounded_f64(c)), c = tables::rounded_f64(c);
         w.end_row();
-        text += w.text;
+        text += w.text + end_of_row();
         for (int k = 1; k < 64; k++) {
             const real x = lo + (hi - lo) * k / 64, truth = f(x), off = magnitude(value(p, x - lo) - truth);
             const real error = relative ? off / magnitude(truth) : off;
@@ -207,7 +216,10 @@ real evaluation_error(const double_row& row, const real& lo, const real& hi) {
     return off;
 }
 
-// The margin of a row relative to its value: how far the slow path can be from the row, with all rounding errors of
+// Margins are the proven bound times this, so that no argument takes more than half of one.
+constexpr double slack = 1.25;
+
+// The bound of a row relative to its value: how far the slow path can be from the row, with all rounding errors of
 // both, at most over the row.
 double margin_of(const double_row& row, const std::vector<part>& parts, const real& centre, bool zero_at_centre) {
     real most = 0;
@@ -225,10 +237,6 @@ double margin_of(const double_row& row, const std::vector<part>& parts, const re
             }
             const auto slow = s.computed(centre + lo, centre + hi);
             const real error = fit + slow.error + evaluation_error(row, lo, hi);
-            if (getenv("DEB") && most < error / slow.least())
-                printf("  at %g u %g: fit 2^%.1f slow 2^%.1f eval 2^%.1f\n", tables::rounded_f64(centre),
-                       tables::rounded_f64(lo), log2_of(fit / slow.least()), log2_of(slow.error / slow.least()),
-                       log2_of(evaluation_error(row, lo, hi) / slow.least()));
             most = larger(most, error / slow.least());
         };
         const real a = s.lo - centre, b = s.hi - centre;
@@ -258,7 +266,7 @@ std::string text_of(const double_row& row, double last, bool with_last) {
         w.f64(tables::rounded_f64(c));
     if (with_last) w.f64(last);
     w.end_row();
-    return w.text;
+    return w.text + end_of_row();
 }
 
 real true_log_gamma(const real& x) {
@@ -278,10 +286,127 @@ exact_polynomial log_series(const real& centre) {
     }
     return c;
 }
-// What the slow path's logarithm adds to its last rounding: its polynomial and table are good to 2^-70.
+// The slow path's logarithm: its last rounding, from 512 on that of the sum before it, and 2^-70 for its polynomial
+// and tables, more than a test finds.
 bounded<64> computed_log(const real& lo, const real& hi) {
     const real a = tables::log(lo), b = tables::log(hi);
-    return {a, b, half_ulp(larger(magnitude(a), magnitude(b)), 64) + power_of_two(-70)};
+    const real largest = larger(magnitude(a), magnitude(b));
+    return {a, b, half_ulp(largest, 64) * (real(512) < largest ? 2 : 1) + power_of_two(-70)};
+}
+
+// ---- Margins that are no row's: the bounds of their steps, summed over all ranges.
+
+real ln_fit,
+    sine_fit; // how far lgamma's rows of ln and of the sine are from the functions, set where they are fitted
+
+struct step {
+    const char* what;
+    real bound; // relative to what the margin multiplies
+};
+// Throws where the steps together exceed the margin, at which argument they do so.
+void hold(const char* range, const real& at, const std::vector<step>& steps, const real& margin, real* worst) {
+    real sum = 0;
+    for (const auto& s : steps)
+        sum = sum + s.bound;
+    *worst = larger(*worst, sum / margin);
+    if (!(margin < sum)) return;
+    std::string text =
+        std::string(range) + ": the margin is too small at " + std::to_string(tables::rounded_f64(at)) + ":";
+    for (const auto& s : steps)
+        text += std::string(" ") + s.what + " " + std::to_string(tables::rounded_f64(s.bound * power_of_two(64)));
+    throw std::runtime_error(text + " times 2^-64");
+}
+// The slow path's polynomials against the true function, for y from 0.875 to 512; sampled, with a quarter more.
+real slow_log_gamma_off(const real& y) {
+    const double where = tables::rounded_f64(y);
+    return magnitude(value(lgamma_pieces::log_gamma(where, exact_polynomial({real(0), real(1)})).c, y) -
+                     true_log_gamma(y)) *
+           1.25;
+}
+
+void prove_lgamma_margins() {
+    const real margin = lgamma_pieces::term_margin, once = power_of_two(-64); // one rounding of the slow path
+    const real pairs = power_of_two(-90); // what the pairs of doubles lose: a few roundings of 2^-105
+    real worst = 0;
+    // Below 1/8: log gamma(1 + x) - ln x.
+    for (int e = -1000; e < -3; e++)
+        for (int i = 0; i < 8; i++) {
+            const real unit = power_of_two(e) / 8, lo = unit * (8 + i), hi = lo + unit;
+            const auto y = bounded<64>(lo + 1, hi + 1).rounded();
+            const auto g = lgamma_pieces::log_gamma(1 + tables::rounded_f64((lo + hi) / 2), y);
+            const auto slow = g - computed_log(lo, hi);
+            const real least = slow.least(), row = g.largest() * power_of_two(-60); // margins of rows around 1
+            hold("lgamma below 1/8", lo,
+                 {{"slow path", slow.error / least}, {"row", row / least}, {"ln", (ln_fit + pairs) / least}}, margin,
+                 &worst);
+        }
+    // From 512: (x - 1/2) L - x + ln(2 pi) / 2 + 1 / (12 x) - 1 / (360 x^3).
+    for (int e = 9; e < 1000; e++)
+        for (int i = 0; i < 16; i++) {
+            const real unit = power_of_two(e) / 16, lo = unit * (16 + i), hi = lo + unit;
+            const bounded<64> x(lo, hi), L = computed_log(lo, hi);
+            const auto V = ((x + -0.5L) * L + lg_half_log2pi) - x;
+            const real least = V.least();
+            hold("lgamma from 512", lo,
+                 {{"slow path", V.error / least},
+                  {"its last sum", once},
+                  {"series and its end", power_of_two(-74) / least},
+                  {"ln", hi * (ln_fit + pairs) / least}},
+                 margin, &worst);
+        }
+    // Negative x, A = -x, v = log gamma(A), L = ln(A sin(pi r) / pi): the margin is (|v| + |L|) times the one above,
+    // an absolute part, and v's own from its row.
+    const real absolute = lgamma_pieces::reflection_margin;
+    real off = 0; // of the slow path's polynomials, absolute, where it takes them at 1 to 2 and the rows at A
+    for (int i = 0; i < 1024; i++)
+        off = larger(off, slow_log_gamma_off(real(1) + real(i) / 1024));
+    for (int n = 0; n < 511; n++) {
+        if (n > 40 && n % 10) continue;
+        for (int k = 1; k <= 60; k++)
+            for (int side : {1, -1}) {
+                if (n == 0 && side < 0) continue;
+                const real r = k < 16 ? real(k) / 30 : power_of_two(-k), A = real(n) + r * side;
+                const bool tiny = A < real(1) / 8;
+                const real v = magnitude(true_log_gamma(tiny ? A + 1 : A));
+                const real sine = magnitude(tables::cos((real(1) / 2 - r) * tables::pi())) / tables::pi();
+                const real lnA = tables::log(A), l = magnitude(tables::log(tiny ? sine : sine * A));
+                const real all = (v + l) * margin + absolute;
+                const real common = (ln_fit + sine_fit * 2 + pairs) + power_of_two(-70) * 2;
+                const real slow_off = A < real(7) / 8 ? off : slow_log_gamma_off(A); // of v against its row's fit
+                if (A < real(17)) {
+                    // log gamma(y) - ln p, y from 1 to 2, p of as many factors as the unit has; from -15 on p is
+                    // compensated, and then its factors cost next to nothing.
+                    const int factors = A < real(15) ? n + 1 : 3;
+                    const real rounding = once * (n < 1 ? 2 : factors) + once / 4; // the product's and y's
+                    hold("lgamma of negative x", -A,
+                         {{"product", rounding / all},
+                          {"its logarithm", once * (v + l + real(1) / 8) / all},
+                          {"difference", once * (v + l) / all},
+                          {"polynomials", (off + slow_off) / all},
+                          {"log gamma from 1 to 2", once / 4 / all},
+                          {"ln and sine", common / all}},
+                         1, &worst);
+                } else {
+                    // ((-ln A - log gamma(A)) - T) - ln r, |T| below 1/2
+                    const real sum = v + lnA, lnr = magnitude(tables::log(r));
+                    hold("lgamma of negative x", -A,
+                         {{"ln A", once * lnA / all},
+                          {"ln r", once * lnr / all},
+                          {"T", once / all},
+                          {"sums", once * (sum * 2 + real(1) / 2 + v + l) / all},
+                          {"ln and sine", common / all}},
+                         1, &worst);
+                }
+            }
+    }
+    printf("lgamma: at most %.2f of the margins that are no row's\n", tables::rounded_f64(worst));
+}
+// gamma's pairs: up to seven factors and the quotient, of a few roundings of 2^-105 each, against what rows allow
+// for.
+void prove_tgamma_pairs() {
+    real worst = 0;
+    hold("tgamma", 1, {{"factors", power_of_two(-105) * 14}, {"quotient", power_of_two(-103) * 4}}, power_of_two(-75),
+         &worst);
 }
 
 // log gamma of the slow path around 16 grid points per binade, from 1/8 to 512; the last column is the margin.
@@ -290,6 +415,7 @@ file lgamma_rows() {
     std::string text;
     real worst = 0;
     for (int k = 0; k <= 16 * 12; k++) {
+        if (left_out()) continue;
         const int e = k / 16 - 3, i = k % 16;
         const real step = power_of_two(e) / 16, centre = power_of_two(e) + step * i;
         std::vector<real> ends = {centre - step / (i ? 2 : 4)};
@@ -319,8 +445,8 @@ file lgamma_rows() {
         }
         const bool zero = centre == 1 || centre == 2;
         const auto row = fit_double_row(parts, true_log_gamma, centre, 11, zero);
-        const double margin = margin_of(row, parts, centre, zero);
-        if (getenv("VERBOSE")) printf("%g margin 2^%.2f\n", tables::rounded_f64(centre), std::log2(margin));
+        // Of few roundings next to all can fall together, of many never.
+        const double margin = margin_of(row, parts, centre, zero) * (centre < real(2.25) ? 2 : slack);
         worst = larger(worst, margin);
         text += text_of(row, margin, true);
     }
@@ -338,9 +464,10 @@ part exact_part(const real& lo, const real& hi, exact_polynomial (*series)(const
 real fit_error(const double_row& row, const part& p, const real& centre) {
     const polynomial off = (p.slow(centre) - exact_polynomial(row.all())).c;
     real worst = 0;
-    for (int i = 0; i < 1024; i++)
-        worst = larger(worst, bound_of(off, p.lo - centre + (p.hi - p.lo) * i / 1024,
-                                       p.lo - centre + (p.hi - p.lo) * (i + 1) / 1024));
+    const int pieces = is_sample ? 32 : 1024;
+    for (int i = 0; i < pieces; i++)
+        worst = larger(worst, bound_of(off, p.lo - centre + (p.hi - p.lo) * i / pieces,
+                                       p.lo - centre + (p.hi - p.lo) * (i + 1) / pieces));
     return worst;
 }
 
@@ -357,6 +484,7 @@ file lgamma_ln_rows() {
         worst = larger(worst, fit_error(row, p, centre));
         text += text_of(row, 0, false);
     }
+    ln_fit = worst;
     return {"special/tables/lgamma_ln.inc", heading("ln around sixteenths, absolute: ", log2_of(worst)) + text};
 }
 // sin(pi r) / (pi r) in z = r^2.
@@ -370,6 +498,7 @@ file lgamma_sine_row() {
     const auto p = exact_part(0, real(1) / 4, sine_series);
     auto row = fit_double_row({p}, nullptr, 0, 11, false);
     const auto error = fit_error(row, p, 0);
+    sine_fit = error;
     return {"special/tables/lgamma_sine.inc",
             heading("sin(pi r) / (pi r) in r^2, absolute: ", log2_of(error)) + text_of(row, 0, true)};
 }
@@ -403,6 +532,7 @@ std::vector<file> tgamma_rows() {
     real worst_fit = 0;
     auto unit = [&](int n) {
         for (int i = 0; i < 8; i++) {
+            if (left_out()) continue;
             const real lo = real(n) + real(i) / 8, hi = lo + real(1) / 8, centre = n == 1 ? lo : (lo + hi) / 2;
             const double where = tables::rounded_f64((lo + hi) / 2);
             const part p = {lo, hi, [=](const real& c) { return exact_gamma(n, where, c); }, nullptr};
@@ -419,13 +549,10 @@ std::vector<file> tgamma_rows() {
             for (int k = 0; k < 32; k++)
                 rounding = larger(rounding,
                                   gamma_rounding(n, where, lo + (hi - lo) * k / 32, lo + (hi - lo) * (k + 1) / 32));
-            const real margin = (fit + rounding + power_of_two(-75)) * (real(1) + power_of_two(-20));
-            if (getenv("VERBOSE"))
-                printf("tgamma from %g: fit 2^%.2f rounding 2^%.2f\n", tables::rounded_f64(lo), log2_of(fit),
-                       log2_of(rounding));
+            const real margin = (fit + rounding + power_of_two(-75)) * slack;
             writer w;
             w.f64(tables::rounded_f64(margin)), w.end_row();
-            margins += w.text;
+            margins += w.text + end_of_row();
             text += text_of(row, 0, false);
         }
     };
@@ -444,13 +571,14 @@ std::vector<file> tgamma_rows() {
         printf("tgamma, %s: proven 2^%.2f, margin 2^%.2f\n", what, log2_of(proven), std::log2(margin));
         if (real(margin) < proven) throw std::runtime_error("tgamma: a margin is too small");
     };
-    check("reflection", sine + power_of_two(-62) + power_of_two(-66), tgamma_reflection_margin);
+    const real products = power_of_two(-64) * 4; // sine, A, gamma's two factors and the quotient after these
+    check("reflection", sine + products + power_of_two(-66), tgamma_reflection_margin);
     return {
         {"special/tables/tgamma_eighths.inc",
          heading("the slow path's gamma on eighths, with the evaluation's rounding, relative: ", log2_of(worst_fit)) +
              text},
         {"special/tables/tgamma_margins.inc",
-         "// for each eighth what the slow path can be from the row, relative\n" + margins}};
+         (is_sample ? "" : "// for each eighth what the slow path can be from the row, relative\n") + margins}};
 }
 exact_polynomial slow_sine(const real&) {
     const exact_polynomial z({real(0), real(1)});
@@ -466,11 +594,14 @@ file tgamma_sine_row() {
 
 } // namespace
 
-std::vector<file> gamma_rows() {
+std::vector<file> gamma_rows(bool sample) {
+    is_sample = sample;
     std::vector<file> files = tgamma_rows();
     for (auto rows :
          {lgammaf_rows, ln_rows, tgammaf_rows, lgamma_rows, lgamma_ln_rows, lgamma_sine_row, tgamma_sine_row})
         files.push_back(rows());
+    prove_lgamma_margins();
+    prove_tgamma_pairs();
     return files;
 }
 

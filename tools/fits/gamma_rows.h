@@ -8,7 +8,8 @@ namespace orvane::fits {
 struct file {
     std::string path, text;
 };
-// The files of rows, each with the error that its fits reach.
-std::vector<file> gamma_rows();
+// The files of rows, each with the error that its fits reach. Of a sample one row in 16, each with a form feed after
+// it.
+std::vector<file> gamma_rows(bool sample);
 
 } // namespace orvane::fits
