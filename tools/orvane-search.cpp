@@ -44,8 +44,8 @@ struct options {
     double seconds = 60, from = 0, to = HUGE_VAL;
     uint64_t seed = 1;
     bool every = false;
-    std::array<uint64_t, 2> near{}; // where `within` is not 0, fresh arguments are drawn around these
-    int within = 0;                 // so many low bits of their patterns are drawn
+    subject::lane near{}; // where `within` is not 0, fresh arguments are drawn around these
+    int within = 0;       // so many low bits of their patterns are drawn
 };
 
 double processor_seconds() {
