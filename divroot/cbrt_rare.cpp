@@ -56,6 +56,7 @@ ORVANE_SLOW_PATH(__orvane_scbrt_cout_rare, const float* x, float* result) {
     const float scale = f32(((q | (top & 0x100)) << 23) + 0x2A800000);
     const auto [hi, lo] = T.root_pairs_f.entry[32 * rem + i];
     const float HS = hi * scale, LS = lo * scale;
+    // Fit on |u| <= 2^-6: 1 + u*horner_up(u, coefficients) = cbrt(1 + u) to 2^-32.9 relative
     constexpr float coefficients[] = {f32(0x3EAAAAAB), f32(0xBDE38E39), f32(0x3D7CD6EA), f32(0xBD288F47)};
     const float P = horner_up(u, coefficients);
     *result = ((LS + (u * HS) * P) + HS) * 0x1p-42f;

@@ -59,7 +59,7 @@ struct dcbrt_rare_table {
     double cbrt_seed[32];
     hi_lo<double> two_thirds;
     double k[11];
-    double scale_up, splitter, seed_splitter; // 2^300, 2^27 + 1, 2^43 + 1
+    double scale_up, splitter, seed_splitter;
     hi_lo<double> two_roots[3];
     double zero, sign[2];
 };
@@ -70,7 +70,7 @@ extern "C" [[gnu::visibility("hidden")]] const dcbrt_rare_table __dcbrt_g__orvdC
 // polynomial fitted to (1 - v)^(-1/3), its first coefficient in two parts, the high one short for an exact product.
 struct rcbrt_rare_table {
     double rcbrt_seed[97];
-    double index_shifter, splitter, scale_up; // 2^47 + 1, 2^37, 2^90
+    double index_shifter, splitter, scale_up;
     double zero, one;
     double third_hi, third_lo, j[7];
 };

@@ -5,7 +5,8 @@ namespace orvane {
 
 namespace {
 
-// The terms of (1 - e)^(-1/2) from e^2 on, fitted where e is small.
+// The terms of (1 - e)^(-1/2) from e^2 on.
+// Fit on |e| <= 2^-5.9: 1 + e/2 + e^2*horner_up(e, inverse_sqrt) = 1/sqrt(1 - e) to 2^-58.9 relative
 constexpr double inverse_sqrt[] = {f64(0x3FD8000000000001), f64(0x3FD400000000138B), f64(0x3FD17FFFFFFE2A26),
                                    f64(0x3FCF7FFFEC1426E4), f64(0x3FCCE000C07A3B3E), f64(0x3FCAD28A9E3226DF),
                                    f64(0x3FC91A80BFBF8B2A)};

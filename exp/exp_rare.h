@@ -37,17 +37,16 @@ inline reduced_exponent reduce(double x, const exp_base& b) {
 
 // b^r - 1.
 inline double expm1_polynomial(double r) {
-    double p = f64(0x3F56C16A1C2A3FFD);
-    p = p * r + f64(0x3F8111123AAF20D3);
-    p = p * r + f64(0x3FA5555555558FCC);
-    p = p * r + f64(0x3FC55555555548F8);
-    p = p * r + 0.5;
-    return (p * r) * r + r;
+    // Fit on |r| <= ln2/128: r + k2*r^2 + k3*r^3 + k4*r^4 + k5*r^5 + k6*r^6 = exp(r) - 1 to 2^-61.7 relative
+    constexpr double k2 = 0.5, k3 = f64(0x3FC55555555548F8), k4 = f64(0x3FA5555555558FCC),
+                     k5 = f64(0x3F8111123AAF20D3), k6 = f64(0x3F56C16A1C2A3FFD);
+    return (((((k6 * r + k5) * r + k4) * r + k3) * r + k2) * r) * r + r;
 }
 inline double exp10m1_polynomial(double r) {
-    return ((((0.5393660213379269 * r + 1.1712567517670747) * r + 2.0346785924261965) * r + 2.6509490552364285) * r +
-            2.3025850929940455) *
-           r;
+    // Fit on |r| <= ln2/log(10)/128: t1*r + t2*r^2 + t3*r^3 + t4*r^4 + t5*r^5 = 10^r - 1 to 2^-50.3 relative
+    constexpr double t1 = 2.3025850929940455, t2 = 2.6509490552364285, t3 = 2.0346785924261965,
+                     t4 = 1.1712567517670747, t5 = 0.5393660213379269;
+    return ((((t5 * r + t4) * r + t3) * r + t2) * r + t1) * r;
 }
 
 // v * 2^e where the result is normal; at the top 2^e itself is no double.

@@ -16,6 +16,7 @@ inline constexpr table<double, 257> half_exp2_256 = {{
 // 2^(j/256) / 2
 #include "hyperbolic/tables/half_exp2_256.inc"
 }};
+// Fits by rows for x below 20, y = x - centre: tanh_60.inc to 2^-55.0 relative.
 struct tanh_row {
     double value_rest;      // what rounding took from the value at the centre
     double value;           // tanh at the centre

@@ -13,6 +13,7 @@ ORVANE_SLOW_PATH(__orvane_dlog10_cout_rare, const double* x, double* result) {
     const double t = Mh * R + -0.43359375, u = Ml * R;
     const double A = f64(0x3FD34413509F8000) * K + hi, Bl = f64(0xBD380433B83B532A) * K + lo;
     const double v = t + u;
+    // Fit on |v| <= 2^-7.6: v + v*horner(v, p) = log(1 + v/0.43359375)/log(10) to 2^-58.6 relative
     static constexpr double p[] = {-43.39945393331915,  21.537397485614264,   -10.89268808217976,
                                    5.667600559012126,   -3.0717952611199135,  1.7758816353485936,
                                    -1.1550167667401798, 0.0016161024074997103};
@@ -45,6 +46,7 @@ template <int Scaling, class Part> float scaled_log(float x, const rare_log_entr
 ORVANE_SLOW_PATH(__orvane_slog10_cout_rare, const float* x, float* result) {
     int status;
     if (no_logarithm(*x, result, &status)) return status;
+    // Fit on |v| <= 1.3: v + v*horner(v, p) = log(1 + v/111.1796875)/log(10) to 2^-18.5 relative
     static constexpr float p[] = {f32(0xA22B5DAE), f32(0x25AA5BFD), f32(0xA92C998B), f32(0x2CB3E701),
                                   f32(0xB04353B9), f32(0x33E23666), f32(0xB7935D5A), f32(0xBF7F0000)};
     *result = scaled_log<40>(*x, __slog10_g_CoutTab, 111.1796875f, p, [](float K, float hi, float lo) {
@@ -56,6 +58,7 @@ ORVANE_SLOW_PATH(__orvane_slog10_cout_rare, const float* x, float* result) {
 ORVANE_SLOW_PATH(__orvane_slog2_cout_rare, const float* x, float* result) {
     int status;
     if (no_logarithm(*x, result, &status)) return status;
+    // Fit on |v| <= 3: v + v*horner(v, p) = log2(1 + v/369.330078125) to 2^-21.2 relative
     static constexpr float p[] = {f32(0x9C1D865E), f32(0x2081CD9D), f32(0xA4DA74DC), f32(0x293D1988),
                                   f32(0xADAA8223), f32(0x3223FE93), f32(0xB6B1720F), f32(0xBF7F0000)};
     *result = scaled_log<27>(*x, __slog2_g_CoutTab, 369.330078125f, p, [](float K, float hi, float lo) {
@@ -88,10 +91,14 @@ ORVANE_SLOW_PATH(__orvane_dlog2_cout_rare, const double* x, double* result) {
     const double rc = __dlog2_g___libm_rcp_table_256[i];
     const double M = significand(d), Mh = f64(bits(M) & 0xFFFFFFFF00000000), Ml = M - Mh;
     const double t = Mh * rc + -1.0, u = Ml * rc, v = t + u, vsq = v * v;
-    const double W = ((-0.24045091916380087 * vsq + -0.36067376021722414) * vsq + -0.7213475204444817) * vsq +
-                     ((0.2885405044652136 * vsq + 0.48089834696027206) * vsq + 3.7688749856434016e-07) * v;
-    double a = u * 1.4426946640014648 + W;
-    const double b = t * 1.4426946640014648, bh = (b + 4294967296.0) + -4294967296.0;
+    // Fit on |v| <= 2^-8.8: (q0 + q1)*v + q2*v^2 + q3*v^3 + q4*v^4 + q5*v^5 + q6*v^6 = log2(1 + v)
+    // to 2^-59.9 relative
+    constexpr double q0 = 1.4426946640014648, q1 = 3.7688749856434016e-07, q2 = -0.7213475204444817,
+                     q3 = 0.48089834696027206, q4 = -0.36067376021722414, q5 = 0.2885405044652136,
+                     q6 = -0.24045091916380087;
+    const double W = ((q6 * vsq + q4) * vsq + q2) * vsq + ((q5 * vsq + q3) * vsq + q1) * v;
+    double a = u * q0 + W;
+    const double b = t * q0, bh = (b + 4294967296.0) + -4294967296.0;
     a = (b - bh) + a;
     const auto [lo, hi] = __dlog2_g___libm_log2_table_256[i];
     a = a + lo;

@@ -28,6 +28,7 @@ template <class T> struct ln_constants;
 template <> struct ln_constants<double> {
     static constexpr double cut = 2097152.0; // leaves multiples of 2^-31
     static constexpr double ln2_hi = f64(0x3FE62E42FEFA3800), ln2_lo = f64(0x3D2EF35793C76730);
+    // Fit on |v| <= 2^-6.9: v + v^2*horner(v, p) = log(1 + v) to 2^-63.1 relative
     static constexpr double p[] = {f64(0xBFC000B405A2836D),
                                    f64(0x3FC249C02481059D),
                                    f64(0xBFC555555228B38F),
@@ -40,6 +41,7 @@ template <> struct ln_constants<double> {
 template <> struct ln_constants<float> {
     static constexpr float cut = 8192.0f; // leaves multiples of 2^-10
     static constexpr float ln2_hi = f32(0x3F317200), ln2_lo = f32(0x35BFBE8E);
+    // Fit on |v| <= 2^-6.9: v + v^2*horner(v, p) = log(1 + v) to 2^-40.4 relative
     static constexpr float p[] = {f32(0xBE0005A0), f32(0x3E124E01), f32(0xBE2AAAAB), f32(0x3E4CCCCD),
                                   f32(0xBE800000), f32(0x3EAAAAAB), f32(0xBF000000)};
     static constexpr auto& entries = __sln_g_CoutTab;

@@ -113,6 +113,8 @@ extended log_gamma_of_negative(double x) {
 
     // gamma(x) gamma(A) = pi / (x sin(pi x)), A = -x; T = ln(sin(pi r) / (pi r)), r the distance to the nearest
     // integer R.
+    // Fit on |r| <= 1/2, z = r^2, w = r^4: z*(w^3*horner(w, ld_sinp) + horner(w, ld_sinp_e)) +
+    // w*(w^3*horner(w, ld_sinq) + horner(w, ld_sinq_e)) = log(sin(pi*r)/(pi*r)) to 2^-56.8 relative
     constexpr double ld_sinp[] = {f64(0x3FD36D6D6CE263D7), f64(0xBF9957F5146FC7AF), f64(0xBFBBE1703F315086),
                                   f64(0xBFC248DEC29CAC4A)};
     constexpr extended ld_sinp_e[] = {-0xCD00EFF2F8F86899p-66L, -0xADA06587FACD668Bp-65L, -0xD28D3312983E98A0p-63L};

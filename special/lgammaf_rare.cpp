@@ -22,6 +22,8 @@ double without_low_word(double v) { return f64(bits(v) & 0xFFFFFFFF00000000); }
     constexpr double ol_third = f64(0x3FD5555555555555);
     const uint32_t h = uint32_t(bits(x) >> 32);
     if (h >= 0x3FEFFF00 && h <= 0x3FF0007F) { // 1 and what is within 2^-13 of it
+        // Fit on |d| <= 2^-13, z = d^2: d + d*(z*(ol_t0*z + ol_third) + d*(ol_t1*z - 1/2)) = log(1 + d)
+        // to 2^-69.2 relative
         constexpr double ol_t0 = f64(0x3FC99999A199B4B4), ol_t1 = f64(0xBFD0000003555556);
         if (x == 1) return 0;
         const double d = x + -1;
@@ -32,6 +34,8 @@ double without_low_word(double v) { return f64(bits(v) & 0xFFFFFFFF00000000); }
         return a * d + d;
     }
     if (h >= 0x3FEF8000 && h < 0x3FF04000) { // within 2^-6: d - d^2 / 2 with d^2 in two exact parts
+        // Fit on |d| <= 2^-6, z = d^2: d - z/2 + z*(d*horner(z, ol_m) + z*horner(z, ol_n)) = log(1 + d)
+        // to 2^-68.1 relative
         constexpr double ol_m[] = {f64(0x3FBC756A566CE20D), f64(0x3FC2492478D1D116), f64(0x3FC99999999A2B21),
                                    ol_third};
         constexpr double ol_n[] = {f64(0xBFB99D9A03A0403E), f64(0xBFBFFFFFB94B8A57), f64(0xBFC5555555566AD6),
@@ -55,6 +59,8 @@ double without_low_word(double v) { return f64(bits(v) & 0xFFFFFFFF00000000); }
     }
     // x = 2^e y: ln y = ln(1 + r) - ln c, r = y c - 1 in two parts, the first exact.
     constexpr double ln2_hi = f64(0x3FE62E42FEE00000), ln2_lo = f64(0x3DEA39EF35793C76);
+    // Fit on |r| <= 2^-8.8, z = r^2: r + z*((ol_a0*z + ol_a1)*z - 1/2) + r*z*(ol_b0*z + ol_b1) = log(1 + r)
+    // to 2^-59.3 relative
     constexpr double ol_a0 = f64(0xBFC5555F7BD1FCD4), ol_a1 = f64(0xBFCFFFFFFFFE169D),
                      ol_b0 = f64(0x3FC999A24CDB6ABC), ol_b1 = f64(0x3FD555555554D0DF);
     const double e = int(h >> 20) - 1023;

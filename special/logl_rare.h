@@ -35,6 +35,8 @@ extended with_exponent_0(extended_fields f) {
     const extended_fields f = fields(y);
     const uint32_t w = uint32_t(f.exponent) << 16 | uint32_t(f.significand >> 48);
     if (w >= 0x3FFEFFFF && w <= 0x3FFF8000) { // 1 and what is within 2^-15 of it
+        // Fit on |d| <= 2^-15, z = d^2: d + z*(ll_n2*z - 1/2) + d*z*(ll_n0*z + ll_n1) = log(1 + d)
+        // to 2^-76.5 relative
         constexpr extended ll_n0 = 0xCCCACCD25F7EF9AAp-66L, ll_n1 = 0xAAAAAAAAAAAC1552p-65L,
                            ll_n2 = -0xFFFFFFFFC004AE8Ap-66L;
         if (y == 1) return 0;
@@ -46,6 +48,8 @@ extended with_exponent_0(extended_fields f) {
     }
     if (w >= 0x3FFEF800 && w <= 0x3FFF8800) {
         // d - d^2 / 2 + d^3 / 3 with d = a + b, a short enough for an exact square, the head of 1/3 short too
+        // Fit on -1/32 <= d <= 1/16, z = d^2: d + d*(z*(ll_third + horner(z, ll_p)) + d*(horner(z, ll_q) - 1/2)) =
+        // log(1 + d) to 2^-80.3 relative
         constexpr float ll_split = 0x1.8p52f, ll_third = 0x1.554p-2f;
         constexpr extended ll_p[] = {0xDA3EB73F2509BDB7p-68L, 0x9D86222D7A648AC4p-67L, 0xBA2E9A1CE811D305p-67L,
                                      0xE38E38DDBC1754F0p-67L, 0x9249249249A4A0C4p-66L, 0xCCCCCCCCCCCCC236p-66L,
@@ -75,6 +79,8 @@ extended with_exponent_0(extended_fields f) {
     // y = 2^e m: ln m = ln(1 + r) - ln c, r = m c - 1 in two parts, the first exact.
     constexpr float ll_round = 0x1.8p32f;
     constexpr double ll_ln2_hi = f64(0x3FE62E42FF000000), ll_ln2_lo = f64(0xBDC718432A1B0E26);
+    // Fit on |r| <= 2^-8.8, z = r^2: r + z*((ll_b0*z + ll_b1)*z + ll_b2) + r*z*((ll_a0*z + ll_a1)*z + ll_a2) =
+    // log(1 + r) to 2^-69.3 relative
     constexpr extended ll_a0 = 0x92497ECBBF12A224p-66L, ll_a1 = 0xCCCCCCCCB4796149p-66L,
                        ll_a2 = 0xAAAAAAAAAAAAABEAp-65L;
     constexpr extended ll_b0 = -0xAAAAFBDE6BC3DEDDp-66L, ll_b1 = -0xFFFFFFFFEFE6E52Ep-66L,

@@ -128,6 +128,8 @@ struct dtgamma_kernel : kernel<one_argument<double>, __orvane_dtgamma_data, __or
         return settle_gamma(c, x, a);
     }
 };
+// Largest known error of tgamma: 0.5058 ulp at 0xBFE02A5F8C8110AD
+// Largest known error of tgamma, slow path: 0.5136 ulp at 0xBFE02A71DE46B676
 ORVANE_EXPORT(tgamma, , dtgamma_kernel)
 
 } // namespace orvane

@@ -114,6 +114,8 @@ struct stgamma_kernel : kernel<one_argument<float>, __orvane_stgamma_data, __orv
         return settle_gamma(c, x, a);
     }
 };
+// Largest known error of tgammaf: 0.5028 ulp at 0x3E76253B
+// Largest known error of tgammaf, slow path: 0.5029 ulp at 0x3E753955
 ORVANE_EXPORT(tgammaf, , stgamma_kernel)
 
 } // namespace orvane

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "support.h"
+#include "tools/worst_cases.h"
 
 #include <algorithm>
 #include <bit>
@@ -74,6 +75,7 @@ struct allowed {
     allowed(double most, double least) : most(most), least(least) {}
     double most, least; // ulps
     double bent = 0;    // of kernels fed by estimates: with any estimate that the instruction set allows
+    bool from_file = false;
 };
 // Of a kernel fed by the processor's 12-bit estimates: `measured` on one kind of processor, with some room for others
 // of like make; `bent` is the largest error that estimates anywhere in their range (bent/bend.h) make, and the bound
@@ -83,6 +85,21 @@ inline allowed fed(double measured, double bent) {
         estimates_are_known() ? allowed(1.1 * measured, std::max(0.4, std::sqrt(measured) / 4)) : allowed(bent, 0);
     a.bent = bent;
     return a;
+}
+// The largest known error of data/worst_cases.txt, the pair's on any path; `bent` as for `fed`.
+inline allowed known(double bent = 0) {
+    allowed a(0, 0);
+    a.bent = bent;
+    a.from_file = true;
+    return a;
+}
+inline allowed of_file(const allowed& a, const kernel_row& row) {
+    if (!a.from_file) return a;
+    static const auto cases = read_worst_cases(ORVANE_SOURCES "/data/worst_cases.txt");
+    const auto [error, measure] = largest_known_error(row, cases);
+    const double per_ulp = measure == error_measure::ulp ? 1 : row.in == lane_type::f32 ? 0x1p24 : 0x1p53;
+    const double ulps = 1.00001 * error * per_ulp;
+    return a.bent ? fed(ulps, a.bent) : allowed(ulps);
 }
 inline void expect_error(const std::string& of, const allowed& a, const worst& w) {
     EXPECT_LE(w.ulps, a.most) << of << std::hex << " at " << w.argument << ", " << w.second;
@@ -113,8 +130,9 @@ inline worst sampled_error(sweep& f, truth& t, const words& x, extended_function
 }
 
 // The largest error within its bound; of a kernel fed by estimates under every bend as well, over some of the lanes.
-template <class... T> void expect_errors(const std::string& of, const allowed& a, sweep& f, truth& t,
+template <class... T> void expect_errors(const std::string& of, const allowed& bound, sweep& f, truth& t,
                                          const std::vector<words>& x, long double (*reference)(T...)) {
+    const allowed a = of_file(bound, f.row());
     const auto r = references(f.row(), x, reference);
     expect_error(of, a, largest_error(f, t, x, r));
     if (!a.bent) return;
@@ -167,7 +185,8 @@ inline void check_all_floats(const float_accuracy& a) {
             top.offer(approximate_ulps(lane_type::f32, std::bit_cast<uint32_t>(y), z), std::bit_cast<uint32_t>(y),
                       std::bit_cast<uint32_t>(x));
     });
-    expect_error(std::string(a.name) + " " + a.tier + " over all floats", a.bound, top.decided(f.row(), t, a.result));
+    expect_error(std::string(a.name) + " " + a.tier + " over all floats", of_file(a.bound, f.row()),
+                 top.decided(f.row(), t, a.result));
 }
 
 // Of results whose bits are a promise: FNV-1a over the words.

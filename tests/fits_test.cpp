@@ -1,4 +1,5 @@
 // The polynomials of the kernels' blocks against what their comments say that they are: function, interval and error.
+#include "tools/fits/minimax.h"
 #include "tools/fits/stated.h"
 #include "tools/whole_file.h"
 
@@ -27,6 +28,88 @@ TEST(Fits, ReachTheErrorsThatTheirCommentsState) {
     for (const auto& f : all)
         EXPECT_NEAR(fits::error_exponent(f), f.exponent, 0.051)
             << f.file.string() << ":" << f.line << ": build/fit-errors --write puts the computed error there";
+}
+
+// Rows of polynomials, whose comments state the largest error of any row.
+class row_table {
+public:
+    row_table(const std::string& file, int columns) : columns(columns) {
+        static const std::regex word(R"(f(32|64)\((0x[0-9A-F]+)\))");
+        const std::string text = contents_of(fs::path(ORVANE_SOURCES) / file);
+        for (std::sregex_iterator i(text.begin(), text.end(), word), end; i != end; ++i) {
+            const uint64_t bits = std::stoull((*i)[2], nullptr, 16);
+            words.push_back((*i)[1] == "64" ? std::bit_cast<double>(bits) : std::bit_cast<float>((uint32_t)bits));
+        }
+    }
+    int rows() const { return int(words.size()) / columns; }
+    const double* operator[](int i) const { return &words[i * columns]; }
+
+private:
+    int columns;
+    std::vector<double> words;
+};
+using tables::real;
+real polynomial_of(const double* from, int n, const real& x) { return fits::value({from, from + n}, x); }
+double tan_rows_error(const std::string& file, int coefficients) {
+    const row_table rows(file, 7 + coefficients);
+    real largest = 0;
+    for (int j = 0; j < rows.rows(); j++) {
+        const double* c = rows[j];
+        const real a = tables::pi() * j / rows.rows(), end = tables::pi() / (2 * rows.rows()), b = real(c[0]) + c[1];
+        for (const auto& R : fits::chebyshev_points(-end, end, 40)) {
+            const real v =
+                c[2] / (b - R) + c[3] + c[4] + R * (real(c[5]) + c[6] + R * polynomial_of(c + 7, coefficients, R));
+            largest = std::max(largest, fits::magnitude(v / tables::tan(a + R) - 1));
+        }
+    }
+    return fits::log2_of(largest);
+}
+double tanh_rows_error() {
+    const row_table rows("hyperbolic/tables/tanh_60.inc", 16);
+    const auto bound = [](int i) {
+        return real(i ? std::bit_cast<double>(uint64_t(0x3FBE0000 + (i << 17)) << 32) : 0);
+    };
+    real largest = 0;
+    for (int i = 0; i < rows.rows() - 1; i++) { // the last one serves what is beyond
+        const double* c = rows[i];
+        for (const auto& x : fits::chebyshev_points(bound(i), bound(i + 1), 40)) {
+            const real y = x + c[12], v = real(c[0]) + c[1] + y * polynomial_of(c + 2, 10, y);
+            const real error = fits::magnitude(v / tables::tanh(x) - 1);
+            if (mpfr_number_p(error.get())) largest = std::max(largest, error);
+        }
+    }
+    return fits::log2_of(largest);
+}
+TEST(Fits, OfRowsReachTheErrorsThatTheirCommentsState) {
+    const auto stated = [](const std::string& source, const std::string& table) {
+        const std::string text = contents_of(fs::path(ORVANE_SOURCES) / source);
+        std::smatch m;
+        return std::regex_search(text, m, std::regex(table + R"(\.inc to 2\^-([0-9.]+) relative)")) ? -std::stod(m[1])
+                                                                                                    : 0;
+    };
+    EXPECT_NEAR(tan_rows_error("trig/tables/tanf_rows.inc", 3), stated("trig/tan.cpp", "tanf_rows"), 0.051);
+    EXPECT_NEAR(tan_rows_error("trig/tables/tan_rows.inc", 6), stated("trig/tan.cpp", "tan_rows"), 0.051);
+    EXPECT_NEAR(tanh_rows_error(), stated("hyperbolic/hyperbolic_tables.h", "tanh_60"), 0.051);
+}
+
+// Polynomials of slow paths: each array that one evaluates has its fit stated in a file of the folder.
+TEST(Fits, AreStatedForTheArraysOfSlowPaths) {
+    static const std::regex call(R"(\bhorner(?:_up)?\(\w+, (?:\w+(?:\.|::))*(\w+)\))");
+    std::map<std::string, std::set<std::string>> stated;
+    for (const auto& f : all_fits())
+        stated[f.file.parent_path().filename()].insert(f.coefficients.begin(), f.coefficients.end());
+    int polynomials = 0;
+    for (auto folder : {"exp", "log", "pow", "divroot", "trig", "invtrig", "hyperbolic"})
+        for (const auto& source : fs::directory_iterator(fs::path(ORVANE_SOURCES) / folder)) {
+            const std::string name = source.path().filename();
+            if (name.find("_rare") == name.npos) continue;
+            const std::string text = contents_of(source.path());
+            for (std::sregex_iterator i(text.begin(), text.end(), call), end; i != end; ++i, polynomials++)
+                EXPECT_TRUE(
+                    stated[folder].contains((*i)[1] == "p" && name.starts_with("atan2") ? "at_p" : (*i)[1].str()))
+                    << folder << "/" << name << ": " << i->str() << ": no fit names it";
+        }
+    EXPECT_GE(polynomials, 8);
 }
 
 // What kernels evaluate by horner(...), which is most polynomials: each slot that stands in one has its fit stated in
@@ -84,13 +167,23 @@ TEST_F(StatedFits, AreComputedFromTheSlotsThatFollow) {
     // 1/2 over the smallest 2 s^2 + 3 s + 1 - y, which is 2 s^2 + 2 s + 1 + x with its least at x = 0, s = -1/2.
     EXPECT_NEAR(fits::error_exponent(f[1]), 0, 1e-9);
 }
+TEST_F(StatedFits, AreComputedFromConstantsAndArrays) {
+    const auto f =
+        of("// Fit on |v| <= 1/4: a + v*horner(v, k) + horner_up(v, l) = 1 + 2*v^2 + 3*v - 1/2 to 2^-1.0 absolute\n"
+           "constexpr double third = 3, a = 0x1.0p0;\n"
+           "constexpr float k[] = {2.0f, third};\n"
+           ".l = {-f64(0x3FE0000000000000), 0x8000000000000000p-65L},\n");
+    ASSERT_EQ(f.size(), 1u);
+    EXPECT_NEAR(fits::error_exponent(f[0]), -4, 1e-9); // v / 4 is too much
+}
 TEST_F(StatedFits, RefuseWhatTheyDoNotUnderstand) {
     const std::pair<const char*, const char*> cases[] = {
         {"// Fit on |r| <= 1: c1*r = exp(r)\nint x;\n", "ends with"},
         {"// Fit on |r| <= 1: c1*r to 2^-3 relative\n", "is written"},
         {"// Fit on r < 1: 1 + r = exp(r) to 2^-3 relative\n", "no interval"},
         {"// Fit on |r| <= 1: 1 + c9*r = exp(r) to 2^-3 relative\n", "'c9'"},
-        {"// Fit on |r| <= 1: 1 + (r = exp(r) to 2^-3 relative\n", ") is missing"}};
+        {"// Fit on |r| <= 1: 1 + (r = exp(r) to 2^-3 relative\n", ") is missing"},
+        {"// Fit on |r| <= 1: horner(r, k) = exp(r) to 2^-3 relative\n", "'k'"}};
     for (const auto& [text, why] : cases) {
         SCOPED_TRACE(text);
         try {

@@ -14,8 +14,6 @@ namespace {
 
 const std::string file = ORVANE_SOURCES "/data/worst_cases.txt";
 
-bool is_gamma(const kernel_row& row) { return row.base().find("gamma") != std::string::npos; }
-
 void measure_again(const std::vector<worst_case>& rows) {
     truth t;
     for (const auto& w : rows) {
@@ -62,8 +60,7 @@ TEST(WorstCases, CoverEveryKernelThatRounds) {
 }
 
 TEST(WorstCases, StandAboveTheExportsOfTheirKernels) {
-    auto rows = read_worst_cases(file);
-    std::erase_if(rows, [](const worst_case& w) { return is_gamma(*w.row); });
+    const auto rows = read_worst_cases(file);
     int placed = 0;
     for (const auto& source : sources_with_error_lines(ORVANE_SOURCES)) {
         const std::string text = contents_of(source);
@@ -164,7 +161,7 @@ TEST(WorstCases, RelaxedTiersAreWithinTheirLimitsAtEveryWidth) {
             }
         }
     }
-    EXPECT_GE(held, 10);
+    EXPECT_GE(held, 9);
 }
 
 // What callers are told of families without rows, which are exact or rounded once: arguments of all kinds.

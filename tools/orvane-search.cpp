@@ -45,7 +45,7 @@ struct options {
     uint64_t seed = 1;
     bool every = false;
     subject::lane near{}; // where `within` is not 0, fresh arguments are drawn around these
-    int within = 0;                 // so many low bits of their patterns are drawn
+    int within = 0;       // so many low bits of their patterns are drawn
 };
 
 double processor_seconds() {

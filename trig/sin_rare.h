@@ -17,7 +17,7 @@ struct scalar_angle_table {
     double p32_a, p32_b, p32_c;                            // pi/32 in three parts
     double t_s1, t_s2, t_s3, t_s4, t_c1, t_c2, t_c3, t_c4; // Taylor coefficients of sine and cosine
     double unread[3];
-    double two55, two_m55; // 2^55, 2^-55
+    double two55, two_m55;
 };
 ORVANE_TABLE(scalar_angle_table, __dsin_g_CoutTab, 1);
 

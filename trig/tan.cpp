@@ -9,6 +9,7 @@ ORVANE_SLOW_PATH(__orvane_dtan_cout_rare, const double* x, double* result);
 
 // Row j of tan around a = pi j/N: with b = pi/2 - a the polynomial in R of tan(a + R) - pole / (b - R), where pole is
 // 1 in the half of the rows around pi/2, else 0. The first two coefficients are in two parts, c1_head a power of two.
+// Fits by rows on |R| <= pi/(2 N): tanf_rows.inc to 2^-30.8 relative, tan_rows.inc to 2^-60.9 relative.
 template <class T> struct tan_row;
 template <> struct tan_row<float> { float pb_hi, pb_lo, pole, c0_hi, c0_lo, c1_head, c1_tail, c2, c3, c4; };
 template <> struct tan_row<double> {

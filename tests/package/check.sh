@@ -36,4 +36,7 @@ cc -O3 -mavx2 -mfma $(pkg-config --cflags orvane-vecabi) "$sources/tests/package
     -o "$scratch/vecabi"
 LD_LIBRARY_PATH=$(pkg-config --variable=libdir orvane-vecabi) "$scratch/vecabi" >/dev/null
 [ -f "$scratch/prefix/include/orvane/exports.json" ]
+[ -f "$scratch/prefix/share/doc/orvane/LICENSE" ]
+unset PKG_CONFIG_PATH
+"$sources/tests/package/snippets.sh" "$sources" "$build" "$scratch/prefix" "$scratch/snippets"
 echo "the installed package works by find_package and by pkg-config"

@@ -43,10 +43,10 @@ const std::map<std::string, real (*)(const real&)> functions = {
     {"sinh", tables::sinh}, {"cosh", cosh_of},      {"tanh", tables::tanh}, {"erf", tables::erf},
     {"erfc", tables::erfc}};
 
-// What the sources define: slots with one value, arrays with several.
+// What the sources define: slots and constants with one value, arrays with several.
 struct definition {
     size_t at;
-    std::vector<double> values;
+    std::vector<real> values;
 };
 using definitions = std::multimap<std::string, definition>;
 
@@ -55,10 +55,27 @@ double value_of_bits(const std::string& type, const std::string& hexadecimal) {
     return type == "double" ? std::bit_cast<double>(w) : std::bit_cast<float>((uint32_t)w);
 }
 
+// A number as C++ writes it: f64(0x3FE0000000000000), 0x1.8p52, 0xAAAAAAAAAAAAAAABp-67L, 0.5, -0.125f.
+const std::string literal =
+    R"(-?(?:f(?:64|32)\(0x[0-9A-Fa-f]+\)|0x[0-9A-Fa-f.]+p[-+]?\d+[fL]?|\d[\d.]*(?:e[-+]?\d+)?[fL]?))";
+real value_of_literal(std::string text) {
+    const bool negative = text[0] == '-';
+    if (negative) text.erase(0, 1);
+    real v;
+    if (text[0] == 'f') v = value_of_bits(text[1] == '6' ? "double" : "float", text.substr(4));
+    else if (text.back() == 'L') v = std::strtold(text.c_str(), nullptr);
+    else if (text.back() == 'f' && text.find("0x") != 0) v = double(std::strtof(text.c_str(), nullptr));
+    else v = std::strtod(text.c_str(), nullptr);
+    return negative ? -v : v;
+}
+
 definitions definitions_of(const std::string& text) {
     static const std::regex slot(R"(\bSLOT\((double|float),[^,]+,\s*(\w+),\s*(0x[0-9A-Fa-f]+)\))");
     static const std::regex array(R"(\bcoefficients<(double|float), \d+>\s*(\w+)\s*=\s*\{\s*\{([^}]*)\}\s*\})");
     static const std::regex bits(R"(0x[0-9A-Fa-f]+)");
+    static const std::regex constant(R"(\b(\w+)\s*=\s*()" + literal + R"()\s*[,;}])");
+    static const std::regex list(R"(\b(\w+)(?:\[\w*\])?\s*=\s*\{((?:\s*(?:)" + literal + R"(|\w+)\s*,?)+)\})");
+    static const std::regex entry(literal + R"(|[A-Za-z_]\w*)");
     definitions found;
     for (std::sregex_iterator i(text.begin(), text.end(), slot), end; i != end; ++i)
         found.emplace((*i)[2], definition{size_t(i->position()), {value_of_bits((*i)[1], (*i)[3])}});
@@ -68,6 +85,21 @@ definitions definitions_of(const std::string& text) {
         for (std::sregex_iterator w(list.begin(), list.end(), bits); w != end; ++w)
             d.values.push_back(value_of_bits((*i)[1], w->str()));
         found.emplace((*i)[2], d);
+    }
+    for (std::sregex_iterator i(text.begin(), text.end(), constant), end; i != end; ++i)
+        found.emplace((*i)[1], definition{size_t(i->position()), {value_of_literal((*i)[2])}});
+    for (std::sregex_iterator i(text.begin(), text.end(), list), end; i != end; ++i) {
+        definition d{size_t(i->position()), {}};
+        const std::string entries = (*i)[2];
+        for (std::sregex_iterator e(entries.begin(), entries.end(), entry); e != end; ++e) {
+            const std::string word = e->str();
+            if (word[0] == '-' || isdigit((unsigned char)word[0]) || word.starts_with("f64(") ||
+                word.starts_with("f32("))
+                d.values.push_back(value_of_literal(word));
+            else if (const auto named = found.find(word); named != found.end())
+                d.values.push_back(named->second.values[0]);
+        }
+        if (!d.values.empty()) found.emplace((*i)[1], d);
     }
     return found;
 }
@@ -158,6 +190,23 @@ private:
         if (const auto f = functions.find(word); f != functions.end()) {
             if (!take('(')) throw std::runtime_error(word + " is a function: write " + word + "(...)");
             return [a = in_parentheses(), f = f->second](const point& x) { return f(a(x)); };
+        }
+        if (word == "horner" || word == "horner_up") {
+            if (!take('(')) throw std::runtime_error(word + " is a function: write " + word + "(v, array)");
+            const expression a = sum();
+            if (!take(',')) throw std::runtime_error(word + " takes a value and an array");
+            skip();
+            const size_t name = at;
+            while (at < text.size() && (isalnum((unsigned char)text[at]) || text[at] == '_'))
+                at++;
+            const std::string array = text.substr(name, at - name);
+            const definition* d = definition_near(known, array, comment);
+            if (!d) throw std::runtime_error("no array is named '" + array + "'");
+            if (!take(')')) throw std::runtime_error("a ) is missing");
+            coefficients.push_back(array);
+            polynomial p = d->values;
+            if (word == "horner") std::reverse(p.begin(), p.end());
+            return [a, p](const point& x) { return value(p, a(x)); };
         }
         if (word == "pi") return constant(tables::pi());
         if (word == "ln2") return constant(tables::ln2());

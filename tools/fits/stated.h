@@ -10,8 +10,9 @@
 // roundings of the coefficients count, those of the kernel's steps do not.
 //
 // An expression has + - * / ^, parentheses, the constants pi, ln2 and e, the usual functions (exp, log2, asin, erf
-// ...), names of slots, and name(v) for the polynomial in v whose coefficients an array holds, highest power first. A
-// name means its first definition after the comment, or the last before it.
+// ...), names of slots and constants, and name(v) for the polynomial in v whose coefficients an array of slots holds,
+// highest power first; of plain arrays horner(v, name), or horner_up(v, name) where the lowest power is first. A name
+// means its first definition after the comment, or the last before it.
 #pragma once
 
 #include "tables/table.h"
