@@ -1,5 +1,5 @@
-// Every built-in that is an export, called from OpenCL C at every width through the driver, against the export's bits at
-// width 1. The calls of one lane are in loops over work-items, where they become wide.
+// Every built-in that is an export, called from OpenCL C at every width through the driver, against the export's bits
+// at width 1. The calls of one lane are in loops over work-items, where they become wide.
 #include "opencl.h"
 #include "tests/support.h"
 
@@ -61,8 +61,8 @@ std::string statements(const kernel_row& row, size_t place, int width_index) {
     return text + "}\n";
 }
 
-// Rows whose work at most an instruction or two stays the compiler's, which gives some NaN, and the zero of either sign
-// where two differ in sign alone.
+// Rows whose work at most an instruction or two stays the compiler's, which gives some NaN, and the zero of either
+// sign where two differ in sign alone.
 bool same(const kernel_row& row, lane_type t, uint64_t a, uint64_t b) {
     if (a == b) return true;
     if (!is_floating(t)) return false;
@@ -136,8 +136,8 @@ void compare(bool relaxed) {
                                        want = wanted[r - from][y][n];
                         compared++;
                         if (!near(row, t, got, want) && wrong++ == 0)
-                            ADD_FAILURE() << row.served_builtin(widths[w]) << " result " << y << " lane " << n << std::hex
-                                          << ": " << got << ", the export " << want;
+                            ADD_FAILURE() << row.served_builtin(widths[w]) << " result " << y << " lane " << n
+                                          << std::hex << ": " << got << ", the export " << want;
                     }
                 }
         }
