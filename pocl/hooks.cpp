@@ -14,6 +14,7 @@
 #include <llvm/Support/raw_ostream.h>
 
 #include <elf.h>
+#include <filesystem>
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -101,13 +102,21 @@ std::string cache_folder() {
     return above + "/" + build_name();
 }
 
+// Kernels out of a cache are compiled no more and have nothing to tell, so a run with a log has a folder of its own.
+std::string folder_for_log() {
+    static std::string folder = (std::filesystem::temp_directory_path() / "orvane-log-XXXXXX").string();
+    if (!mkdtemp(folder.data())) return cache_folder();
+    atexit([] {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder, ignored);
+    });
+    return folder;
+}
+
 // What PoCL reads; the environment itself stays as it is, for programs that this one starts.
 char* environment(const char* name) {
-    static std::string cache = cache_folder(), none = "0";
-    if (!strcmp(name, "POCL_CACHE_DIR")) return cache.data();
-    // Kernels out of the cache are compiled no more, and would have nothing to tell.
-    if (!strcmp(name, "POCL_KERNEL_CACHE") && orvane::pocl::log_wanted()) return none.data();
-    return getenv(name);
+    static std::string cache = orvane::pocl::log_wanted() ? folder_for_log() : cache_folder();
+    return strcmp(name, "POCL_CACHE_DIR") ? getenv(name) : cache.data();
 }
 
 // ---- PoCL's table of addresses

@@ -1,6 +1,7 @@
 #include "passes.h"
 #include "hooks.h"
 #include "llvm/core/passes.h"
+#include "llvm/core/steps.h"
 
 #include <llvm/ADT/STLExtras.h>
 #include <llvm/IR/DiagnosticInfo.h>
@@ -10,6 +11,7 @@
 #include <llvm/Passes/PassBuilder.h>
 #include <llvm/Support/raw_ostream.h>
 #include <llvm/Transforms/IPO/PassManagerBuilder.h>
+#include <llvm/Transforms/Utils/LoopUtils.h>
 
 #include <set>
 
@@ -29,7 +31,7 @@ llvm_options options_of_environment() {
 
 std::string kernel_of(StringRef function) {
     function.consume_front("_pocl_kernel_");
-    function.consume_back("_workgroup");
+    if (!function.consume_back("_workgroup_fast")) function.consume_back("_workgroup");
     return function.str();
 }
 
@@ -47,8 +49,10 @@ public:
         const auto* remark = dyn_cast<DiagnosticInfoOptimizationBase>(&d);
         if (!remark) return before->handleDiagnostics(d);
         const StringRef pass = remark->getPassName();
-        if (pass == "orvane" || pass == "loop-vectorize") {
-            const std::string line = "kernel " + kernel_of(remark->getFunction().getName()) + ": " + remark->getMsg();
+        // What the vectorizer did shows in the calls; its reasons matter where it did nothing.
+        const std::string message = remark->getMsg();
+        if (pass == "orvane" || StringRef(message).startswith("loop not vectorized:")) {
+            const std::string line = "kernel " + kernel_of(remark->getFunction().getName()) + ": " + message;
             if (told.insert(line).second) errs() << "orvane: " << line << '\n';
         }
         return true;
@@ -74,17 +78,47 @@ bool has_work_groups(const Module& m) {
 
 // ---- The passes of the new pass manager, run by one of the old
 
-enum class stage { widen, late };
+// Loops over work-items with work for the library stay loops: those of small groups would be unrolled before the
+// vectorizer sees them.
+bool keep_loops(Function& f) {
+    DominatorTree tree(f);
+    LoopInfo loops(tree);
+    bool changed = false;
+    for (Loop* loop : loops.getLoopsInPreorder()) {
+        const bool has_work = any_of(loop->blocks(), [](BasicBlock* b) {
+            return any_of(*b, [](Instruction& i) {
+                auto* call = dyn_cast<CallInst>(&i);
+                return i.isIntDivRem() || (call && ir::find_call(*call).of);
+            });
+        });
+        const bool becomes_lanes =
+            !loop->isInnermost() && none_of(*loop, [](const Loop* inner) { return ir::over_work_items(*inner); });
+        if (!ir::over_work_items(*loop) || !(has_work || becomes_lanes)) continue;
+        addStringMetadataToLoop(loop, "llvm.loop.unroll.disable", 1);
+        changed = true;
+    }
+    return changed;
+}
+
+enum class stage { early, widen, late };
 
 struct orvane_stage : ModulePass {
     static char ID;
     explicit orvane_stage(stage s = stage::widen) : ModulePass(ID), at(s) {}
     stage at;
     StringRef getPassName() const override {
-        return at == stage::widen ? "Orvane: calls widened" : "Orvane: calls settled";
+        return at == stage::early   ? "Orvane: loops kept"
+               : at == stage::widen ? "Orvane: calls widened"
+                                    : "Orvane: calls settled";
     }
     bool runOnModule(Module& m) override {
         if (!has_work_groups(m)) return false;
+        if (at == stage::early) {
+            bool changed = false;
+            for (Function& f : m)
+                if (!f.isDeclaration()) changed |= keep_loops(f);
+            return changed;
+        }
         if (at == stage::widen) tell(m.getContext());
         LoopAnalysisManager loops;
         FunctionAnalysisManager functions;
@@ -109,6 +143,9 @@ char orvane_stage::ID;
 } // namespace
 
 void add_passes() {
+    PassManagerBuilder::addGlobalExtension(
+        PassManagerBuilder::EP_ModuleOptimizerEarly,
+        [](const PassManagerBuilder&, legacy::PassManagerBase& p) { p.add(new orvane_stage(stage::early)); });
     PassManagerBuilder::addGlobalExtension(PassManagerBuilder::EP_VectorizerStart,
                                            [](const PassManagerBuilder& b, legacy::PassManagerBase& p) {
                                                // PoCL asks for vectorized loops with one of its ways to run

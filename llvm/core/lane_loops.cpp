@@ -804,6 +804,8 @@ bool loops_to_lane_loops(Function& f, const step_options& options, OptimizationR
             if (findOptionMDForLoop(loop, "llvm.loop.isvectorized") || findOptionMDForLoop(loop, lanes_mark))
                 continue;
             changed |= sink_addresses(f, *loop);
+            // Of loops over the dimensions of a work-group the innermost runs by lanes.
+            if (any_of(*loop, [](const Loop* inner) { return over_work_items(*inner); })) continue;
             if (loop->isInnermost() && !has_private_arrays(*loop)) continue;
             TargetLibraryInfoImpl libraries{Triple(f.getParent()->getTargetTriple())};
             TargetLibraryInfo library(libraries, &f);
@@ -811,7 +813,12 @@ bool loops_to_lane_loops(Function& f, const step_options& options, OptimizationR
             ScalarEvolution evolution(f, library, assumptions, tree, loops);
             changed |= simplifyLoop(loop, &tree, &loops, &evolution, &assumptions, nullptr, false);
             changed |= formLCSSARecursively(*loop, tree, &loops, &evolution);
-            lane_loop_maker maker(f, *loop, options.width > 1 ? options.width : 8, evolution);
+            unsigned lanes = options.width > 1 ? options.width : 8;
+            // A small work-group fills fewer.
+            if (const unsigned count = evolution.getSmallConstantTripCount(loop); count > 1)
+                while (lanes > count)
+                    lanes /= 2;
+            lane_loop_maker maker(f, *loop, lanes, evolution);
             const std::string why = maker.refusal();
             DebugLoc at = loop->getStartLoc();
             BasicBlock* header = loop->getHeader();
@@ -827,9 +834,8 @@ bool loops_to_lane_loops(Function& f, const step_options& options, OptimizationR
             addStringMetadataToLoop(loop, "llvm.loop.unroll.disable", 1);
             maker.run();
             remarks.emit([&] {
-                return OptimizationRemark("orvane", "WorkItems", at, header)
-                       << "loop over work-items runs by lanes, "
-                       << ore::NV("Width", options.width > 1 ? options.width : 8u) << " at a time";
+                return OptimizationRemark("orvane", "WorkItems", at, &f.getEntryBlock())
+                       << "loop over work-items runs by lanes, " << ore::NV("Width", lanes) << " at a time";
             });
             changed = again = true;
             break;

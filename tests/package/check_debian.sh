@@ -14,7 +14,7 @@ trap 'tail -n 20 "$scratch/log" 2>/dev/null' ERR
 
 (cd "$build" && cpack -G DEB -B "$scratch") >"$scratch/log" 2>&1
 packages=("$scratch"/*.deb)
-((${#packages[@]} == 3))
+((${#packages[@]} == 4))
 for package in "${packages[@]}"; do
     tags=$(lintian --allow-root "$package" | grep -v '^N:' || true)
     [ -z "$tags" ] || { echo "$tags" >&2; exit 1; }
@@ -29,8 +29,9 @@ chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
     cd /root
     mount -t proc proc /proc 2>/dev/null || true
     apt-get -qq update
-    apt-get -qq install --yes --no-install-recommends ./*.deb
+    apt-get -qq install --yes --no-install-recommends ./*.deb clinfo ocl-icd-libopencl1
     orvane-call expf1 1 | grep -q 2.7182817
+    clinfo | grep -q "Platform Version.*Orvane"
     apt-get -qq install --yes --no-install-recommends g++ pkg-config cmake make clang-16
     gcc -O3 -mavx2 -mfma vecabi.c -lorvane_vecabi -lm -o gcc-made && ./gcc-made
     clang-16 -O2 -fno-math-errno -mavx2 -mfma -Rpass=orvane -fpass-plugin=$(pkg-config --variable=clang_plugin orvane-vecabi) \
