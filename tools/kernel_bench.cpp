@@ -57,7 +57,7 @@ public:
             dup2(ends[1], 3);
             setenv("POCL_MAX_PTHREAD_COUNT", "1", 0);
             if (column != "chosen") {
-                setenv("ORVANE_OPENCL", "off", 1);
+                setenv("ORVANE_POCL", "0", 1);
                 setenv("POCL_CACHE_DIR", (cache / column).c_str(), 1);
                 fs::create_directory(cache / column);
             }

@@ -161,10 +161,6 @@ int run(const std::vector<std::string>& all_words) {
             return take_turns(r, turns.substr(0, turns.find(':')), atoi(turns.substr(turns.find(':') + 1).c_str()));
         return bench_in_turns(all_words);
     }
-    // What is compiled already would explain nothing.
-    const std::optional<temporary_folder> cache =
-        explain ? std::optional<temporary_folder>(std::in_place) : std::nullopt;
-    if (cache) setenv("POCL_CACHE_DIR", cache->path.c_str(), 1);
     kernel_run k(r);
     if (explain && !k.on().is_orvane())
         std::cerr << "orvane-cl: " << k.on().name << " is not Orvane's: every built-in is the driver's own\n";
