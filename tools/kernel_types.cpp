@@ -55,7 +55,8 @@ std::string type_overloads(bool with_double) {
 std::string value_type::name() const { return std::string(scalar->name) + (width > 1 ? std::to_string(width) : ""); }
 
 std::string parameter::text() const {
-    const std::string what = type.scalar ? type.name() : declared.substr(0, declared.find('*'));
+    if (!type.scalar) return declared + " " + name;
+    const std::string what = type.name();
     if (role == value) return what + " " + name;
     const char* space = role == local ? "local " : role == constant_buffer ? "constant " : "global ";
     return space + std::string(role == buffer && !writable ? "const " : "") + what + "* " + name;
@@ -99,6 +100,7 @@ std::vector<parameter> kernel_file::parameters_of(const cl::Context& context, co
     for (cl_uint i = 0; i < kernel.getInfo<CL_KERNEL_NUM_ARGS>(); i++) {
         parameter p;
         p.name = text_of(kernel.getArgInfo<CL_KERNEL_ARG_NAME>(i));
+        if (p.name.starts_with("_cl_")) p.name.erase(0, 4); // PoCL's built-ins have macros for names: all, length
         p.declared = text_of(kernel.getArgInfo<CL_KERNEL_ARG_TYPE_NAME>(i));
         const auto space = kernel.getArgInfo<CL_KERNEL_ARG_ADDRESS_QUALIFIER>(i);
         p.role = space == CL_KERNEL_ARG_ADDRESS_GLOBAL     ? parameter::buffer
@@ -113,14 +115,16 @@ std::vector<parameter> kernel_file::parameters_of(const cl::Context& context, co
         while (in >> word)
             if (word != "const" && word != "volatile" && word != "restrict" && !word.starts_with("__"))
                 words += (words.empty() ? "" : " ") + word;
-        if (words.ends_with('*')) words.pop_back();
-        else if (p.role != parameter::value && !words.ends_with("_t")) // a typedef of a pointer
-            words = "__typeof__(*(" + words + ")0)";
-        while (words.ends_with(' '))
+        const bool star = words.ends_with('*');
+        while (words.ends_with('*') || words.ends_with(' '))
             words.pop_back();
-        p.type = built_in_type(words);
-        if (!p.type.scalar && words.find_first_of("[*") == words.npos) unknown.push_back(words);
-        else unknown.emplace_back();
+        // Images and their like are no numbers, nor are arrays; a name without a star may be a typedef of a pointer.
+        const bool opaque = words.starts_with("image") || words == "sampler_t" || words == "event_t" ||
+                            words == "queue_t" || std::count(p.declared.begin(), p.declared.end(), '*') > 1 ||
+                            words.find_first_of("[(") != words.npos;
+        if (star || p.role == parameter::value) p.type = built_in_type(words);
+        else words = "__typeof__(*(" + words + ")0)";
+        unknown.push_back(p.type.scalar || opaque ? "" : words);
         all.push_back(p);
     }
 

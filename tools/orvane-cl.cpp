@@ -147,7 +147,8 @@ int run(const std::vector<std::string>& all_words) {
         r.definitions += definition(d);
     for (const auto& dir : folders)
         r.options += include_folder(dir);
-    const std::string own = std::filesystem::absolute(r.file).parent_path().string();
+    std::error_code none;
+    const std::string own = std::filesystem::absolute(r.file, none).parent_path().string();
     if (!r.file.empty() && own.find_first_of(" \t\"'") == own.npos) r.options += " -I " + own;
     if (explain) setenv("ORVANE_LOG", "1", 1);
     if (list_wanted) return list(r.file, r), 0;

@@ -35,7 +35,9 @@ template <class T> struct array {
     std::vector<T> values;
     std::vector<size_t> shape;
 
-    array(std::vector<size_t> s, std::function<T(size_t)> rule = [](size_t) { return T(); }) : shape(s) {
+    array(
+        std::vector<size_t> s, std::function<T(size_t)> rule = [](size_t) { return T(); })
+        : shape(s) {
         size_t n = 1;
         for (size_t k : s)
             n *= k;
@@ -84,7 +86,7 @@ std::vector<place> places() {
 // ---- What is said about a result
 
 struct comparison {
-    double largest = 0;   // of the differences
+    double largest = 0; // of the differences
     size_t values = 0, beyond = 0;
     void add(double got, double want, double allowed) {
         const double d = std::fabs(got - want);
@@ -122,7 +124,10 @@ double normal_share(double d) { return 0.5 * std::erfc(-d * M_SQRT1_2); }
 
 template <class T> example black_scholes(const char* name, const char* options, double allowed) {
     constexpr size_t n = 65536;
-    return {name, "black_scholes.cl", options, "price.npy strike.npy years.npy out:call.npy out:put.npy 0.02 0.3",
+    return {name,
+            "black_scholes.cl",
+            options,
+            "price.npy strike.npy years.npy out:call.npy out:put.npy 0.02 0.3",
             [](const fs::path& d) {
                 array<T>({n}, uniform(1, 10, 100)).save(d / "price.npy");
                 array<T>({n}, uniform(2, 10, 100)).save(d / "strike.npy");
@@ -151,7 +156,8 @@ template <class T> example black_scholes(const char* name, const char* options, 
 unsigned char level(double v) { return (unsigned char)std::nearbyint(std::clamp(v, 0., 1.) * 255); }
 
 // Pixels against colours from 0 to 1.
-outcome compare_picture(const fs::path& file, std::function<std::array<double, 3>(size_t, size_t)> colour, double share) {
+outcome compare_picture(const fs::path& file, std::function<std::array<double, 3>(size_t, size_t)> colour,
+                        double share) {
     const auto pixels = array<unsigned char>::load(file);
     outcome o;
     o.allowed_share = share;
@@ -195,36 +201,35 @@ std::vector<example> all_examples() {
                    }});
     const auto world = places();
     const std::string count = std::to_string(world.size());
-    all.push_back({"haversine", "haversine.cl", "-n " + count + "," + count, "places.npy out:km.npy",
-                   [world](const fs::path& d) {
-                       array<float>({world.size(), 2}, [&](size_t i) {
-                           return float(i % 2 ? world[i / 2].longitude : world[i / 2].latitude);
-                       }).save(d / "places.npy");
-                   },
-                   [world](const fs::path& d) {
-                       const auto at = array<float>::load(d / "places.npy"), km = array<float>::load(d / "km.npy");
-                       outcome o;
-                       const size_t n = world.size();
-                       std::map<std::string, size_t> by_name;
-                       for (size_t j = 0; j < n; j++) {
-                           by_name[world[j].name] = j;
-                           for (size_t i = 0; i < n; i++) {
-                               const double r = M_PI / 180, up = std::sin(r * (at[2 * j] - double(at[2 * i])) / 2),
-                                            across = std::sin(r * (at[2 * j + 1] - double(at[2 * i + 1])) / 2);
-                               const double h = up * up + std::cos(r * at[2 * i]) * std::cos(r * at[2 * j]) * across * across;
-                               const double want = 2 * 6371 * std::asin(std::min(std::sqrt(h), 1.));
-                               // Towards the other end of the Earth the arc sine turns a last place into kilometres.
-                               o.compared.add(km[j * n + i], want, 0.01 + 4e-3 / std::sqrt(1 - std::min(h, 1 - 1e-7)));
-                           }
-                       }
-                       const auto between = [&](const char* a, const char* b) {
-                           return km[by_name.at(a) * n + by_name.at(b)];
-                       };
-                       o.told = text("%zu pairs: Berlin to Tokyo %.1f km, New York to Auckland %.1f km", n * n,
-                                     double(between("Europe/Berlin", "Asia/Tokyo")),
-                                     double(between("America/New_York", "Pacific/Auckland")));
-                       return o;
-                   }});
+    all.push_back(
+        {"haversine", "haversine.cl", "-n " + count + "," + count, "places.npy out:km.npy",
+         [world](const fs::path& d) {
+             array<float>({world.size(), 2}, [&](size_t i) {
+                 return float(i % 2 ? world[i / 2].longitude : world[i / 2].latitude);
+             }).save(d / "places.npy");
+         },
+         [world](const fs::path& d) {
+             const auto at = array<float>::load(d / "places.npy"), km = array<float>::load(d / "km.npy");
+             outcome o;
+             const size_t n = world.size();
+             std::map<std::string, size_t> by_name;
+             for (size_t j = 0; j < n; j++) {
+                 by_name[world[j].name] = j;
+                 for (size_t i = 0; i < n; i++) {
+                     const double r = M_PI / 180, up = std::sin(r * (at[2 * j] - double(at[2 * i])) / 2),
+                                  across = std::sin(r * (at[2 * j + 1] - double(at[2 * i + 1])) / 2);
+                     const double h = up * up + std::cos(r * at[2 * i]) * std::cos(r * at[2 * j]) * across * across;
+                     const double want = 2 * 6371 * std::asin(std::min(std::sqrt(h), 1.));
+                     // Towards the other end of the Earth the arc sine turns a last place into kilometres.
+                     o.compared.add(km[j * n + i], want, 0.01 + 4e-3 / std::sqrt(1 - std::min(h, 1 - 1e-7)));
+                 }
+             }
+             const auto between = [&](const char* a, const char* b) { return km[by_name.at(a) * n + by_name.at(b)]; };
+             o.told = text("%zu pairs: Berlin to Tokyo %.1f km, New York to Auckland %.1f km", n * n,
+                           double(between("Europe/Berlin", "Asia/Tokyo")),
+                           double(between("America/New_York", "Pacific/Auckland")));
+             return o;
+         }});
     all.push_back({"gelu", "gelu.cl", "-n 1048576", "x.npy out:y.npy",
                    [](const fs::path& d) { array<float>({1048576}, uniform(4, -6, 6)).save(d / "x.npy"); },
                    [](const fs::path& d) {
@@ -233,15 +238,17 @@ std::vector<example> all_examples() {
                        double mean = 0;
                        for (size_t i = 0; i < x.values.size(); i++) {
                            const double v = x[i];
-                           o.compared.add(y[i], 0.5 * v * (1 + std::tanh(.79788456 * (v + .044715 * v * v * v))), 2e-6);
+                           o.compared.add(y[i], 0.5 * v * (1 + std::tanh(.79788456 * (v + .044715 * v * v * v))),
+                                          2e-6);
                            mean += y[i] / double(x.values.size());
                        }
                        o.told = text("%zu activations, mean %.6f", x.values.size(), mean);
                        return o;
                    }});
-    all.push_back({"softmax", "softmax.cl", "-n 65536 -l 64",
-                   "scores.npy out:shares.npy:1024000 local:64 1000",
-                   [](const fs::path& d) { array<float>({1024, 1000}, uniform(5, -8, 8)).save(d / "scores.npy"); },
+    all.push_back({"softmax", "softmax.cl", "-n 65536 -l 64", "scores.npy out:shares.npy:1024000 local:64 1000",
+                   [](const fs::path& d) {
+                       array<float>({1024, 1000}, uniform(5, -8, 8)).save(d / "scores.npy");
+                   },
                    [](const fs::path& d) {
                        const auto x = array<float>::load(d / "scores.npy"), y = array<float>::load(d / "shares.npy");
                        outcome o;
@@ -277,21 +284,25 @@ std::vector<example> all_examples() {
                        double before = 0, after = 0;
                        for (size_t i = 0; i < light.values.size(); i++) {
                            const double v = light[i] / 255.;
-                           const double want = i % 4 == 3        ? v
+                           const double want = i % 4 == 3       ? v
                                                : v <= 0.0031308 ? 12.92 * v
                                                                 : 1.055 * std::pow(v, 1 / 2.4) - 0.055;
                            o.compared.add(levels[i], 255 * want, 0.5001);
                            before += light[i], after += levels[i];
                        }
                        const double n = double(light.values.size());
-                       o.told = text("%zu by %zu pixels, mean level %.2f from %.2f", columns, rows, after / n, before / n);
+                       o.told =
+                           text("%zu by %zu pixels, mean level %.2f from %.2f", columns, rows, after / n, before / n);
                        return o;
                    },
                    "levels.npy"});
     all.push_back({"n_body", "n_body.cl", "-n 1024", "bodies.npy out:acceleration.npy 1024",
-                   [](const fs::path& d) { array<float>({1024, 4}, uniform(6, 0, 1)).save(d / "bodies.npy"); },
                    [](const fs::path& d) {
-                       const auto b = array<float>::load(d / "bodies.npy"), a = array<float>::load(d / "acceleration.npy");
+                       array<float>({1024, 4}, uniform(6, 0, 1)).save(d / "bodies.npy");
+                   },
+                   [](const fs::path& d) {
+                       const auto b = array<float>::load(d / "bodies.npy"),
+                                  a = array<float>::load(d / "acceleration.npy");
                        outcome o;
                        double most = 0;
                        for (size_t i = 0; i < 1024; i++) {
@@ -324,7 +335,8 @@ std::vector<example> all_examples() {
                                x = t;
                            }
                            if (n == 256) return {};
-                           const double turn = 0.35 * std::log(std::max(n + 1 - std::log2(0.5 * std::log2(x * x + y * y)), 1.));
+                           const double turn =
+                               0.35 * std::log(std::max(n + 1 - std::log2(0.5 * std::log2(x * x + y * y)), 1.));
                            const auto wave = [&](double at) { return 0.5 - 0.5 * std::cos(M_PI * (2 * turn + at)); };
                            return {wave(0.1), wave(0.3), wave(0.6)};
                        };
@@ -345,11 +357,13 @@ std::vector<example> all_examples() {
                        };
                        const auto colour = [&](size_t column, size_t row) -> std::array<double, 3> {
                            const double step = 10. / columns;
-                           const complex value = log_gamma(
-                               {step * (double(column) + 0.5 - 0.5 * columns), step * (0.5 * rows - double(row) - 0.5)});
+                           const complex value = log_gamma({step * (double(column) + 0.5 - 0.5 * columns),
+                                                            step * (0.5 * rows - double(row) - 0.5)});
                            const double hue = value.imag() / M_PI, doublings = value.real() / M_LN2,
                                         light = 0.6 + 0.4 * (doublings - std::floor(doublings));
-                           const auto wave = [&](double at) { return light * (0.5 + 0.5 * std::cos(M_PI * (hue + at))); };
+                           const auto wave = [&](double at) {
+                               return light * (0.5 + 0.5 * std::cos(M_PI * (hue + at)));
+                           };
                            return {wave(0), wave(-2. / 3), wave(2. / 3)};
                        };
                        return compare_picture(d / "pixels.npy", colour, 0.002); // where brightness starts again
@@ -425,7 +439,8 @@ std::string run_tool(const fs::path& folder, const std::string& words) {
     char part[4096];
     while (const size_t n = fread(part, 1, sizeof part, p))
         out.append(part, n);
-    if (const int status = pclose(p)) throw failure("orvane-cl " + words + " ended with " + std::to_string(WEXITSTATUS(status)));
+    if (const int status = pclose(p))
+        throw failure("orvane-cl " + words + " ended with " + std::to_string(WEXITSTATUS(status)));
     return out;
 }
 
@@ -437,7 +452,8 @@ void save_png(const fs::path& npy, const fs::path& to) {
     image.height = png_uint_32(pixels.shape.at(0));
     image.format = PNG_FORMAT_RGBA;
     png_alloc_size_t size = 0;
-    if (!png_image_write_get_memory_size(image, size, 0, pixels.values.data(), 0, nullptr)) throw failure(image.message);
+    if (!png_image_write_get_memory_size(image, size, 0, pixels.values.data(), 0, nullptr))
+        throw failure(image.message);
     std::string bytes(size, 0);
     if (!png_image_write_to_memory(&image, bytes.data(), &size, 0, pixels.values.data(), 0, nullptr))
         throw failure(image.message);
@@ -463,7 +479,8 @@ int run(const std::vector<std::string>& words) {
         if (std::none_of(all.begin(), all.end(), [&](const example& e) { return e.name == n; }))
             throw failure("no example " + quoted(n) + "; --list names them");
     if (!names.empty())
-        std::erase_if(all, [&](const example& e) { return std::find(names.begin(), names.end(), e.name) == names.end(); });
+        std::erase_if(all,
+                      [&](const example& e) { return std::find(names.begin(), names.end(), e.name) == names.end(); });
     if (list) {
         for (const auto& e : all)
             std::cout << e.name << '\n';
@@ -485,15 +502,18 @@ int run(const std::vector<std::string>& words) {
         const fs::path own = folder.path / e.name;
         fs::create_directory(own);
         e.prepare(own);
-        const std::string call = "'" ORVANE_SOURCES "/examples/opencl/" + e.file + "' " + e.options + " " + e.arguments;
+        const std::string call =
+            "'" ORVANE_SOURCES "/examples/opencl/" + e.file + "' " + e.options + " " + e.arguments;
         run_tool(own, call);
         const outcome o = e.check(own);
         const comparison& c = o.compared;
         const bool good = double(c.beyond) <= o.allowed_share * double(c.values);
         right &= good;
         std::cout << text("%-21s", e.name.c_str()) << o.told << "; largest error " << text("%.2g", c.largest);
-        if (o.allowed_share > 0) std::cout << text(", beyond 2 levels %.2f %%", 100. * double(c.beyond) / double(c.values));
-        std::cout << (good ? "" : text(": WRONG, %zu values of %zu beyond what is allowed", c.beyond, c.values)) << std::endl;
+        if (o.allowed_share > 0)
+            std::cout << text(", beyond 2 levels %.2f %%", 100. * double(c.beyond) / double(c.values));
+        std::cout << (good ? "" : text(": WRONG, %zu values of %zu beyond what is allowed", c.beyond, c.values))
+                  << std::endl;
         if (!pictures.empty() && e.picture) {
             const fs::path to = fs::path(pictures) / (e.name + ".png");
             save_png(own / e.picture, to);
@@ -509,7 +529,8 @@ int run(const std::vector<std::string>& words) {
             double ns = 0, times = 0;
             figures >> ns >> times;
             titles += text("%-12s%10s", line.substr(begin, end - begin).c_str(), times ? "" : "");
-            row += text("%-12.2f", ns) + (times ? text("%5.1f times", times) + text("%-0s", "") : std::string(10, ' '));
+            row +=
+                text("%-12.2f", ns) + (times ? text("%5.1f times", times) + text("%-0s", "") : std::string(10, ' '));
         }
         if (table.empty()) table = titles + "\n";
         table += row + "\n";
