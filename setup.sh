@@ -7,7 +7,7 @@ cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 packages=(cmake ninja-build g++ pkg-config
     libmpfr-dev libgtest-dev libbenchmark-dev libsleef-dev libcli11-dev nlohmann-json3-dev libzydis-dev
     clang-15 llvm-15-dev clang-16 llvm-16-dev clang-19 llvm-19-dev gfortran clang-format
-    pocl-opencl-icd ocl-icd-opencl-dev opencl-clhpp-headers clinfo clpeak)
+    pocl-opencl-icd ocl-icd-opencl-dev opencl-clhpp-headers libxtensor-dev libpng-dev clinfo clpeak)
 
 install_missing() {
     command -v dpkg-query >/dev/null || return 0 # not a Debian: CMake says what it misses

@@ -1,41 +1,13 @@
 // The programs under hostile use: outputs that are devices, FIFOs, links, closed, full or written by several at once;
 // input that is no lanes; names that are nearly right. One line says what is wrong, and nothing is half written.
-#include "support.h"
-#include "tools/whole_file.h"
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sys/wait.h>
+#include "shell.h"
 
 using namespace orvane;
 namespace fs = std::filesystem;
 
 namespace {
 
-// A shell with the programs in its path, in a folder of its own.
-class Tools : public testing::Test {
-protected:
-    const fs::path folder = fs::temp_directory_path() / ("orvane-tools-" + std::to_string(getpid()));
-    void SetUp() override { fs::create_directories(folder); }
-    void TearDown() override { fs::remove_all(folder); }
-
-    int shell(const std::string& script) {
-        std::ofstream(folder / "script") << "PATH=" ORVANE_TOOL_FOLDER ":$PATH\ncd '" << folder.string() << "'\n"
-                                         << script << '\n';
-        const int status = std::system(("timeout 60 bash '" + (folder / "script").string() + "'").c_str());
-        return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
-    }
-    std::string text(const char* name) const { return contents_of(folder / name); }
-    void fails_with(const std::string& script, const std::string& about) {
-        EXPECT_NE(shell("{ " + script + "\n} 2>err"), 0) << script;
-        const std::string said = text("err");
-        EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << script << ": " << said.substr(0, 400);
-        EXPECT_LT(said.size(), 400u) << script;
-        EXPECT_NE(said.find(about), said.npos) << script << ": " << said.substr(0, 400);
-    }
-    size_t files() const { return std::distance(fs::directory_iterator(folder), {}); }
-};
+using Tools = Shell;
 
 TEST_F(Tools, WriteWholeFilesAndLeaveOthersAlone) {
     // A user's own .part, a link's target, a mode.

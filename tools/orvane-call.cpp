@@ -9,14 +9,13 @@
 // A number is decimal, a hexadecimal float (0x with a p) or a bit pattern (0x without). Every call goes through the
 // raw-register caller, so what is printed is what emitted code would find in its registers.
 #include "call_plan.h"
+#include "command_line.h"
 #include "signature.h"
 #include "truth.h"
 #include "whole_file.h"
 
-#include <CLI/CLI.hpp>
 #include <charconv>
 #include <cmath>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -29,20 +28,6 @@ namespace fs = std::filesystem;
 using json = nlohmann::json;
 
 namespace {
-
-// One clear line, and a non-zero exit.
-struct failure : std::runtime_error {
-    using runtime_error::runtime_error;
-};
-
-// A word of the input in a message: without what a terminal would take for more, and not at any length.
-std::string quoted(std::string s) {
-    const size_t length = s.size();
-    if (length > 60) s.resize(40);
-    for (char& c : s)
-        if (iscntrl((unsigned char)c)) c = '?';
-    return "'" + s + (length > 60 ? "...' (" + std::to_string(length) + " characters)" : "'");
-}
 
 size_t edit_distance(std::string_view a, std::string_view b) {
     std::vector<size_t> row(b.size() + 1);
@@ -130,15 +115,6 @@ uint64_t parse_number(const std::string& text, lane_type t) {
         throw bad("write an integer, or the bits as 0x...");
     }
     throw bad("write a decimal, 0x...p... or the bits as 0x...");
-}
-
-std::vector<std::string> split(const std::string& s, char by) {
-    std::vector<std::string> parts;
-    std::stringstream in(s);
-    for (std::string p; std::getline(in, p, by);)
-        parts.push_back(p);
-    if (!s.empty() && s.back() == by) parts.emplace_back();
-    return parts;
 }
 
 std::vector<uint64_t> parse_lane(const std::string& word, const kernel_row& row) {
@@ -431,7 +407,7 @@ void run_summary(const call_plan& plan, const void* f, const std::string& from, 
     to << line + "\n";
 }
 
-int run(int argc, char** argv) {
+int run(const std::vector<std::string>& words) {
     CLI::App app{"Evaluates an export of liborvane_l9.so and prints each lane's input, result and bits."};
     std::string name, from, to, library_path;
     std::vector<std::string> lanes;
@@ -451,24 +427,7 @@ int run(int argc, char** argv) {
     app.add_flag("--json", as_json, "output as JSON, an object a line");
     app.add_flag("--summary", summary,
                  "only the number of lanes of a stream and the largest error with its argument");
-    // Negative numbers are lanes, not options: they are marked while the command line is parsed.
-    constexpr char mark = '\x01';
-    std::vector<std::string> args;
-    for (int i = argc - 1; i > 0; i--) { // the parser takes them last one first
-        const std::string a = argv[i];
-        const bool negative = a.size() > 1 && a[0] == '-' &&
-                              (isdigit(a[1]) || a[1] == '.' || a.starts_with("-inf") || a.starts_with("-nan"));
-        args.push_back(negative ? mark + a : a);
-    }
-    try {
-        app.parse(args);
-    } catch (const CLI::CallForHelp& e) {
-        return app.exit(e);
-    } catch (const CLI::ParseError& e) {
-        throw failure(std::string(e.what()) + "; see orvane-call --help");
-    }
-    for (auto& lane : lanes)
-        if (lane.starts_with(mark)) lane.erase(0, 1);
+    if (parse_words(app, words, lanes, "orvane-call")) return 0;
 
     if (list && !name.empty()) throw failure("--list takes no export; it names them all");
     if (raw && summary) throw failure("--raw gives words and --summary a line for all of them: take one of the two");
@@ -527,16 +486,5 @@ int run(int argc, char** argv) {
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);
-    signal(SIGPIPE, SIG_IGN);                // a closed output is an error like others
-    if (fcntl(STDOUT_FILENO, F_GETFD) < 0) { // no file that is opened may take its place
-        while (open("/dev/null", O_RDONLY) < STDOUT_FILENO)
-            continue;
-    }
-    try {
-        return run(argc, argv);
-    } catch (const std::exception& e) {
-        std::cout.flush();
-        std::cerr << "orvane-call: " << e.what() << '\n';
-        return 1;
-    }
+    return run_program("orvane-call", [&] { return run({argv + 1, argv + argc}); });
 }

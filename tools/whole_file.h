@@ -23,8 +23,10 @@ inline std::string contents_of(const std::filesystem::path& from) {
 }
 
 // A file that takes its name only when it is complete: until then it is a temporary of its own beside the target,
-// which is gone when the program fails or is interrupted. A link stands for what it points to; devices, FIFOs and
-// sockets are written as they are. One at a time. Throws with one line that says what went wrong.
+// which is gone when the program fails, is interrupted or crashes. A link stands for what it points to; devices,
+// FIFOs and sockets are written as they are. Throws with one line that says what went wrong.
+//
+// Several that belong together: finish() all of them, then complete() each, which only renames.
 class whole_file {
 public:
     explicit whole_file(const std::filesystem::path& named) : named(named), target(named) {
@@ -49,8 +51,11 @@ public:
         const int fd = name.size() < sizeof temporary ? mkstemp(name.data()) : (errno = ENAMETOOLONG, -1);
         if (fd < 0) fail(errno);
         strcpy(temporary, name.c_str());
-        for (int s : signals)
-            if (signal(s, remove_and_end) == SIG_IGN) signal(s, SIG_IGN);
+        if (!first)
+            for (int s : signals)
+                if (signal(s, remove_and_end) == SIG_IGN) signal(s, SIG_IGN);
+        next = first;
+        first = this;
         const mode_t mask = umask(0);
         umask(mask);
         fchmod(fd, exists ? now.st_mode & 07777 : 0666 & ~mask);
@@ -63,11 +68,16 @@ public:
 
     std::ofstream out;
 
-    // The last thing: everything is written, and the file is there.
-    void complete() {
+    // Everything is written, and what could not be would have been told.
+    void finish() {
+        if (!out.is_open()) return;
         errno = 0;
         out.close();
         if (!out) fail(errno ? errno : EIO);
+    }
+    // The last thing: the file is there.
+    void complete() {
+        finish();
         if (!*temporary) return;
         if (rename(temporary, target.c_str())) fail(errno);
         *temporary = 0;
@@ -77,20 +87,33 @@ public:
         give_up();
         throw std::runtime_error("cannot write '" + named.string() + "': " + strerror(error));
     }
+    // For a program that ends by itself in a signal's handler.
+    static void remove_temporaries() {
+        for (whole_file* f = first; f; f = f->next)
+            if (*f->temporary) unlink(f->temporary);
+    }
 
 private:
     std::filesystem::path named, target;
-    inline static char temporary[4096] = "";
-    static constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
+    char temporary[4096] = "";
+    whole_file* next = nullptr; // of those with a temporary
+    inline static whole_file* first = nullptr;
+    static constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGSEGV, SIGBUS, SIGABRT, SIGILL};
 
     void give_up() {
         if (*temporary) unlink(temporary);
         *temporary = 0;
-        for (int s : signals)
-            if (signal(s, SIG_DFL) == SIG_IGN) signal(s, SIG_IGN);
+        for (whole_file** at = &first; *at; at = &(*at)->next)
+            if (*at == this) {
+                *at = next;
+                if (first) return;
+                for (int s : signals)
+                    if (signal(s, SIG_DFL) == SIG_IGN) signal(s, SIG_IGN);
+                return;
+            }
     }
     static void remove_and_end(int s) {
-        if (*temporary) unlink(temporary);
+        remove_temporaries();
         signal(s, SIG_DFL);
         raise(s);
     }
