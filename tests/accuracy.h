@@ -189,14 +189,6 @@ inline void check_all_floats(const float_accuracy& a) {
                  top.decided(f.row(), t, a.result));
 }
 
-// Of results whose bits are a promise: FNV-1a over the words.
-inline uint64_t digest_of(const words& results) {
-    uint64_t digest = 0xCBF29CE484222325;
-    for (uint64_t y : results)
-        digest = (digest ^ y) * 0x100000001B3;
-    return digest;
-}
-
 // Spread over a range: evenly, or evenly in the exponent.
 inline words spread(lane_type t, double lo, double hi, int n, bool by_exponent, uint64_t seed) {
     rng r(seed);

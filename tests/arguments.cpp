@@ -101,6 +101,21 @@ public:
                                  i << shift | (low_bits() >> leading_bits)));
         return w;
     }
+    // A number around each point of a grid, k / parts.
+    words grid(int first, int last, int parts) {
+        words w;
+        for (int k = first; k <= last; k++)
+            w.push_back(word((k + draw.between(-0.5, 0.5)) / parts));
+        return w;
+    }
+    // Numbers in each 32nd of each binade.
+    words binades(int first, int last) {
+        words w;
+        for (int e = first; e <= last; e++)
+            for (int i = 0; i < 64; i++)
+                w.push_back(float_of(exponents_end / 2 + e, (uint64_t(i / 2) << (fraction - 5)) | low_bits() >> 5));
+        return w;
+    }
     words edges(int leading_bits) {
         words w;
         const int bias = exponents_end / 2, shift = fraction - leading_bits;
@@ -155,6 +170,14 @@ public:
                     w.push_back(word(s * (1 + side * std::ldexp(1, -k))));
                     w.push_back(word(s * (1 + side * std::ldexp(draw.between(1, 2), -k))));
                 }
+        return w;
+    }
+    words beside_whole(int n) { // -k +- 2^-j and near it
+        words w;
+        for (int k = 1; k <= n; k++)
+            for (int j = 2; j <= fraction; j++)
+                for (int side : {-1, 1})
+                    w.push_back(word(-k + side * std::ldexp(draw.between(1, 2), -j)));
         return w;
     }
     words subnormals(int n) {
@@ -271,6 +294,10 @@ std::vector<rule> arguments_by_rule(const kernel_row& row, const block_constants
         add("subnormals", x.subnormals(256));
         add("specials", x.specials());
         add("any pattern", x.patterns(1024));
+        add("each 32nd of a binade", x.binades(-8, 13));
+        add("around each 128th", x.grid(0, 3583, 128));
+        add("around each eighth", x.grid(-1792, 1792, 8));
+        add("beside negative whole numbers", x.beside_whole(24));
         return rules;
     }
 

@@ -22,9 +22,9 @@ struct block_constants {
     std::set<uint32_t> narrow; // of four
 };
 
-// Some twelve thousand lanes: ordinary ranges, all exponents, leading bits and the edges between them (so that every
-// entry of a table is used), constants of the blocks and their neighbours, what is special to the functions of the
-// library, subnormals, specials, any patterns; for several arguments pairs of these.
+// Some twenty thousand lanes: ordinary ranges, all exponents, leading bits, grids and the edges between them (so that
+// every entry of a table is used), constants of the blocks and their neighbours, what is special to the functions of
+// the library, subnormals, specials, any patterns; for several arguments pairs of these.
 std::vector<rule> arguments_by_rule(const kernel_row& row, const block_constants& constants);
 
 } // namespace orvane

@@ -180,6 +180,45 @@ const recorded& recorded_digests(bool takes_estimates) {
     return r;
 }
 
+std::string constants_file() { return ORVANE_SOURCES "/tests/data/digests/constants.txt"; }
+std::string lines_of_constants(object& in) {
+    std::map<uint64_t, const object::entry*> data, functions; // of several names the first
+    for (const auto& e : in.symbols())
+        if (e.size)
+            if (auto& named = (e.is_function ? functions : data)[e.value]; !named || e.name < named->name) named = &e;
+    auto word = [&](uint64_t value, uint64_t size) {
+        uint64_t digest = size;
+        for (uint64_t i = 0; i < size; i++)
+            digest = mixed(digest, ((const unsigned char*)in.loaded_at())[value + i]);
+        char text[20];
+        snprintf(text, sizeof text, " %016llx", (unsigned long long)digest);
+        return std::string(text);
+    };
+    std::string text;
+    for (const auto& [value, e] : data)
+        text += e->name + ":" + word(value, e->size) + "\n";
+    const binary b(in);
+    std::set<uint64_t> kernels;
+    for (const auto& row : library_rows())
+        for (int width : widths)
+            if (width != 8)
+                kernels.insert((const char*)in.symbol(plan_of(row, width).symbol) - (const char*)in.loaded_at());
+    for (const auto& [value, e] : functions) {
+        if (kernels.contains(value)) continue;
+        std::set<std::string> unnamed;
+        for (const auto& [to, size] : references_of(b, *e).data)
+            if (auto at = data.upper_bound(to);
+                size && (at == data.begin() || to >= (--at)->first + at->second->size))
+                unnamed.insert(word(to, uint64_t(size)));
+        if (unnamed.empty()) continue;
+        text += "unnamed in " + e->name + ":";
+        for (const auto& w : unnamed)
+            text += w;
+        text += "\n";
+    }
+    return text;
+}
+
 std::string to_lines(const digested& d, object& in, private_copy& marking) {
     auto line = [&](std::string text, int digits, auto digest) {
         for (const auto& g : d.groups) {

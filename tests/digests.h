@@ -68,6 +68,10 @@ struct recorded {
 std::string digests_file(bool takes_estimates);
 bool is_recorded_kind();
 const recorded& recorded_digests(bool takes_estimates);
+// Blocks, tables, and constants beside the code, as they are: of many an entry the low bits lie below the last place
+// of every result, and are held by this alone.
+std::string constants_file();
+std::string lines_of_constants(object& in);
 // Of one thing, as recorded: lines of results and special lanes.
 std::string to_lines(const digested& d, object& in, private_copy& marking);
 

@@ -2,6 +2,7 @@
 #include "digests.h"
 
 #include "tools/estimates.h"
+#include "tools/whole_file.h"
 
 using namespace orvane;
 
@@ -59,6 +60,24 @@ TEST(Digests, AreThoseRecorded) {
         printf("set aside, since no digests are recorded for processors with these estimates (%s):%s by error bounds "
                "alone\n",
                kind_of_processor().c_str(), set_aside.c_str());
+}
+
+// Every byte of every block and table and of the constants beside the code, those that no result shows too.
+TEST(Digests, OfConstantsAreThoseRecorded) {
+    if (__GNUC__ != 12) GTEST_SKIP() << "recorded for GCC 12: the compiler decides which constants have a name";
+    auto lines = [](const std::string& text) {
+        std::set<std::string> all;
+        std::istringstream in(text);
+        for (std::string line; std::getline(in, line);)
+            if (!line.starts_with("#")) all.insert(line);
+        return all;
+    };
+    const auto want = lines(contents_of(constants_file())), have = lines(lines_of_constants(library_under_test()));
+    EXPECT_GT(have.size(), 200u);
+    for (const auto& line : want)
+        EXPECT_TRUE(have.contains(line)) << "other constants, or none of that name: " << line;
+    for (const auto& line : have)
+        EXPECT_TRUE(want.contains(line)) << "not recorded: " << line;
 }
 
 } // namespace

@@ -32,7 +32,12 @@ int main(int argc, char** argv) try {
         give_arguments(d);
         text[d.takes_estimates] += to_lines(d, library_under_test(), marking);
     }
-    if (!estimates_alone) write_whole(digests_file(false), text[0]);
+    if (!estimates_alone) {
+        write_whole(digests_file(false), text[0]);
+        write_whole(constants_file(), "# Digests of blocks and tables, and of the constants beside the code of a "
+                                      "function. Written by the target `recorded`.\n" +
+                                          lines_of_constants(library_under_test()));
+    }
     write_whole(digests_file(true), text[1]);
 } catch (const std::exception& e) {
     std::cerr << "record-digests: " << e.what() << '\n';

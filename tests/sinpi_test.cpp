@@ -148,27 +148,6 @@ TEST(Sinpi, LargestErrors) {
     }
 }
 
-// No step hangs on the processor, so the bits themselves are a promise.
-TEST(Sinpi, Bits) {
-    each_kernel([](const kernels& m, const char* tier) {
-        std::vector<uint64_t> digests;
-        for (auto name : {m.sine, m.cosine, m.tangent}) {
-            rng r(63);
-            words x;
-            for (int i = 0; i < 200'000; i++)
-                x.push_back(word_of(m.type, std::ldexp((double)(r() >> 40) - 0x1p23, -int(i % 40))));
-            sweep f(name, tier);
-            digests.push_back(digest_of(f({x})[0]));
-        }
-        const bool native = tier[0] == 'n', wide = m.type == lane_type::f64;
-        const std::vector<uint64_t> of_double[] = {{0x5F1C2733F204542C, 0x7AB4D7895EF84944, 0xEDF4945D11B91414},
-                                                   {0x19D069650EC8E7A5, 0x67A3379962F88065, 0xFCE1E5B4EB70AC48}};
-        const std::vector<uint64_t> of_float[] = {{0xDBB7120657EAA50C, 0x1E1637E78E832AE1, 0x2AD626537B438415},
-                                                  {0xDBB7120657EAA50C, 0x1E1637E78E832AE1, 0x0D0DCA8D3AF612DD}};
-        EXPECT_EQ(digests, (wide ? of_double : of_float)[native]);
-    });
-}
-
 TEST(Sinpi, LongEveryFloat) {
     for (const auto& a : {float_accuracy{"sinpif", "default", known(), sinpi_of},
                           {"cospif", "default", known(), cospi_of},

@@ -98,20 +98,6 @@ TEST(Tan, LargestErrors) {
     }
 }
 
-// Below the limits only the fast tanf kernel hangs on the processor: of the others the bits themselves are a promise.
-TEST(Tan, Bits) {
-    for (auto [t, tier, expected] : {std::tuple{f32, "default", 0xF17776135DF662D2u},
-                                     {f64, "default", 0x0EEF6DB7AD7889C4u},
-                                     {f64, "rm", 0xA5F39447EBFA5261u}}) {
-        sweep f(name_of(t), tier);
-        const uint64_t first = word_of(t, 0x1p-30), last = word_of(t, limit_of(t)), step = (last - first) / 200'000;
-        words x;
-        for (uint64_t w = first; w <= last; w += step)
-            x.push_back(w);
-        EXPECT_EQ(digest_of(f({x})[0]), expected) << name_of(t) << " " << tier;
-    }
-}
-
 TEST(Tan, LongEveryFloat) {
     check_all_floats({"tanf", "default", 3.66, std::tan});
     check_all_floats({"tanf", "native", fed(1000, 1010), std::tan});
