@@ -47,7 +47,7 @@ using targets = SetVector<BasicBlock*>;
 
 struct segment {
     SmallVector<BasicBlock*, 8> blocks; // in topological order
-    SmallVector<Instruction*, 16> scalars;
+    SmallVector<Instruction*, 16> scalars; // but for phis, which loops carry
     bool holds_latch = false;
 };
 
@@ -412,7 +412,7 @@ void lane_loop_maker::find_scalars(LoopInfo& loops) {
     for (auto& s : segments)
         for (BasicBlock* b : s->blocks)
             for (Instruction& i : *b)
-                if (scalars.count(&i)) s->scalars.push_back(&i);
+                if (scalars.count(&i) && !isa<PHINode>(i)) s->scalars.push_back(&i);
 }
 
 // A loop is plain if it is left at its end alone, by a condition that all lanes share.
@@ -571,7 +571,7 @@ void lane_loop_maker::emit_segment(Loop* loop, segment& s, standing& lanes_at) {
     // Scalars, in front of the lane loop.
     IRBuilder<> code(spine);
     for (Instruction* i : s.scalars)
-        if (!isa<PHINode>(i)) i->moveBefore(*spine, spine->end());
+        i->moveBefore(*spine, spine->end());
 
     auto* head = BasicBlock::Create(c, "lanes", &f, s.blocks.front());
     auto* end = BasicBlock::Create(c, "lanes.end", &f);
