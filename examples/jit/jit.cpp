@@ -23,6 +23,14 @@ namespace jit {
 
 namespace {
 
+#if LLVM_VERSION_MAJOR >= 18
+constexpr auto aggressive = CodeGenOptLevel::Aggressive;
+constexpr auto assembly_file = CodeGenFileType::AssemblyFile;
+#else
+constexpr auto aggressive = CodeGenOpt::Aggressive;
+constexpr auto assembly_file = CGFT_AssemblyFile;
+#endif
+
 double now() {
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
@@ -37,10 +45,14 @@ template <class T> T checked(Expected<T> value) {
 std::unique_ptr<Module> front_end(const std::string& file, const options& o, LLVMContext& c) {
     SmallString<128> out;
     if (sys::fs::createTemporaryFile("kernel", "bc", out)) throw std::runtime_error("no room for a temporary file");
+    std::string more = o.relaxed ? "-cl-fast-relaxed-math " : "";
+#if LLVM_VERSION_MAJOR == 15
+    c.setOpaquePointers(true);
+    more += "-Xclang -opaque-pointers ";
+#endif
     const std::string command = ORVANE_CLANG " -target spir64-unknown-unknown -x cl -cl-std=CL2.0 -O1 -fno-builtin "
                                              "-Xclang -finclude-default-header -emit-llvm -c " +
-                                std::string(o.relaxed ? "-cl-fast-relaxed-math " : "") + "-o " + out.str().str() +
-                                " '" + file + "'";
+                                more + "-o " + out.str().str() + " '" + file + "'";
     const int failed = system(command.c_str());
     SMDiagnostic why;
     auto m = failed ? nullptr : parseIRFile(out, why, c);
@@ -172,7 +184,7 @@ program::program(const std::string& file, const options& o) {
         host.setCPU(o.processor);
         host.getFeatures() = SubtargetFeatures(o.features);
     }
-    host.setCodeGenOptLevel(CodeGenOpt::Aggressive);
+    host.setCodeGenOptLevel(aggressive);
     auto target = checked(host.createTargetMachine());
     std::vector<Function*> kernels;
     std::vector<std::string> kernel_names;
@@ -188,13 +200,14 @@ program::program(const std::string& file, const options& o) {
     // Step 4: only the ranges are left to be called, so that LLVM drops the rest; then -O3 with Orvane's passes.
     std::string open;
     for (Function& f : *m) {
-        if (!f.isDeclaration() && !f.getName().endswith(".range")) f.setLinkage(GlobalValue::InternalLinkage);
-        if (f.isDeclaration() && !f.use_empty() && f.getName().startswith("_Z") &&
+        if (!f.isDeclaration() && !f.getName().str().ends_with(".range")) f.setLinkage(GlobalValue::InternalLinkage);
+        if (f.isDeclaration() && !f.use_empty() && f.getName().str().starts_with("_Z") &&
             f.getName() != "_Z13get_global_idj")
             open += " " + f.getName().str();
     }
     if (!open.empty()) throw std::runtime_error("not defined for kernels here:" + open);
-    orvane::optimize(*m, target.get(), {o.width, o.exact_clobbers});
+    if (o.optimizer) o.optimizer(*m, *target);
+    else orvane::optimize(*m, target.get(), {o.width, o.exact_clobbers});
     raw_string_ostream text(ir);
     if (verifyModule(*m, &text)) throw std::runtime_error("invalid IR: " + text.str());
     m->print(text, nullptr);
@@ -204,7 +217,7 @@ program::program(const std::string& file, const options& o) {
         SmallString<0> bytes;
         raw_svector_ostream stream(bytes);
         legacy::PassManager emit;
-        target->addPassesToEmitFile(emit, stream, nullptr, CGFT_AssemblyFile);
+        target->addPassesToEmitFile(emit, stream, nullptr, assembly_file);
         emit.run(*m);
         assembly = bytes.str().str();
         return;

@@ -8,6 +8,7 @@
 #include <llvm/IR/IRBuilder.h>
 #include <llvm/IR/Module.h>
 
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -24,6 +25,8 @@ struct options {
     std::string library = ORVANE_LIBRARY; // liborvane_l9.so; empty: what the built-ins call is in the process
     std::string processor, features;      // empty: this machine's
     bool print_assembly = false;          // into `assembly` instead of running
+    // Instead of orvane::optimize.
+    std::function<void(llvm::Module&, llvm::TargetMachine&)> optimizer = nullptr;
 };
 
 // What a kernel becomes: its work-items from begin to end - 1, with a pointer to each argument in `arguments` (for a

@@ -65,7 +65,8 @@ bool stands_for(Type* have, Type* wanted) {
 
 class body_writer {
 public:
-    body_writer(Function& f, const builtin& b) : f(f), c(f.getContext()), row(*b.row), width(b.width) {
+    body_writer(Function& f, const builtin& b, bool always_call)
+        : f(f), c(f.getContext()), row(*b.row), width(b.width), always_call(always_call) {
         bool known = true;
         unsigned next = f.hasStructRetAttr() ? 1 : 0;
         if (f.arg_size() != next + row.arguments() + row.has_out()) known = false;
@@ -103,6 +104,7 @@ private:
     LLVMContext& c;
     const kernel_row& row;
     int width;
+    const bool always_call;
 
     Type* vector_of(lane_type t) { return ir::vector_of(c, t, width); }
 
@@ -131,7 +133,8 @@ private:
     }
 
     Value* body(IRBuilder<>& code, ArrayRef<Value*> x, Value*& second) {
-        if (Value* v = as_instructions(code, x)) return v;
+        if (!always_call)
+            if (Value* v = as_instructions(code, x)) return v;
         const auto results = call_export(code, row, width, x);
         if (results.size() == 2) second = results[1];
         return results[0];
@@ -161,6 +164,6 @@ private:
 
 } // namespace
 
-void define_builtin(Function& f, const builtin& b) { body_writer(f, b).write(); }
+void define_builtin(Function& f, const builtin& b, bool always_call) { body_writer(f, b, always_call).write(); }
 
 } // namespace orvane::ir

@@ -23,8 +23,8 @@ std::vector<builtin> all_builtins(bool relaxed);
 
 // Puts a body into a function that a compiler of OpenCL C declared for the built-in: it takes the arguments out of
 // the form in which the target passes them, calls the export, and puts the result back. What is an instruction or two
-// becomes those instructions. Linkage stays. Throws std::runtime_error, with the function as it was, if the form is
-// one that is not known here.
-void define_builtin(llvm::Function&, const builtin&);
+// becomes those instructions, but with `always_call`. Linkage stays. Throws std::runtime_error, with the function as
+// it was, if the form is one that is not known here.
+void define_builtin(llvm::Function&, const builtin&, bool always_call = false);
 
 } // namespace orvane::ir

@@ -2,12 +2,13 @@
 // which calls its export.
 //
 //     write-builtins prototypes [--relaxed] OUT.cl             OpenCL C: an empty definition of every built-in
-//     write-builtins definitions [--relaxed] IN.bc MORE.bc OUT.bc
+//     write-builtins definitions [--relaxed] [--calls] IN.bc MORE.bc OUT.bc
 //
 // Between the two runs clang compiles OUT.cl to IN.bc for some target, and with that settles each built-in's mangled
 // name and how the target passes its vectors; the second run puts a body into each, which takes the arguments out of
 // that form, calls the export, and puts the result back. MORE.bc holds what is no export and is linked in. With
-// --relaxed the rm tier takes the place of the default one, where a pair has it.
+// --relaxed the rm tier takes the place of the default one, where a pair has it. With --calls no built-in is left to
+// the compiler: what is measured against instructions.
 #include "tools/whole_file.h"
 #include "llvm/builtins/definitions.h"
 
@@ -94,7 +95,7 @@ std::unique_ptr<Module> read(const std::string& file, LLVMContext& c) {
 }
 
 void write_definitions(const std::vector<builtin>& all, const std::string& prototypes, const std::string& more,
-                       raw_ostream& out) {
+                       bool calls, raw_ostream& out) {
     LLVMContext c;
     c.setOpaquePointers(true);
     auto m = read(prototypes, c);
@@ -109,7 +110,7 @@ void write_definitions(const std::vector<builtin>& all, const std::string& proto
         if (!functions[i]->getName().contains(all[i].name))
             fail(functions[i]->getName().str() + " stands where " + all[i].name + " belongs");
         try {
-            orvane::ir::define_builtin(*functions[i], all[i]);
+            orvane::ir::define_builtin(*functions[i], all[i], calls);
         } catch (const std::exception& e) {
             fail(e.what());
         }
@@ -132,18 +133,18 @@ void write_definitions(const std::vector<builtin>& all, const std::string& proto
 
 int main(int argc, char** argv) {
     std::vector<std::string> words(argv + 1, argv + argc);
-    const bool relaxed = std::erase(words, "--relaxed");
+    const bool relaxed = std::erase(words, "--relaxed"), calls = std::erase(words, "--calls");
     const bool prototypes = words.size() == 2 && words[0] == "prototypes";
     if (!prototypes && !(words.size() == 4 && words[0] == "definitions")) {
         std::cerr << "usage: write-builtins prototypes [--relaxed] OUT.cl\n"
-                     "       write-builtins definitions [--relaxed] PROTOTYPES.bc MORE.bc OUT.bc\n";
+                     "       write-builtins definitions [--relaxed] [--calls] PROTOTYPES.bc MORE.bc OUT.bc\n";
         return 2;
     }
     std::string text;
     raw_string_ostream stream(text);
     const auto all = orvane::ir::all_builtins(relaxed);
     if (prototypes) write_prototypes(all, stream);
-    else write_definitions(all, words[1], words[2], stream);
+    else write_definitions(all, words[1], words[2], calls, stream);
     try {
         orvane::write_whole(words.back(), stream.str());
     } catch (const std::exception& e) {

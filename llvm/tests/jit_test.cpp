@@ -1,14 +1,23 @@
-// Kernels through the example's JIT: every width gives the bits of width 1, whatever the number of work-items.
+// Kernels through the example's JIT, on each LLVM: every width gives the bits of width 1, whatever the number of
+// work-items.
 #include "examples/jit/jit.h"
 
 #include <gtest/gtest.h>
+#if LLVM_VERSION_MAJOR == 15
+#include <llvm/Analysis/TargetTransformInfo.h>
+#include <llvm/IR/LegacyPassManager.h>
+#include <llvm/Transforms/IPO/PassManagerBuilder.h>
+#endif
 
 #include <cmath>
 #include <cstring>
+#include <dlfcn.h>
 #include <fstream>
 #include <map>
 #include <random>
 #include <regex>
+
+extern "C" void optimize_from_c(LLVMModuleRef, LLVMTargetMachineRef, unsigned width); // c_api.c
 
 namespace {
 
@@ -96,8 +105,7 @@ TEST(Jit, ExactClobbers8) { expect_bits_of_width_one({.width = 8, .exact_clobber
 TEST(Jit, ExactClobbers16) { expect_bits_of_width_one({.width = 16, .exact_clobbers = true}, "width 16, exact"); }
 
 // What each kernel must have become at width 8: the call, or the operation, that shows it.
-TEST(Jit, KernelsBecomeWide) {
-    const jit::program p(kernels, {.width = 8});
+void expect_wide_kernels(const jit::program& p) {
     const std::map<std::string, std::vector<std::string>> wide = {
         {"one_call", {"@__orvane_l9_expf8("}},
         {"early_return", {"@__orvane_l9_expf8("}},
@@ -128,7 +136,7 @@ TEST(Jit, KernelsBecomeWide) {
         {"two_exits", {"@llvm.sqrt.v8f32("}},
         {"private_array", {"@__orvane_l9_expf8("}},
         {"private_array_no_loop", {"@__orvane_l9_expf8("}},
-        {"divide_in_loop", {"@__orvane_l9_udiv8("}},
+        {"divide_in_loop", {"div8("}},
         {"float4_lanes", {"@__orvane_l9_expf8(", "@__orvane_l9_sincosregf8("}},
         {"float2_in_loop", {"@__orvane_l9_cosf8("}},
         {"float8_lanes", {"@__orvane_l9_expf8("}},
@@ -145,6 +153,43 @@ TEST(Jit, KernelsBecomeWide) {
     const std::string both = function_in(p.ir, "modf_both");
     EXPECT_EQ(both.find("@__orvane_l9_modff8("), both.rfind("@__orvane_l9_modff8("));
 }
+
+TEST(Jit, KernelsBecomeWide) { expect_wide_kernels(jit::program(kernels, {.width = 8})); }
+
+TEST(Jit, ForCallersInC) {
+    auto from_c = [](unsigned width) {
+        return [width](llvm::Module& m, llvm::TargetMachine& target) {
+            optimize_from_c(llvm::wrap(&m), reinterpret_cast<LLVMTargetMachineRef>(&target), width);
+        };
+    };
+    expect_wide_kernels(jit::program(kernels, {.width = 8, .optimizer = from_c(8)}));
+    // Without options of the pass's own the width is that of the loop's metadata.
+    const std::string ir = jit::program(kernels, {.width = 16, .optimizer = from_c(0)}).ir;
+    EXPECT_NE(function_in(ir, "one_call").find("@__orvane_l9_expf16("), ir.npos);
+}
+
+#if LLVM_VERSION_MAJOR == 15
+// The pipelines of runtimes that still have the legacy pass manager; the plugin puts itself into them.
+void optimize_by_legacy_passes(llvm::Module& m, llvm::TargetMachine& target) {
+    llvm::PassManagerBuilder builder;
+    builder.OptLevel = 3;
+    builder.LoopVectorize = builder.SLPVectorize = true;
+    llvm::legacy::PassManager passes;
+    passes.add(llvm::createTargetTransformInfoWrapperPass(target.getTargetIRAnalysis()));
+    builder.populateModulePassManager(passes);
+    passes.run(m);
+}
+TEST(Jit, LegacyPassManager) {
+    ASSERT_NE(dlopen(ORVANE_PLUGIN, RTLD_NOW), nullptr) << dlerror();
+    for (const char* width : {"8", "16"}) {
+        setenv("ORVANE_WIDTH", width, 1);
+        const jit::options o{.width = unsigned(atoi(width)), .optimizer = optimize_by_legacy_passes};
+        if (o.width == 8) expect_wide_kernels(jit::program(kernels, o));
+        expect_bits_of_width_one(o, std::string("legacy, width ") + width);
+    }
+    unsetenv("ORVANE_WIDTH");
+}
+#endif
 
 TEST(Jit, RelaxedMathTakesItsTier) {
     const std::string file = ORVANE_TEST_FOLDER "/relaxed.cl";
