@@ -1,6 +1,6 @@
 // Writes the tables of README.md, docs/accuracy.md and docs/speed.md from what was measured: data/worst_cases.txt,
-// which orvane-search writes, and data/speed.json, which orvane-bench --json writes. A table stands between two
-// comments,
+// which orvane-search writes, data/speed.json and data/loops.json, which orvane-bench and orvane-bench-loops write
+// with --json. A table stands between two comments,
 // <!-- begin: NAME --> and <!-- end -->; the text around it is left alone.
 //
 //     write-docs [--check] FOLDER     FOLDER: the project's root; --check: only compares, and fails on a difference
@@ -151,6 +151,20 @@ std::string speed_table(const json& speed) {
     return s;
 }
 
+// Loops that a compiler vectorized, from orvane-bench-loops --json.
+std::string loops_table(const json& loops) {
+    std::string s =
+        "| loop | ns, in cache | SLEEF | scalar | ns, 64 MB | SLEEF | scalar |\n|---|---|---|---|---|---|---|\n";
+    for (const json& r : loops) {
+        s += "| `" + r["name"].get<std::string>() + "` |";
+        for (const char* place : {"cache", "memory"})
+            s += " " + nanoseconds(r[place]) + " | " + ratio(r[place], "sleef_ns") + " | " +
+                 ratio(r[place], "scalar_ns") + " |";
+        s += "\n";
+    }
+    return s;
+}
+
 // A few pairs at 8 lanes, with error and speed in one row.
 std::string sample_table(const std::vector<worst_case>& cases, const json& speed) {
     const auto worst = worst_by_kernel(cases);
@@ -212,7 +226,8 @@ int main(int argc, char** argv) {
         const std::tuple<const char*, const char*, std::string> tables[] = {
             {"README.md", "sample of accuracy and speed", sample_table(cases, speed)},
             {"docs/accuracy.md", "largest known errors", accuracy_table(cases)},
-            {"docs/speed.md", "time per lane", speed_table(speed)}};
+            {"docs/speed.md", "time per lane", speed_table(speed)},
+            {"docs/speed.md", "loops", loops_table(json::parse(contents_of(root / "data/loops.json")))}};
         int wrong = 0;
         for (const auto& [file, name, table] : tables) {
             const std::string now = contents_of(root / file), written = with_table(now, name, table);

@@ -18,3 +18,18 @@
 #define IV(T, f) LOOP_OF(T, int, f, r[i] = f(x[i]))
 #define LOOP(kind, d, f, ...) kind(double, d) kind(float, f)
 #include "tests/vecabi/functions.def"
+
+/* Of what OpenCL C has beyond the C library, a pair that SLEEF has as well, under names of the vector ABI alone. */
+#ifdef LOOPS_OF_SLEEF
+#define SLEEF_V(T, f)                                                                                                \
+    T sleef_##f(T) __asm__(#f) __attribute__((nothrow, const, simd("notinbranch")));                                 \
+    LOOP_OF(T, T, f, r[i] = sleef_##f(x[i]))
+#elif defined LOOPS_OF_SCALAR
+#define SLEEF_V(T, f) /* the C library has none */
+#else
+#define SLEEF_V V
+#endif
+SLEEF_V(double, sinpi)
+SLEEF_V(float, sinpif)
+SLEEF_V(double, cospi)
+SLEEF_V(float, cospif)

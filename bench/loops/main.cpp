@@ -1,11 +1,13 @@
 // Real loops, as GCC vectorizes them: time per element with liborvane_vecabi, with SLEEF's library of the same names,
 // and as scalar code on the C library, in one run.
 //
-//     orvane-bench-loops [NAME_REGEX]
+//     orvane-bench-loops [--json=FILE] [NAME_REGEX]
 //
 // Two buffers: one in the first-level cache, and one of 64 MB, where the loop waits for memory as well. Prints a
-// table of medians in nanoseconds; a ratio is the peer's time over ours.
+// table of medians in nanoseconds; a ratio is the peer's time over ours. With --json the figures go to a
+// file as well, from which docs/speed.md has its table (data/loops.json).
 #include "loops.h"
+#include "tools/whole_file.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +15,7 @@
 #include <cstring>
 #include <ctime>
 #include <dlfcn.h>
+#include <nlohmann/json.hpp>
 #include <random>
 #include <regex>
 #include <stdexcept>
@@ -42,6 +45,7 @@ const std::vector<function> functions = {
 #define LOOP(kind, d, f, lo, hi, ylo, yhi)                                                                           \
     {#d, kind##_IN_DOUBLE "_" #d, true, lo, hi, ylo, yhi}, {#f, kind##_IN_FLOAT "_" #f, false, lo, hi, ylo, yhi},
 #include "tests/vecabi/functions.def"
+    LOOP(V, sinpi, sinpif, -30, 30, -3, 3) LOOP(V, cospi, cospif, -30, 30, -3, 3)
 #undef LOOP
 };
 
@@ -107,15 +111,22 @@ std::string ratio(double peer, double ours) {
 } // namespace
 
 int main(int argc, char** argv) try {
-    if (argc > 2) throw std::runtime_error("takes one argument, a regular expression for names of functions");
-    const std::regex wanted(argc > 1 ? argv[1] : ".*");
+    std::string file;
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (!arguments.empty() && arguments[0].starts_with("--json=")) {
+        file = arguments[0].substr(7);
+        arguments.erase(arguments.begin());
+    }
+    if (arguments.size() > 1)
+        throw std::runtime_error("takes --json=FILE and one argument, a regular expression for names of functions");
+    const std::regex wanted(arguments.empty() ? ".*" : arguments[0]);
     void* handles[libraries];
     for (int l = 0; l < libraries; l++)
         if (!(handles[l] = dlopen(loops_of[l], RTLD_LAZY | RTLD_LOCAL))) throw std::runtime_error(dlerror());
 
     std::puts("| loop | ns, in cache | SLEEF | scalar | ns, 64 MB | SLEEF | scalar |\n|---|---|---|---|---|---|---|");
     data d;
-    int measured = 0;
+    std::string rows;
     for (const function& f : functions) {
         if (!std::regex_match(f.name, wanted)) continue;
         std::vector<loop*> loops;
@@ -130,9 +141,17 @@ int main(int argc, char** argv) try {
                     ratio(near[sleef], near[ours]).c_str(), ratio(near[scalar], near[ours]).c_str(), far[ours],
                     ratio(far[sleef], far[ours]).c_str(), ratio(far[scalar], far[ours]).c_str());
         std::fflush(stdout);
-        measured++;
+        using json = nlohmann::ordered_json;
+        json row{{"name", f.name}};
+        for (const auto& [place, times] : {std::pair{"cache", near}, std::pair{"memory", far}}) {
+            constexpr const char* names[libraries] = {"ns", "sleef_ns", "scalar_ns"};
+            for (int l = 0; l < libraries; l++)
+                if (times[l]) row[place][names[l]] = std::round(times[l] * 1000) / 1000;
+        }
+        rows += (rows.empty() ? "" : ",\n") + row.dump();
     }
-    if (!measured) throw std::runtime_error("no function has that name");
+    if (rows.empty()) throw std::runtime_error("no function has that name");
+    if (!file.empty()) orvane::write_whole(file, "[\n" + rows + "\n]\n");
 } catch (const std::exception& e) {
     std::fprintf(stderr, "orvane-bench-loops: %s\n", e.what());
     return 1;
