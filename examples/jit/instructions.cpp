@@ -39,7 +39,6 @@ const candidate candidates[] = {
     {"convert_float", "convert_float(a)", "int", "float"},
     {"convert_float", "convert_float(a)", "uint", "float"},
     {"convert_float", "convert_float(a)", "double", "float"},
-    {"convert_double", "convert_double(a)", "float", "double"},
     {"convert_double", "convert_double(a)", "int", "double"},
 };
 

@@ -46,7 +46,7 @@ namespace {
 using targets = SetVector<BasicBlock*>;
 
 struct segment {
-    SmallVector<BasicBlock*, 8> blocks; // in topological order
+    SmallVector<BasicBlock*, 8> blocks;    // in topological order
     SmallVector<Instruction*, 16> scalars; // but for phis, which loops carry
     bool holds_latch = false;
 };

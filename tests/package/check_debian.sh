@@ -14,7 +14,7 @@ trap 'tail -n 20 "$scratch/log" 2>/dev/null' ERR
 
 (cd "$build" && cpack -G DEB -B "$scratch") >"$scratch/log" 2>&1
 packages=("$scratch"/*.deb)
-((${#packages[@]} == 4))
+((${#packages[@]} == 5))
 for package in "${packages[@]}"; do
     tags=$(lintian --allow-root "$package" | grep -v '^N:' || true)
     [ -z "$tags" ] || { echo "$tags" >&2; exit 1; }
@@ -23,7 +23,8 @@ done
 mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' | head -n 1)
 debootstrap --variant=minbase bookworm "$root" "$mirror" >>"$scratch/log" 2>&1
 cp "${packages[@]}" "$sources/tests/package/vecabi.c" "$sources/tests/package/consumer.c" "$sources/tests/package/wide.cpp" \
-    "$sources/tests/package/CMakeLists.txt" "$root/root"
+    "$sources/tests/package/CMakeLists.txt" "$sources/llvm/tests/loops.c" "$root/root"
+cp -r "$sources/tests/package/jit" "$root/root"
 # As a user does: the packages first, which bring what they need, then compilers.
 chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
     cd /root
@@ -38,6 +39,9 @@ chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
         vecabi.c -lorvane_vecabi -lm -o clang-made 2>remarks && ./clang-made
     grep -q _ZGVdN8v_lgammaf remarks
     cmake -S . -B build >/dev/null && cmake --build build >/dev/null && build/use_vecabi && build/use_orvane_l9
+    clang-16 -O3 -mavx2 -mfma -S -fpass-plugin=$(echo /usr/lib/*/orvane/orvane-llvm-16.so) loops.c -o - | grep -q __orvane_l9_expf8
+    apt-get -qq install --yes --no-install-recommends llvm-16-dev
+    cmake -S jit -B jit/build >/dev/null && cmake --build jit/build >/dev/null && jit/build/jit
 ' >>"$scratch/log" 2>&1
 umount "$root/proc" 2>/dev/null || true
 rm -rf --one-file-system "$root"
