@@ -1,7 +1,7 @@
 // The built-ins put into every kernel library that PoCL ships, whatever processor it is for: their convention is that
 // library's, and code for 512-bit registers still calls exports with 256-bit ones.
-#include "llvm/core/passes.h"
 #include "pocl/kernel_library.h"
+#include "llvm/core/passes.h"
 
 #include <gtest/gtest.h>
 #include <llvm/IR/InstIterator.h>
@@ -48,8 +48,9 @@ TEST(KernelLibraries, AllTakeEveryBuiltIn) {
         std::string why;
         raw_string_ostream text(why);
         EXPECT_FALSE(verifyModule(*m, &text)) << e.path() << '\n' << text.str();
-        for (const char* name : {"_Z7_cl_expf", "_Z10_cl_sincosDv8_fPU9CLprivateS_", "_Z7_cl_powDv16_dS_", "_Z8_cl_pownDv3_fDv3_i",
-                                 "_Z23_cl_convert_int_sat_rtef", "_Z14_cl_native_sinDv4_f", "_Z7_cl_expDv8_f.relaxed"}) {
+        for (const char* name :
+             {"_Z7_cl_expf", "_Z10_cl_sincosDv8_fPU9CLprivateS_", "_Z7_cl_powDv16_dS_", "_Z8_cl_pownDv3_fDv3_i",
+              "_Z23_cl_convert_int_sat_rtef", "_Z14_cl_native_sinDv4_f", "_Z7_cl_expDv8_f.relaxed"}) {
             Function* f = m->getFunction(name);
             ASSERT_TRUE(f) << name;
             bool calls = false;
@@ -74,8 +75,8 @@ TEST(KernelLibraries, CodeFor512BitsCallsWith256) {
     // A function with a call of exp(float16), on memory, is all that stays.
     Function* callee = m->getFunction("_Z7_cl_expDv16_f");
     ASSERT_TRUE(callee);
-    auto* f = Function::Create(
-        FunctionType::get(Type::getVoidTy(c), {PointerType::get(c, 0)}, false), GlobalValue::ExternalLinkage, "f", *m);
+    auto* f = Function::Create(FunctionType::get(Type::getVoidTy(c), {PointerType::get(c, 0)}, false),
+                               GlobalValue::ExternalLinkage, "f", *m);
     f->addFnAttr("target-cpu", "skylake-avx512");
     f->addFnAttr("target-features", "+avx512f,+avx512vl,+avx512dq,+avx512bw,+avx2,+fma,+avx");
     f->addFnAttr("min-legal-vector-width", "512");
@@ -114,8 +115,8 @@ TEST(KernelLibraries, CodeFor512BitsCallsWith256) {
     std::string why;
     const Target* target = TargetRegistry::lookupTarget("x86_64-pc-linux-gnu", why);
     ASSERT_TRUE(target) << why;
-    std::unique_ptr<TargetMachine> machine(target->createTargetMachine("x86_64-pc-linux-gnu", "skylake-avx512", "", {},
-                                                                       Reloc::PIC_, None, CodeGenOpt::Default));
+    std::unique_ptr<TargetMachine> machine(target->createTargetMachine("x86_64-pc-linux-gnu", "skylake-avx512", "",
+                                                                       {}, Reloc::PIC_, None, CodeGenOpt::Default));
     SmallString<0> assembly;
     raw_svector_ostream out(assembly);
     legacy::PassManager emit;

@@ -3,9 +3,7 @@
 #include <string.h>
 
 static cl_icd_dispatch calls;
-static struct {
-    cl_icd_dispatch* dispatch;
-} platform = {&calls};
+static struct { cl_icd_dispatch* dispatch; } platform = {&calls};
 
 static cl_int CL_API_CALL info(cl_platform_id p, cl_platform_info what, size_t size, void* value, size_t* needed) {
     const char* text = what == CL_PLATFORM_VERSION          ? "OpenCL 3.0 PoCL 4.0  Linux, LLVM 16.0.6"
