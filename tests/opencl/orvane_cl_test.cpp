@@ -1,5 +1,5 @@
-// orvane-cl on the machine's OpenCL driver: what its arguments may be, what it refuses with one line, and that files are
-// written whole or not at all.
+// orvane-cl on the machine's OpenCL driver: what its arguments may be, what it refuses with one line, and that files
+// are written whole or not at all.
 #include "tests/shell.h"
 #include "tools/npy.h"
 
@@ -66,7 +66,9 @@ protected:
         return values;
     }
     void refuses(const std::string& words, const std::string& about) { fails_with("orvane-cl " + words, about); }
-    void runs(const std::string& words) { EXPECT_EQ(shell("orvane-cl " + words + " 2>err"), 0) << words << text("err"); }
+    void runs(const std::string& words) {
+        EXPECT_EQ(shell("orvane-cl " + words + " 2>err"), 0) << words << text("err");
+    }
 };
 
 TEST_F(OrvaneCl, GivesArraysAndNumbersToKernels) {
@@ -153,8 +155,10 @@ TEST_F(OrvaneCl, SaysWhatIsWrongInOneLine) {
         {"k.cl -k mixed -n 2 rw:v.npy 1 1,1,1 local:0 out:t.npy out:d.npy c.npy", "local:COUNT"},
         {"k.cl -k mixed -n 2 rw:v.npy 1 1,1,1 local:99999999 out:t.npy out:d.npy c.npy", "more than the"},
         {"k.cl -k mixed -n 2 rw:v.npy 1e999 1,1,1 local:1 out:t.npy out:d.npy c.npy", "out of range"},
-        {"k.cl -k mixed -n 2 rw:v.npy 1 1,1,1 local:1 out:t.npy out:t.npy c.npy", "another argument writes this file"},
-        {"k.cl -k mixed -n 2 rw:v.npy 1 1,1,1 local:1 out:t.npy out:./v.npy c.npy", "another argument writes this file"},
+        {"k.cl -k mixed -n 2 rw:v.npy 1 1,1,1 local:1 out:t.npy out:t.npy c.npy",
+         "another argument writes this file"},
+        {"k.cl -k mixed -n 2 rw:v.npy 1 1,1,1 local:1 out:t.npy out:./v.npy c.npy",
+         "another argument writes this file"},
         {"k.cl -k mixed -n 2 rw:v.npy 1 1,1,1 local:1 out:t.npy out:d.npy out:c.npy", "only reads"},
         {"k.cl -k structs -n 1 x.npy x.npy", "the type struct pair* is none"},
         {"k.cl -k beyond -n 1 out:y.npy", "crashed"}};
@@ -193,7 +197,8 @@ TEST_F(OrvaneCl, ConvertsNoFile) {
 TEST_F(OrvaneCl, TellsWhatTheCompilerAndTheKernelSay) {
     write("bad name.cl", "kernel void a(global int* x) {\n  x[0] = y;\n}\n");
     EXPECT_EQ(shell("orvane-cl 'bad name.cl' -n 1 -D A=1 out:x.npy 2>err"), 2);
-    EXPECT_NE(text("err").find("bad name.cl:2:10: use of undeclared identifier 'y'"), std::string::npos) << text("err");
+    EXPECT_NE(text("err").find("bad name.cl:2:10: use of undeclared identifier 'y'"), std::string::npos)
+        << text("err");
     EXPECT_FALSE(fs::exists(folder / "x.npy.npy"));
     write("none.cl", "int f(int x) { return x; }\n");
     refuses("none.cl -n 1", "has no kernel");
@@ -203,9 +208,10 @@ TEST_F(OrvaneCl, TellsWhatTheCompilerAndTheKernelSay) {
     EXPECT_EQ(text("out"), "item -7 of 2\nitem -7 of 2\n");
     EXPECT_EQ(shell("orvane-cl --list k.cl >out"), 0);
     EXPECT_NE(text("out").find("0: "), std::string::npos);
-    EXPECT_NE(text("out").find("mixed(global float4* v, double d, float3 f, local uchar2* l, global float3* t, global "
-                               "double* all, constant short* c)"),
-              std::string::npos)
+    EXPECT_NE(
+        text("out").find("mixed(global float4* v, double d, float3 f, local uchar2* l, global float3* t, global "
+                         "double* all, constant short* c)"),
+        std::string::npos)
         << text("out");
     EXPECT_NE(text("out").find("required(global int* o) in work-groups of 8,1,1"), std::string::npos);
     EXPECT_EQ(shell("orvane-cl --list >out"), 0);
@@ -217,6 +223,14 @@ TEST_F(OrvaneCl, MeasuresBesideScalarLibm) {
     EXPECT_NE(text("out").find("scalar libm"), std::string::npos) << text("out");
     EXPECT_FALSE(fs::exists(folder / "y.npy"));
     refuses("k.cl -k scale -n 1000 x.npy out:y.npy --bench", "takes 3 arguments");
+}
+
+TEST_F(OrvaneCl, ExplainsWhatBuiltInsBecame) {
+    write("e.cl", "kernel void e(global float* x) { x[get_global_id(0)] = exp((float)get_global_id(0)); }\n");
+    runs("e.cl -n 64 out:y.npy --explain");
+    const bool ours = getenv("OCL_ICD_VENDORS") && !getenv("ORVANE_POCL");
+    EXPECT_NE(text("err").find(ours ? "orvane: kernel e: expf" : "is not Orvane's"), std::string::npos)
+        << text("err");
 }
 
 } // namespace
