@@ -446,10 +446,11 @@ std::string run_tool(const fs::path& folder, const std::string& words) {
 
 void save_png(const fs::path& npy, const fs::path& to) {
     const auto pixels = array<unsigned char>::load(npy);
+    if (pixels.values.size() != 4 * columns * rows) throw failure(npy.string() + " is no picture");
     png_image image{};
     image.version = PNG_IMAGE_VERSION;
-    image.width = png_uint_32(pixels.shape.at(1));
-    image.height = png_uint_32(pixels.shape.at(0));
+    image.width = columns;
+    image.height = rows;
     image.format = PNG_FORMAT_RGBA;
     png_alloc_size_t size = 0;
     if (!png_image_write_get_memory_size(image, size, 0, pixels.values.data(), 0, nullptr))
