@@ -13,6 +13,7 @@
 #include "page.h"
 
 #include "tools/estimates.h"
+#include "tools/report_data.h"
 #include "tools/whole_file.h"
 
 #include <CLI/CLI.hpp>
@@ -212,7 +213,7 @@ public:
         data["kernels"] = json::object();
         data["speed"] = json::array();
         data["programs"] = json::array();
-        if (!o.baseline.empty()) baseline = as_baseline(data_in(o.baseline));
+        if (!o.baseline.empty()) baseline = as_baseline(report_data(o.baseline));
         take_up(fresh);
         data.update(facts_of(pairs, opened, cases));
         json bins;
@@ -374,9 +375,9 @@ private:
     void programs(progress& bar) {
         const std::pair<const char*, const char*> all[] = {
             {"orvane-jit-speed",
-             "OpenCL C kernels, compiled by the worked example of a JIT: nanoseconds a work-item"},
+             "OpenCL C kernels, compiled by the worked example of a JIT: nanoseconds per work-item"},
             {"orvane-bench-loops",
-             "Loops in C, vectorized by GCC: nanoseconds an element; under SLEEF and scalar how many "
+             "Loops in C, vectorized by GCC: nanoseconds per element; under SLEEF and scalar how many "
              "times as long these take"}};
         size_t done = 0;
         for (const auto& [program, title] : all) {
@@ -430,9 +431,9 @@ int report_of(int argc, char** argv) {
     if (!o.from.empty()) {
         if (!o.patterns.empty())
             throw std::runtime_error("--from shows a whole report: leave the names of families out");
-        json data = data_in(o.from);
+        json data = report_data(o.from);
         data.erase("baseline");
-        if (!o.baseline.empty()) data["baseline"] = as_baseline(data_in(o.baseline));
+        if (!o.baseline.empty()) data["baseline"] = as_baseline(report_data(o.baseline));
         write_whole(o.page, page_of(data));
         std::cout << o.page.string() << ": " << data["pairs"].size() << " pairs of " << o.from << "\n";
         return 0;

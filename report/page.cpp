@@ -1,6 +1,6 @@
 #include "page.h"
 
-#include "tools/whole_file.h"
+#include "tools/report_data.h"
 
 namespace orvane::report {
 
@@ -14,8 +14,6 @@ EMBEDDED(html)
 EMBEDDED(css)
 EMBEDDED(js)
 EMBEDDED(chart)
-
-constexpr std::string_view data_begins = "<script type=\"application/json\" id=\"data\">", data_ends = "</script>";
 
 // JSON may stand between tags as long as it holds no "</".
 std::string inside_a_tag(std::string text) {
@@ -37,28 +35,11 @@ std::string page_of(const json& data) {
         else if (name == "js") page += js();
         else if (name == "chart") page += chart();
         else if (name == "data")
-            page += std::string(data_begins) + inside_a_tag(data.dump()) + std::string(data_ends);
+            page += std::string(report_data_begins) + inside_a_tag(data.dump()) + std::string(report_data_ends);
         else throw std::logic_error("the page's template asks for '" + std::string(name) + "'");
         rest = rest.substr(end + 2);
     }
     return page += rest;
-}
-
-json data_in(const std::filesystem::path& file) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(file, error))
-        throw std::runtime_error("there is no file '" + file.string() +
-                                 "'; name the data of an earlier report, or its page");
-    std::string text = contents_of(file);
-    if (const size_t at = text.find(data_begins); at != text.npos) {
-        text = text.substr(at + data_begins.size());
-        text = text.substr(0, text.find(data_ends));
-    }
-    json data = json::parse(text, nullptr, false);
-    if (data.is_discarded() || !data.is_object() || data.value("format", 0) != 1 || !data.contains("kernels") ||
-        !data.contains("speed"))
-        throw std::runtime_error("'" + file.string() + "' is neither the data of a report nor its page");
-    return data;
 }
 
 json as_baseline(const json& data) {

@@ -7,9 +7,6 @@ namespace orvane::report {
 
 std::string page_of(const json& data);
 
-// The data of an earlier run, from the file of data or from the page itself. Throws one line that says what is wrong.
-json data_in(const std::filesystem::path& file);
-
 // What a page shows of an earlier run beside its own figures: `processor`, `measured`, `estimates`, and by kernel
 // `digest` and `largest`, and `speed` as it was.
 json as_baseline(const json& data);

@@ -163,11 +163,11 @@ const columns = [
   {head: "Function", key: p => p.name, cell: p => element("a", {href: "#" + p.address}, code(p.name))},
   {head: "Type", key: p => p.types, cell: p => p.types, rest: true},
   {head: "Tier", key: p => ["default", "rm", "native", "half"].indexOf(p.tier), cell: p => p.tier, rest: true},
-  {head: "OpenCL C built-in", key: p => p.builtin || "~", rest: true,
+  {head: "OpenCL C built-in", key: p => p.builtin || "~", rest: true, wrap: true,
     cell: p => p.builtin ? element("span", {}, code(p.builtin), p.relaxed ? element("span", {class: "tag"}, "relaxed") : null) : ""},
   {head: "Largest error", number: true, key: p => p.size, cell: p => error_text(p.error, p.measure)},
   {head: "OpenCL C allows", key: p => p.limit_value ?? Infinity, cell: p => p.limit ?? "", rest: true, wrap: true},
-  {head: () => figure() === "latency" ? "ns a call" : "ns a lane", number: true,
+  {head: () => figure() === "latency" ? "ns per call" : "ns per lane", number: true,
     key: p => figure_of(p, figure(), width()).ours ?? Infinity, cell: p => time_text(figure_of(p, figure(), width()).ours)},
   {head: "× SLEEF", number: true, down: true, key: p => over_peer(p) ?? -1, cell: p => ratio_cell(over_peer(p))},
   {head: "× libm", number: true, down: true, rest: true, key: p => over_libm(p) ?? -1, cell: p => ratio_cell(over_libm(p))},
@@ -232,7 +232,7 @@ function draw_table() {
   }
   draw_head();
   by_id("choose-caption").textContent = `Accuracy and speed at ${width() === 1 ? "1 lane" : width() + " lanes"}; the buttons ` +
-    "in the head sort. A ratio is the other's time over ours.";
+    "in the head sort. A ratio is the other's time over ours: above 1 ours is faster.";
   const chosen = address().family;
   by_id("pairs").tBodies[0].replaceChildren(...shown.map(p => {
     const cells = columns.map((c, i) => i ? element("td", {class: class_of(c)}, c.cell(p))
@@ -301,7 +301,7 @@ function draw_scatter() {
     options: {
       onClick: (e, hits, chart) => { if (hits.length) location.hash = chart.data.datasets[hits[0].datasetIndex].data[hits[0].index].address; },
       onHover: (e, hits) => { e.native.target.style.cursor = hits.length ? "pointer" : ""; },
-      scales: {x: axis(f === "latency" ? "nanoseconds a call" : "nanoseconds a lane", {type: "logarithmic", ...decades}),
+      scales: {x: axis(f === "latency" ? "nanoseconds per call" : "nanoseconds per lane", {type: "logarithmic", ...decades}),
         y: axis("largest error in ulp, over the same arguments", {type: "logarithmic", ...decades})},
       plugins: {tooltip: {callbacks: {label: c => `${[...c.raw.names].join(", ")}: ${time_text(c.raw.x)} ns, ${error_text(c.raw.y, "ulp")}`}}},
     },
@@ -345,7 +345,7 @@ function draw_function(arrive) {
     choices("Tier", tiers.map(t => [t.tier, t.tier]), p.tier, t => { location.hash = family + (t === "default" ? "" : "/" + t); }),
     element("div", {class: "cards"},
       card(error_text(p.error, p.measure), "largest error known" + (p.limit ? "; OpenCL C allows " + p.limit : "")),
-      card(at8.ours ? time_text(at8.ours) + " ns" : "not measured", "a lane, at 8 lanes"),
+      card(at8.ours ? time_text(at8.ours) + " ns" : "not measured", "per lane, at 8 lanes"),
       ...(at8.peer && at8.row.peer !== "C" ? [card(ratio_text(at8.peer / at8.ours) + "×", "the speed of " + peer_name(at8.row))] : []),
       ...(at8.libm ? [card(ratio_text(at8.libm / at8.ours) + "×", "the speed of libm")] : []),
       ...(data.baseline ? [card(change_cell(change_of(p, "ordinary", 8)), "since " + data.baseline.measured)] : [])),
@@ -395,6 +395,7 @@ function accuracy_parts(p, kernel, facts) {
 function bins_of(type) {
   const edges = data.edges[type].line, n = edges.length - 1, negative = type[0] === "u" ? 0 : n;
   return {
+    count: negative + n,
     place: bin => bin < 0 ? n - 1 - (-1 - bin) : negative + bin,
     end: i => i < negative ? "-" + power(edges[n - i]) : i === negative && negative ? "0" : power(edges[i - negative]),
     part: bin => bin < 0 ? `-${power(edges[-bin])} to -${power(edges[-1 - bin])}` : `${power(edges[bin])} to ${power(edges[bin + 1])}`,
@@ -438,7 +439,8 @@ function draw_bins(p, kernel, facts) {
       borderColor: c + "80", backgroundColor: c + "80", borderWidth: 1.5, radius: 1, showLine: false, pointStyle: "dash"});
   });
   const xs = all.map(b => b.x), exponents = view === "exponents";
-  const lo = exponents ? Math.floor(Math.min(...xs)) - 1 : kernel.range[0], hi = exponents ? Math.ceil(Math.max(...xs)) + 1 : kernel.range[1];
+  const lo = exponents ? Math.max(0, Math.floor(Math.min(...xs)) - 1) : kernel.range[0];
+  const hi = exponents ? Math.min(bins.count, Math.ceil(Math.max(...xs)) + 1) : kernel.range[1];
   if (p.limit_value && p.measure === kernel.measure)
     datasets.push({label: "OpenCL C: " + p.limit, data: [{x: lo, y: p.limit_value}, {x: hi, y: p.limit_value}], borderColor: colour("limit"),
       backgroundColor: colour("limit"), borderDash: [7, 5], borderWidth: 2, radius: 0, hitRadius: 0, showLine: true, pointStyle: "line"});
@@ -447,7 +449,7 @@ function draw_bins(p, kernel, facts) {
     options: {
       scales: {
         x: axis(exponents ? "argument, by powers of two" : "argument", {min: lo, max: hi,
-          ticks: exponents ? {callback: v => Number.isInteger(v) ? bins.end(v) : "", maxRotation: 0, autoSkipPadding: 16} : {}}),
+          ticks: exponents ? {callback: v => Number.isInteger(v) ? bins.end(v) : "", maxRotation: 0, precision: 0, maxTicksLimit: 14} : {maxRotation: 0}}),
         y: axis("error, " + kernel.measure, log ? {type: "logarithmic", ...decades} : {beginAtZero: true}),
       },
       plugins: {tooltip: {callbacks: {label: c => c.raw.bin ? [`${c.dataset.label}: ${error_text(c.raw.y, kernel.measure)}`, c.raw.bin.part,
@@ -516,7 +518,7 @@ function speed_parts(p) {
   return [choices("Arguments", here.map(s => [s, set_text(s)]), set, s => { set = s; draw_function(); }),
     element("div", {class: "chart"}, element("canvas", {id: "speed", role: "img"})),
     element("details", {}, element("summary", {}, "All figures as a table"),
-      scrolled(table_of("Nanoseconds a lane, and of latency nanoseconds a call", head, rows, 1)))];
+      scrolled(table_of("Nanoseconds per lane, and of latency nanoseconds per call", head, rows, 1)))];
 }
 function draw_speed(p) {
   if (!by_id("speed")) return;
@@ -530,7 +532,7 @@ function draw_speed(p) {
       backgroundColor: colour("limit"), pointStyle: "line", radius: 12, borderWidth: 2, showLine: false});
   draw("speed", {
     type: "bar", data: {labels: widths.map(w => w === 1 ? "1 lane" : w + " lanes"), datasets},
-    options: {scales: {x: {grid: {display: false}}, y: axis(set === "latency" ? "nanoseconds a call" : "nanoseconds a lane", {beginAtZero: true})},
+    options: {scales: {x: {grid: {display: false}}, y: axis(set === "latency" ? "nanoseconds per call" : "nanoseconds per lane", {beginAtZero: true})},
       plugins: {tooltip: {callbacks: {label: c => `${c.dataset.label}: ${time_text(c.raw)} ns`}}}},
   }, `Time of ${p.name} at six widths beside SLEEF and libm, ${set_text(set)}; a table of the same figures follows.`);
 }

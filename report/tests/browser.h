@@ -38,8 +38,9 @@ public:
         if (!port) throw std::runtime_error("chromedriver does not start: install chromium-driver");
         http = std::make_unique<httplib::Client>("127.0.0.1", port);
         http->set_read_timeout(120);
-        const json options = {{"args", {"--headless=new", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
-                                        "--window-size=1280,1000", "--hide-scrollbars", "--force-prefers-reduced-motion"}}};
+        const json options = {{"args",
+                               {"--headless=new", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
+                                "--window-size=1280,1000", "--hide-scrollbars", "--force-prefers-reduced-motion"}}};
         session = "/session";
         session += "/" + post("", {{"capabilities",
                                     {{"alwaysMatch",

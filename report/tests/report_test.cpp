@@ -18,7 +18,8 @@ namespace {
 const fs::path folder = fs::temp_directory_path() / ("orvane-report-test-" + std::to_string(getpid()));
 
 int shell(const std::string& script) {
-    const int status = std::system(("cd '" + folder.string() + "' && export PATH='" ORVANE_TOOL_FOLDER "':$PATH && " + script).c_str());
+    const int status = std::system(
+        ("cd '" + folder.string() + "' && export PATH='" ORVANE_TOOL_FOLDER "':$PATH && " + script).c_str());
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
 }
 std::string text(const char* name) { return contents_of(folder / name); }
@@ -29,7 +30,8 @@ class Report : public testing::Test {
 protected:
     static void SetUpTestSuite() {
         fs::create_directories(folder);
-        ASSERT_EQ(shell("orvane-report --quick expf exp powf sinf fma idiv ceilf -o r.html >said 2>err"), 0) << text("err");
+        ASSERT_EQ(shell("orvane-report --quick expf exp powf sinf fma idiv ceilf -o r.html >said 2>err"), 0)
+            << text("err");
     }
     static void TearDownTestSuite() { fs::remove_all(folder); }
 
@@ -78,7 +80,9 @@ TEST_F(Report, DataHoldsWhatWasMeasured) {
     for (const json& p : data["pairs"])
         for (int w : widths)
             for (auto set : {"ordinary", "special"}) {
-                if (set == std::string("special") && (p["family"] == "fma" || p["family"] == "idiv" || p["family"] == "ceilf")) continue;
+                if (set == std::string("special") &&
+                    (p["family"] == "fma" || p["family"] == "idiv" || p["family"] == "ceilf"))
+                    continue;
                 const auto is_this = [&](const json& r) {
                     return r["family"] == p["family"] && r["set"] == set && r["width"] == w && r["ns"] > 0 &&
                            (r.value("latency_ns", 0.0) > 0 || set != std::string("ordinary")) &&
@@ -121,13 +125,16 @@ TEST_F(Report, AnInterruptedRunGoesOn) {
     marked["kernels"].erase("sinf/rm");
     marked["kernels"]["expf/default"]["lanes"] = 4711;
     std::ofstream(folder / "on.json") << marked;
-    ASSERT_EQ(shell("orvane-report --quick expf exp powf sinf fma idiv ceilf -o on.html >said 2>err"), 0) << text("err");
+    ASSERT_EQ(shell("orvane-report --quick expf exp powf sinf fma idiv ceilf -o on.html >said 2>err"), 0)
+        << text("err");
     const json on = data_of("on.json");
     EXPECT_TRUE(on["complete"]);
     EXPECT_EQ(on["kernels"]["expf/default"]["lanes"], 4711);
     EXPECT_TRUE(on["kernels"].contains("sinf/rm"));
     // Of another kind nothing is taken up.
-    ASSERT_EQ(shell("sed -i 's/\"complete\":true/\"complete\":false/' on.json; orvane-report --quick expf -o on.html >said 2>err"), 0);
+    ASSERT_EQ(shell("sed -i 's/\"complete\":true/\"complete\":false/' on.json; orvane-report --quick expf -o on.html "
+                    ">said 2>err"),
+              0);
     EXPECT_NE(data_of("on.json")["kernels"]["expf/default"]["lanes"], 4711);
 }
 
@@ -144,7 +151,8 @@ protected:
         }
         old["kernels"]["exp/default"]["digest"] = "0123456789ABCDEF";
         std::ofstream(folder / "old.json") << old;
-        ASSERT_EQ(shell("orvane-report --from r.json --baseline old.json -o since.html >said 2>err"), 0) << text("err");
+        ASSERT_EQ(shell("orvane-report --from r.json --baseline old.json -o since.html >said 2>err"), 0)
+            << text("err");
         window = std::make_unique<browser>();
     }
     static void TearDownTestSuite() {
@@ -155,7 +163,9 @@ protected:
     // No script fails, and nothing is asked of a network.
     void TearDown() override {
         EXPECT_EQ(window->console(), json::array());
-        EXPECT_EQ(window->run("return performance.getEntriesByType('resource').filter(e => !e.name.startsWith('data:')).map(e => e.name)"), json::array());
+        EXPECT_EQ(window->run("return performance.getEntriesByType('resource').filter(e => "
+                              "!e.name.startsWith('data:')).map(e => e.name)"),
+                  json::array());
     }
     json run(const std::string& body, const json& arguments = json::array()) { return window->run(body, arguments); }
     // The same, once it is what is wanted: a click is answered a moment later.
@@ -166,13 +176,17 @@ protected:
     }
     // Texts of a column of the table, by the beginning of its head.
     std::vector<std::string> column(const std::string& head) {
-        return run("const h = [...document.querySelectorAll('#pairs thead th')].findIndex(t => t.innerText.startsWith(arguments[0]));"
-                   "return [...document.querySelectorAll('#pairs tbody tr')].map(r => r.cells[h].textContent)", {head});
+        return run("const h = [...document.querySelectorAll('#pairs thead th')].findIndex(t => "
+                   "t.innerText.startsWith(arguments[0]));"
+                   "return [...document.querySelectorAll('#pairs tbody tr')].map(r => r.cells[h].textContent)",
+                   {head});
     }
     // How much of a plot is painted, in pixels.
     int painted(const std::string& id) {
-        return run("const c = document.getElementById(arguments[0]); const d = c.getContext('2d').getImageData(0, 0, c.width, c.height).data;"
-                   "let n = 0; for (let i = 3; i < d.length; i += 4) n += d[i] > 0; return n", {id});
+        return run("const c = document.getElementById(arguments[0]); const d = c.getContext('2d').getImageData(0, 0, "
+                   "c.width, c.height).data;"
+                   "let n = 0; for (let i = 3; i < d.length; i += 4) n += d[i] > 0; return n",
+                   {id});
     }
 };
 
@@ -198,14 +212,21 @@ TEST_F(Page, PlotsHaveTheirPoints) {
         const json& kernel = data["kernels"][name.find('/') == name.npos ? name + "/default" : name];
         for (auto view : {"exponents", "linear"}) {
             window->click(std::string("#function-body [data-value=") + view + "]");
-            const int shown = run("return charts.bins.data.datasets.filter(d => d.label.endsWith('largest')).reduce((n, d) => n + d.data.length, 0)");
+            const int shown = run("return charts.bins.data.datasets.filter(d => "
+                                  "d.label.endsWith('largest')).reduce((n, d) => n + d.data.length, 0)");
             EXPECT_EQ(shown, int(kernel[view].size())) << name << view;
             EXPECT_GT(painted("bins"), 1000);
+            EXPECT_TRUE(run("const t = charts.bins.scales.x.ticks.map(t => String(t.label));"
+                            "return t.length >= 5 && !t.some(s => /undefined|NaN/.test(s))"))
+                << name << view;
         }
-        EXPECT_EQ(run("return charts.bins.data.datasets.some(d => d.label.startsWith('OpenCL C'))"), name != "sinf/rm" || kernel["measure"] == "absolute") << name;
+        EXPECT_EQ(run("return charts.bins.data.datasets.some(d => d.label.startsWith('OpenCL C'))"),
+                  name != "sinf/rm" || kernel["measure"] == "absolute")
+            << name;
     }
     window->open_file(folder / "r.html", "#powf");
-    EXPECT_EQ(run("return charts.plane.data.datasets.reduce((n, d) => n + d.data.length, 0)"), data["kernels"]["powf/default"]["plane"].size());
+    EXPECT_EQ(run("return charts.plane.data.datasets.reduce((n, d) => n + d.data.length, 0)"),
+              data["kernels"]["powf/default"]["plane"].size());
     EXPECT_GT(painted("plane"), 10000);
     EXPECT_EQ(run("return charts.speed.data.datasets.map(d => [d.label, d.data.filter(v => v > 0).length])"),
               json::parse(R"([["Orvane", 6], ["SLEEF u10", 6], ["libm", 6]])"));
@@ -220,20 +241,24 @@ TEST_F(Page, FiltersAndSorts) {
     window->click("#filters button[type=reset]");
     EXPECT_EQ(column("Function").size(), data_of("r.json")["pairs"].size());
 
-    run("const s = document.getElementById('f-type'); s.value = 'float'; s.dispatchEvent(new Event('input', {bubbles: true}))");
+    run("const s = document.getElementById('f-type'); s.value = 'float'; s.dispatchEvent(new Event('input', "
+        "{bubbles: true}))");
     for (const auto& type : column("Type"))
         EXPECT_EQ(type, "float");
-    run("const s = document.getElementById('f-error'); s.value = '1'; s.dispatchEvent(new Event('input', {bubbles: true}))");
+    run("const s = document.getElementById('f-error'); s.value = '1'; s.dispatchEvent(new Event('input', {bubbles: "
+        "true}))");
     const auto names = column("Function");
     EXPECT_EQ(std::set<std::string>(names.begin(), names.end()), (std::set<std::string>{"expf", "expf_rm", "ceilf"}));
     window->click("#filters button[type=reset]");
 
     // By the button of a head, with the keyboard, up and then down.
-    for (const std::string head : {"Largest error", "ns a lane"}) {
-        run("[...document.querySelectorAll('#pairs thead button')].find(b => b.textContent === arguments[0]).focus()", {head});
+    for (const std::string head : {"Largest error", "ns per lane"}) {
+        run("[...document.querySelectorAll('#pairs thead button')].find(b => b.textContent === arguments[0]).focus()",
+            {head});
         for (const bool down : {false, true}) {
             window->press("\uE007");
-            EXPECT_EQ(run("return document.querySelector('#pairs th[aria-sort]').ariaSort"), down ? "descending" : "ascending");
+            EXPECT_EQ(run("return document.querySelector('#pairs th[aria-sort]').ariaSort"),
+                      down ? "descending" : "ascending");
             std::vector<double> sizes;
             for (const auto& text : column(head))
                 if (head != "Largest error" || text.ends_with("ulp")) sizes.push_back(std::stod(text));
@@ -243,13 +268,14 @@ TEST_F(Page, FiltersAndSorts) {
         }
     }
     // Figures follow the number of lanes.
-    run("const s = document.getElementById('f-width'); s.value = '1'; s.dispatchEvent(new Event('input', {bubbles: true}))");
+    run("const s = document.getElementById('f-width'); s.value = '1'; s.dispatchEvent(new Event('input', {bubbles: "
+        "true}))");
     const json data = data_of("r.json");
     for (const json& row : data["speed"])
         if (row["family"] == "fma" && row["width"] == 1 && row["set"] == "ordinary") {
             char s[16];
             snprintf(s, sizeof s, "%.3f", row["ns"].get<double>());
-            const auto texts = column("ns a lane");
+            const auto texts = column("ns per lane");
             EXPECT_NE(std::find(texts.begin(), texts.end(), s), texts.end());
         }
 }
@@ -261,17 +287,21 @@ TEST_F(Page, AClickLeadsToTheFunction) {
     window->click("#function-body [data-value=default]");
     becomes("return document.getElementById('function-title').textContent", "expf");
     const std::string section = run("return document.getElementById('function').textContent");
-    for (auto part : {"e to the power x", "2^k T[i] p(r)", "all numbers", "exp(float8)", "0.749 ulp", "__orvane_l9_expf16", "ymm0 ymm1", "Same code as"})
+    for (auto part : {"e to the power x", "2^k T[i] p(r)", "all numbers", "exp(float8)", "0.749 ulp",
+                      "__orvane_l9_expf16", "ymm0 ymm1", "Same code as"})
         EXPECT_NE(section.find(part), section.npos) << part;
     // exp(1), and exp of the largest number, by calling the export.
-    EXPECT_EQ(run("const r = [...document.querySelectorAll('#function-body tr')]; return ['1', '3.4028235e+38'].map(x => r.find(t => t.cells[0].textContent === x).cells[1].textContent)"),
+    EXPECT_EQ(run("const r = [...document.querySelectorAll('#function-body tr')]; return ['1', "
+                  "'3.4028235e+38'].map(x => r.find(t => t.cells[0].textContent === x).cells[1].textContent)"),
               json::parse(R"(["2.7182817", "inf"])"));
 
     // A point of the scatter.
     run("document.getElementById('plot').scrollIntoView({behavior: 'instant'})");
-    const json at = run("const d = charts.scatter.data.datasets.findIndex(d => d.label === 'native, half');"
-                        "const p = charts.scatter.getDatasetMeta(d).data[0], r = charts.scatter.canvas.getBoundingClientRect();"
-                        "return [Math.round(r.left + p.x), Math.round(r.top + p.y), charts.scatter.data.datasets[d].data[0].address]");
+    const json at =
+        run("const d = charts.scatter.data.datasets.findIndex(d => d.label === 'native, half');"
+            "const p = charts.scatter.getDatasetMeta(d).data[0], r = charts.scatter.canvas.getBoundingClientRect();"
+            "return [Math.round(r.left + p.x), Math.round(r.top + p.y), "
+            "charts.scatter.data.datasets[d].data[0].address]");
     window->click_at(at[0], at[1]);
     becomes("return location.hash", "#" + at[2].get<std::string>());
 }
@@ -291,16 +321,23 @@ TEST_F(Page, ColoursWhatChanged) {
 }
 
 TEST_F(Page, FitsAPhoneAndTheDark) {
-    const auto background = [&] { return run("return getComputedStyle(document.body).backgroundColor").get<std::string>(); };
-    const auto inks = [&] { return run("return charts.scatter.data.datasets.map(d => d.borderColor).join()").get<std::string>(); };
-    window->cdp("Emulation.setEmulatedMedia", {{"features", {{{"name", "prefers-color-scheme"}, {"value", "light"}}}}});
+    const auto background = [&] {
+        return run("return getComputedStyle(document.body).backgroundColor").get<std::string>();
+    };
+    const auto inks = [&] {
+        return run("return charts.scatter.data.datasets.map(d => d.borderColor).join()").get<std::string>();
+    };
+    window->cdp("Emulation.setEmulatedMedia",
+                {{"features", {{{"name", "prefers-color-scheme"}, {"value", "light"}}}}});
     const std::string light = background(), light_inks = inks();
-    window->cdp("Emulation.setEmulatedMedia", {{"features", {{{"name", "prefers-color-scheme"}, {"value", "dark"}}}}});
+    window->cdp("Emulation.setEmulatedMedia",
+                {{"features", {{{"name", "prefers-color-scheme"}, {"value", "dark"}}}}});
     EXPECT_NE(background(), light);
     EXPECT_NE(inks(), light_inks);
     window->cdp("Emulation.setEmulatedMedia", {{"features", json::array()}});
 
-    window->cdp("Emulation.setDeviceMetricsOverride", {{"width", 360}, {"height", 740}, {"deviceScaleFactor", 2}, {"mobile", true}});
+    window->cdp("Emulation.setDeviceMetricsOverride",
+                {{"width", 360}, {"height", 740}, {"deviceScaleFactor", 2}, {"mobile", true}});
     for (auto name : {"", "#powf", "#expf"}) {
         window->open_file(folder / "r.html", name);
         EXPECT_LE(run("return document.scrollingElement.scrollWidth"), 360) << name;
@@ -317,14 +354,17 @@ TEST_F(Page, HasNamesForAScreenReader) {
         if (node.value("ignored", false) || !node.contains("role")) continue;
         const std::string role = node["role"].value("value", "");
         roles[role]++;
-        for (auto named : {"button", "combobox", "searchbox", "textbox", "link", "image", "region", "table", "navigation"})
+        for (auto named :
+             {"button", "combobox", "searchbox", "textbox", "link", "image", "region", "table", "navigation"})
             if (role == named) EXPECT_NE(node.value("/name/value"_json_pointer, ""), "") << node.dump();
     }
     EXPECT_GE(roles["table"], 4);
     EXPECT_GE(roles["image"] + roles["img"], 3); // the plots
     EXPECT_GE(roles["columnheader"], 9);
     EXPECT_GE(roles["rowheader"], int(data_of("r.json")["pairs"].size()));
-    EXPECT_EQ(run("return [...document.querySelectorAll('table')].filter(t => !t.caption || !t.querySelector('th[scope]')).length"), 0);
+    EXPECT_EQ(run("return [...document.querySelectorAll('table')].filter(t => !t.caption || "
+                  "!t.querySelector('th[scope]')).length"),
+              0);
 }
 
 } // namespace
