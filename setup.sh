@@ -6,6 +6,7 @@ cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 # The library needs cmake, ninja-build and g++; the rest serves tools, tests and benchmarks.
 packages=(cmake ninja-build g++ pkg-config
     libmpfr-dev libgtest-dev libbenchmark-dev libsleef-dev libcli11-dev nlohmann-json3-dev libzydis-dev
+    libjs-chart.js libcpp-httplib-dev chromium chromium-driver
     clang-15 llvm-15-dev clang-16 llvm-16-dev clang-19 llvm-19-dev gfortran clang-format
     pocl-opencl-icd ocl-icd-opencl-dev opencl-clhpp-headers libxtensor-dev libpng-dev clinfo clpeak)
 

@@ -4,7 +4,9 @@
 // <!-- begin: NAME --> and <!-- end -->; the text around it is left alone.
 //
 //     write-docs [--check] FOLDER     FOLDER: the project's root; --check: only compares, and fails on a difference
+//     write-docs FOLDER REPORT        takes data/speed.json from a report first, its page or its data
 #include "opencl_limits.h"
+#include "report_data.h"
 #include "whole_file.h"
 #include "worst_cases.h"
 
@@ -136,6 +138,21 @@ std::string joined(const std::vector<std::string>& tiers) {
     return s;
 }
 
+// The part of a report that data/speed.json is: vectors that fill registers, without special lanes.
+std::string speed_of_report(const fs::path& report) {
+    const json data = report_data(report);
+    if (!data.value("complete", false)) throw std::runtime_error("'" + report.string() + "' is of an interrupted run");
+    std::string rows;
+    for (const auto& r : data["speed"]) {
+        if (r["set"] == "special" || r["width"] < 4) continue;
+        nlohmann::ordered_json row;
+        for (auto key : {"family", "tiers", "set", "width", "ns", "peer", "peer_ns", "libm_ns"})
+            if (r.contains(key)) row[key] = r[key];
+        rows += (rows.empty() ? "" : ",\n") + row.dump();
+    }
+    return "{\"processor\":" + data["processor"].dump() + ",\"rows\":[\n" + rows + "\n]}\n";
+}
+
 std::string speed_table(const json& speed) {
     const auto lines = speed_lines(speed);
     const std::string widths =
@@ -215,13 +232,14 @@ int main(int argc, char** argv) {
     std::vector<std::string> args(argv + 1, argv + argc);
     const bool check = !args.empty() && args[0] == "--check";
     if (check) args.erase(args.begin());
-    if (args.size() != 1 || !fs::exists(fs::path(args[0]) / "data/worst_cases.txt")) {
-        std::cerr << "write-docs: usage: write-docs [--check] FOLDER, the project's root with data/worst_cases.txt\n";
+    if (args.empty() || args.size() > (check ? 1 : 2) || !fs::exists(fs::path(args[0]) / "data/worst_cases.txt")) {
+        std::cerr << "write-docs: usage: write-docs [--check] FOLDER [REPORT], the project's root with data/worst_cases.txt\n";
         return 2;
     }
     try {
         const fs::path root = args[0];
         const auto cases = read_worst_cases(root / "data/worst_cases.txt");
+        if (args.size() == 2) write_whole(root / "data/speed.json", speed_of_report(args[1]));
         const json speed = json::parse(contents_of(root / "data/speed.json"));
         const std::tuple<const char*, const char*, std::string> tables[] = {
             {"README.md", "sample of accuracy and speed", sample_table(cases, speed)},
