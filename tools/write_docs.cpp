@@ -141,7 +141,8 @@ std::string joined(const std::vector<std::string>& tiers) {
 // The part of a report that data/speed.json is: vectors that fill registers, without special lanes.
 std::string speed_of_report(const fs::path& report) {
     const json data = report_data(report);
-    if (!data.value("complete", false)) throw std::runtime_error("'" + report.string() + "' is of an interrupted run");
+    if (!data.value("complete", false))
+        throw std::runtime_error("'" + report.string() + "' is of an interrupted run");
     std::string rows;
     for (const auto& r : data["speed"]) {
         if (r["set"] == "special" || r["width"] < 4) continue;
@@ -233,7 +234,8 @@ int main(int argc, char** argv) {
     const bool check = !args.empty() && args[0] == "--check";
     if (check) args.erase(args.begin());
     if (args.empty() || args.size() > (check ? 1 : 2) || !fs::exists(fs::path(args[0]) / "data/worst_cases.txt")) {
-        std::cerr << "write-docs: usage: write-docs [--check] FOLDER [REPORT], the project's root with data/worst_cases.txt\n";
+        std::cerr << "write-docs: usage: write-docs [--check] FOLDER [REPORT], the project's root with "
+                     "data/worst_cases.txt\n";
         return 2;
     }
     try {

@@ -1807,7 +1807,7 @@ orvane_float8 __orvane_l9_erfcf8_native(orvane_float8 x);
 void __orvane_l9_erfcf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* tgamma: Gamma function. NaN at negative integers, infinities of zeros. */
-/* tgamma default: largest known error 0.514 ulp; OpenCL C allows 16 ulp. */
+/* tgamma default: largest known error 0.516 ulp; OpenCL C allows 16 ulp. */
 orvane_double2 __orvane_l9_tgamma1(orvane_double2 x);
 orvane_double2 __orvane_l9_tgamma2(orvane_double2 x);
 orvane_double4 __orvane_l9_tgamma3(orvane_double4 x);

@@ -3,6 +3,7 @@
 #include "compat.h"
 #include "steps.h"
 
+#include <llvm/ADT/SmallPtrSet.h>
 #include <llvm/IR/InstIterator.h>
 
 using namespace llvm;
@@ -42,6 +43,7 @@ bool vectors_to_scalars(Function& f) {
     LoopInfo loops(tree);
     bool small = false;
     SmallVector<CallInst*, 16> calls;
+    SmallPtrSet<CallInst*, 16> met; // nested loops over work-items have their calls in common
     for (Loop* top : loops)
         for (Loop* loop : top->getLoopsInPreorder()) {
             if (!over_work_items(*loop)) continue;
@@ -56,7 +58,8 @@ bool vectors_to_scalars(Function& f) {
             small = true;
             for (BasicBlock* b : loop->blocks())
                 for (Instruction& i : *b)
-                    if (auto* call = dyn_cast<CallInst>(&i)) calls.push_back(call);
+                    if (auto* call = dyn_cast<CallInst>(&i))
+                        if (met.insert(call).second) calls.push_back(call);
         }
     for (CallInst* call : calls)
         if (const call_id id = find_call(*call); id.of) take_apart(*call, id);

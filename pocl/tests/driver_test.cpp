@@ -128,9 +128,9 @@ TEST_F(Driver, BinariesAreSavedAndLoaded) {
     const auto loaded = run(programs + "load " + file);
     EXPECT_EQ(loaded.status, 0) << loaded.text;
     EXPECT_EQ(loaded.text, saved.text);
-    // What plain PoCL saved runs here with its own functions.
+    // What plain PoCL saved runs here, compiled anew where it holds no code for the size of the work-groups.
     const auto other = run(plain + programs + "save " + plain_file, false);
-    EXPECT_EQ(run(programs + "load " + plain_file, false).text, other.text);
+    expect_close(run(programs + "load " + plain_file, false).text, other.text, 64 * 0x1p-24);
 }
 
 // The folder that a user chose serves both, each with kernels of its own.

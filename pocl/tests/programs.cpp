@@ -63,7 +63,7 @@ kernel void brighten(read_only image2d_t from, write_only image2d_t to, float ga
 // Three queues that hand one buffer on by events.
 void queues() {
     device d;
-    const cl::Program p = d.build("kernel void step(global float* y, float a) { const size_t i = get_global_id(0);"
+    const cl::Program p = d.build("kernel void advance(global float* y, float a) { const size_t i = get_global_id(0);"
                                   " y[i] = log1p(exp(y[i] * a)) - 0.5f * erf(y[i]); }");
     std::vector<float> y = ramp(1000, -3, 3);
     cl::Buffer b = d.buffer(y);
@@ -71,7 +71,7 @@ void queues() {
     std::vector<cl::CommandQueue> queues;
     for (float a : {0.5f, 1.5f, -0.7f}) {
         queues.emplace_back(d.context, d.of, cl::QueueProperties::OutOfOrder);
-        cl::Kernel k(p, "step");
+        cl::Kernel k(p, "advance");
         k.setArg(0, b);
         k.setArg(1, a);
         cl::Event done;
