@@ -87,6 +87,10 @@ std::string differences(const kernel_row& row) {
         for (uint64_t y : second) {
             a[0].push_back(x);
             if (a.size() > 1) a[1].push_back(y);
+            if (a.size() > 2) { // each third argument beside some pairs
+                const words third = edges(row.argument(2));
+                a[2].push_back(third[a[0].size() * 7 % third.size()]);
+            }
         }
     rng r(16);
     const auto any = random_patterns(row, 20000, r);

@@ -333,7 +333,8 @@ TEST_F(Page, FitsAPhoneAndTheDark) {
     window->cdp("Emulation.setEmulatedMedia",
                 {{"features", {{{"name", "prefers-color-scheme"}, {"value", "dark"}}}}});
     EXPECT_NE(background(), light);
-    EXPECT_NE(inks(), light_inks);
+    becomes("return String(charts.scatter.data.datasets.map(d => d.borderColor).join() !== '" + light_inks + "')",
+            "true");
     window->cdp("Emulation.setEmulatedMedia", {{"features", json::array()}});
 
     window->cdp("Emulation.setDeviceMetricsOverride",
