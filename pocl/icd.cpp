@@ -87,9 +87,10 @@ void* open_first(std::initializer_list<std::string> names, int mode) {
 std::string set_hooks(const driver& d) {
     const std::string folder = own_folder();
     // Kernels find the exports among the symbols that all of the process sees.
-    if (!open_first({folder + "liborvane_l9.so", "liborvane_l9.so"}, RTLD_NOW | RTLD_GLOBAL))
+    if (!open_first({folder + "liborvane_l9.so", folder + "../liborvane_l9.so", "liborvane_l9.so"},
+                    RTLD_NOW | RTLD_GLOBAL))
         return std::string("the library is missing: ") + dlerror();
-    void* hooks = open_first({folder + "orvane/orvane-pocl-15.so", folder + "orvane-pocl-15.so"}, RTLD_NOW);
+    void* hooks = open_first({folder + "orvane-pocl-15.so"}, RTLD_NOW);
     if (!hooks) return std::string("cannot open the hooks: ") + dlerror();
     link_map* pocl = nullptr;
     if (dlinfo(d.pocl, RTLD_DI_LINKMAP, &pocl)) return dlerror();

@@ -7,7 +7,7 @@ for tool in debootstrap lintian dpkg-shlibdeps; do
     command -v $tool >/dev/null || { echo "this test needs $tool: apt-get install debootstrap lintian dpkg-dev" >&2; exit 1; }
 done
 ((EUID == 0)) || { echo "this test makes a root of its own with debootstrap: run it as root" >&2; exit 1; }
-umount "$root/proc" 2>/dev/null || true
+umount "$root/proc" "$root/sys" 2>/dev/null || true
 rm -rf --one-file-system "$scratch"
 mkdir -p "$scratch"
 trap 'tail -n 20 "$scratch/log" 2>/dev/null' ERR
@@ -29,6 +29,7 @@ cp -r "$sources/tests/package/jit" "$root/root"
 chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
     cd /root
     mount -t proc proc /proc 2>/dev/null || true
+    mount -t sysfs sysfs /sys 2>/dev/null || true # PoCL sizes its device by it
     apt-get -qq update
     apt-get -qq install --yes --no-install-recommends ./*.deb clinfo ocl-icd-libopencl1
     orvane-call expf1 1 | grep -q 2.7182817
@@ -43,6 +44,6 @@ chroot "$root" env DEBIAN_FRONTEND=noninteractive bash -ec '
     apt-get -qq install --yes --no-install-recommends llvm-16-dev
     cmake -S jit -B jit/build >/dev/null && cmake --build jit/build >/dev/null && jit/build/jit
 ' >>"$scratch/log" 2>&1
-umount "$root/proc" 2>/dev/null || true
+umount "$root/proc" "$root/sys" 2>/dev/null || true
 rm -rf --one-file-system "$root"
 echo "installed and used in a bare root"
