@@ -2,6 +2,7 @@
 #include "llvm/builtins/definitions.h"
 
 #include <llvm/ADT/StringSet.h>
+#include <llvm/IR/IRBuilder.h>
 #include <llvm/IR/InstIterator.h>
 #include <llvm/IR/Instructions.h>
 
@@ -46,6 +47,72 @@ std::string mangled(const std::string& name, const ir::builtin& b) {
 // PoCL has its built-ins under names of its own, to which its headers lead, and conversions under the plain ones too.
 constexpr const char* prefixes[] = {"_cl_", ""};
 
+// ---- Conversions from floating point to integers of 8 and 16 bits
+
+// PoCL rounds in a dozen operations on bits, some of them branches and some on whole registers, which keep a loop
+// over work-items scalar. These are an instruction each: round, compare with the ends of the type, which are exact in
+// float, and convert by way of int. Saturated, a NaN gives 0.
+struct narrow_conversion {
+    const char *to, *mode; // "uchar", "_rte"
+    unsigned bits;
+    bool has_sign, saturates;
+};
+
+Value* converted(IRBuilder<>& code, Value* x, Type* to, const narrow_conversion& k) {
+    Type* const from = x->getType();
+    Value* y = x;
+    const StringRef mode = k.mode;
+    const auto rounds = mode == "_rte"   ? Intrinsic::roundeven
+                        : mode == "_rtp" ? Intrinsic::ceil
+                        : mode == "_rtn" ? Intrinsic::floor
+                                         : Intrinsic::not_intrinsic; // the conversion itself truncates
+    if (rounds != Intrinsic::not_intrinsic) y = code.CreateUnaryIntrinsic(rounds, y);
+    if (k.saturates) {
+        const int least = k.has_sign ? -(1 << (k.bits - 1)) : 0;
+        Constant *low = ConstantFP::get(from, least), *high = ConstantFP::get(from, least + (1 << k.bits) - 1);
+        y = code.CreateSelect(code.CreateFCmpOGT(y, low), y, low); // a NaN is the least
+        y = code.CreateSelect(code.CreateFCmpOLT(y, high), y, high);
+    }
+    y = code.CreateFPToSI(y, from->getWithNewType(code.getInt32Ty()));
+    if (k.saturates && k.has_sign)
+        y = code.CreateSelect(code.CreateFCmpORD(x, x), y, Constant::getNullValue(y->getType()));
+    return code.CreateTrunc(y, to);
+}
+
+unsigned define_narrow_conversions(Module& m, std::vector<std::string>& left) {
+    LLVMContext& c = m.getContext();
+    unsigned defined = 0;
+    auto define = [&](const narrow_conversion& k, unsigned width, Type* from, char letter) {
+        const std::string n = width == 1 ? "" : std::to_string(width);
+        Type* const to = from->getWithNewType(Type::getIntNTy(c, k.bits));
+        for (const char* prefix : prefixes) {
+            const std::string name =
+                std::string(prefix) + "convert_" + k.to + n + (k.saturates ? "_sat" : "") + k.mode;
+            Function* f = m.getFunction("_Z" + std::to_string(name.size()) + name +
+                                        (width == 1 ? "" : "Dv" + n + "_") + letter);
+            if (!f || f->isDeclaration()) continue;
+            try {
+                ir::define_by(*f, {from}, to, false,
+                              [&](IRBuilder<>& code, ArrayRef<Value*> x) { return converted(code, x[0], to, k); });
+                defined++;
+            } catch (const std::runtime_error& why) {
+                left.push_back(why.what());
+            }
+        }
+    };
+    for (const char* mode : {"", "_rte", "_rtz", "_rtp", "_rtn"})
+        for (const bool saturates : {false, true})
+            for (const narrow_conversion k : {narrow_conversion{"char", mode, 8, true, saturates},
+                                              {"uchar", mode, 8, false, saturates},
+                                              {"short", mode, 16, true, saturates},
+                                              {"ushort", mode, 16, false, saturates}})
+                for (const int width : widths) {
+                    define(k, width, ir::vector_of(c, lane_type::f32, width), 'f');
+                    define(k, width, ir::vector_of(c, lane_type::f64, width), 'd');
+                }
+    return defined;
+}
+
 const StringSet<>& relaxed_names() {
     static const StringSet<> all = [] {
         StringSet<> s;
@@ -82,6 +149,7 @@ replaced replace_builtins(Module& m) {
         define(*twin, b);
     });
     each(false, define);
+    result.built_ins += define_narrow_conversions(m, result.left);
     return result;
 }
 

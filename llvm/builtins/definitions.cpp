@@ -60,110 +60,111 @@ bool stands_for(Type* have, Type* wanted) {
     if (have == wanted || have->isPointerTy()) return true;
     if (have->getPrimitiveSizeInBits() == wanted->getPrimitiveSizeInBits()) return true;
     auto *h = dyn_cast<FixedVectorType>(have), *w = dyn_cast<FixedVectorType>(wanted);
-    return h && w && h->getElementType() == w->getElementType();
+    if (h && w) return h->getElementType() == w->getElementType();
+    // Three bytes or halves of a word in the bits of four.
+    return w && w->getNumElements() == 3 &&
+           have->getPrimitiveSizeInBits() == 4 * w->getElementType()->getPrimitiveSizeInBits();
 }
 
-class body_writer {
-public:
-    body_writer(Function& f, const builtin& b, bool always_call)
-        : f(f), c(f.getContext()), row(*b.row), width(b.width), always_call(always_call) {
-        bool known = true;
-        unsigned next = f.hasStructRetAttr() ? 1 : 0;
-        if (f.arg_size() != next + row.arguments() + row.has_out()) known = false;
-        for (int j = 0; known && j < row.arguments(); j++)
-            known = stands_for(f.getArg(next++)->getType(), vector_of(row.argument(j)));
-        if (known && !f.hasStructRetAttr())
-            known = !f.getReturnType()->isPointerTy() && stands_for(f.getReturnType(), vector_of(row.result(0)));
-        if (!known) throw std::runtime_error(f.getName().str() + ": this way to pass a vector is not known here");
+Value* reshaped(IRBuilder<>& code, Value* v, Type* wanted) {
+    Type* have = v->getType();
+    if (have == wanted) return v;
+    if (have->getPrimitiveSizeInBits() == wanted->getPrimitiveSizeInBits()) return code.CreateBitCast(v, wanted);
+    auto* from = cast<FixedVectorType>(have);
+    if (!isa<FixedVectorType>(wanted)) { // four lanes as one number
+        Value* four = reshaped(code, v, FixedVectorType::get(from->getElementType(), 4));
+        return code.CreateBitCast(four, wanted);
     }
+    SmallVector<int, 16> lanes;
+    for (unsigned k = 0; k < cast<FixedVectorType>(wanted)->getNumElements(); k++)
+        lanes.push_back(k < from->getNumElements() ? int(k) : -1);
+    return code.CreateShuffleVector(v, lanes);
+}
 
-    void write() {
-        const auto linkage = f.getLinkage();
-        f.deleteBody();
-        f.setLinkage(linkage);
-        f.setAttributes(f.getAttributes().removeFnAttributes(c));
-        f.addFnAttr(Attribute::AlwaysInline);
-        f.setDoesNotThrow();
-        f.addFnAttr(Attribute::WillReturn);
-        IRBuilder<> code(BasicBlock::Create(c, "", &f));
+Value* natural(IRBuilder<>& code, Function& f, unsigned at, Type* wanted) {
+    Value* v = f.getArg(at);
+    if (!v->getType()->isPointerTy()) return reshaped(code, v, wanted);
+    const MaybeAlign aligned = f.getParamAlign(at);
+    return code.CreateAlignedLoad(wanted, v, aligned ? *aligned : Align(wanted->getScalarSizeInBits() / 8));
+}
 
-        unsigned next = f.hasStructRetAttr() ? 1 : 0;
-        std::vector<Value*> x;
-        for (int j = 0; j < row.arguments(); j++)
-            x.push_back(natural(code, next++, vector_of(row.argument(j))));
-        Value* second = nullptr;
-        Value* result = body(code, x, second);
-        if (second) code.CreateAlignedStore(second, f.getArg(next), Align(size_of(row.extra)));
-        give_back(code, result);
-        const bool in_memory = any_of(f.args(), [](Argument& a) { return a.getType()->isPointerTy(); });
-        if (!in_memory) f.setDoesNotAccessMemory();
-    }
-
-private:
-    Function& f;
-    LLVMContext& c;
-    const kernel_row& row;
-    int width;
-    const bool always_call;
-
-    Type* vector_of(lane_type t) { return ir::vector_of(c, t, width); }
-
-    Value* natural(IRBuilder<>& code, unsigned at, Type* wanted) {
-        Value* v = f.getArg(at);
-        if (!v->getType()->isPointerTy()) return reshaped(code, v, wanted);
-        const MaybeAlign aligned = f.getParamAlign(at);
-        return code.CreateAlignedLoad(wanted, v, aligned ? *aligned : Align(size_of(row.in)));
-    }
-    static Value* reshaped(IRBuilder<>& code, Value* v, Type* wanted) {
-        Type* have = v->getType();
-        if (have == wanted) return v;
-        if (have->getPrimitiveSizeInBits() == wanted->getPrimitiveSizeInBits()) return code.CreateBitCast(v, wanted);
-        const unsigned has = cast<FixedVectorType>(have)->getNumElements();
-        SmallVector<int, 16> lanes;
-        for (unsigned k = 0; k < cast<FixedVectorType>(wanted)->getNumElements(); k++)
-            lanes.push_back(k < has ? int(k) : -1);
-        return code.CreateShuffleVector(v, lanes);
-    }
-    void give_back(IRBuilder<>& code, Value* v) {
-        if (f.hasStructRetAttr()) {
-            const MaybeAlign aligned = f.getParamAlign(0);
-            code.CreateAlignedStore(v, f.getArg(0), aligned ? *aligned : Align(8));
-            code.CreateRetVoid();
-        } else code.CreateRet(reshaped(code, v, f.getReturnType()));
-    }
-
-    Value* body(IRBuilder<>& code, ArrayRef<Value*> x, Value*& second) {
-        if (!always_call)
-            if (Value* v = as_instructions(code, x)) return v;
-        const auto results = call_export(code, row, width, x);
-        if (results.size() == 2) second = results[1];
-        return results[0];
-    }
-
-    Value* as_instructions(IRBuilder<>& code, ArrayRef<Value*> x) {
-        if (row.sclass == signature_class::conversion) {
-            // Conversions that are exact or round to nearest are what the instruction does.
-            const bool to_nearest = row.builtin.ends_with("_rte");
-            const bool exact = size_of(row.in) == 4 && row.out == lane_type::f64;
-            if (!is_floating(row.out) || !(to_nearest || exact)) return nullptr;
-            Type* to = vector_of(row.out);
-            if (row.in == lane_type::f64) return code.CreateFPTrunc(x[0], to);
-            if (row.in == lane_type::i32) return code.CreateSIToFP(x[0], to);
-            if (row.in == lane_type::u32) return code.CreateUIToFP(x[0], to);
-            return nullptr;
-        }
-        const auto found = as_intrinsics.find(row.builtin);
-        if (found != as_intrinsics.end()) return code.CreateIntrinsic(found->second, {x[0]->getType()}, x);
-        if (row.builtin == "rsqrt") {
-            Value* root = code.CreateIntrinsic(Intrinsic::sqrt, {x[0]->getType()}, x);
-            return code.CreateFDiv(ConstantFP::get(x[0]->getType(), 1), root);
-        }
-        return nullptr;
-    }
-};
+void give_back(IRBuilder<>& code, Function& f, Value* v) {
+    if (f.hasStructRetAttr()) {
+        const MaybeAlign aligned = f.getParamAlign(0);
+        code.CreateAlignedStore(v, f.getArg(0), aligned ? *aligned : Align(8));
+        code.CreateRetVoid();
+    } else code.CreateRet(reshaped(code, v, f.getReturnType()));
+}
 
 } // namespace
 
-void define_builtin(Function& f, const builtin& b, bool always_call) { body_writer(f, b, always_call).write(); }
+void define_by(Function& f, ArrayRef<Type*> arguments, Type* result, bool has_out,
+               function_ref<Value*(IRBuilder<>&, ArrayRef<Value*>)> body) {
+    const unsigned first = f.hasStructRetAttr() ? 1 : 0, count = arguments.size();
+    bool known = f.arg_size() == first + count + has_out;
+    for (unsigned j = 0; known && j < count; j++)
+        known = stands_for(f.getArg(first + j)->getType(), arguments[j]);
+    if (known && !f.hasStructRetAttr())
+        known = !f.getReturnType()->isPointerTy() && stands_for(f.getReturnType(), result);
+    if (!known) throw std::runtime_error(f.getName().str() + ": this way to pass a vector is not known here");
+
+    LLVMContext& c = f.getContext();
+    const auto linkage = f.getLinkage();
+    f.deleteBody();
+    f.setLinkage(linkage);
+    f.setAttributes(f.getAttributes().removeFnAttributes(c));
+    f.addFnAttr(Attribute::AlwaysInline);
+    f.setDoesNotThrow();
+    f.addFnAttr(Attribute::WillReturn);
+    IRBuilder<> code(BasicBlock::Create(c, "", &f));
+    SmallVector<Value*, 4> x;
+    for (unsigned j = 0; j < count; j++)
+        x.push_back(natural(code, f, first + j, arguments[j]));
+    if (has_out) x.push_back(f.getArg(first + count));
+    give_back(code, f, body(code, x));
+    if (none_of(f.args(), [](Argument& a) { return a.getType()->isPointerTy(); })) f.setDoesNotAccessMemory();
+}
+
+namespace {
+
+Value* as_instructions(IRBuilder<>& code, const kernel_row& row, int width, ArrayRef<Value*> x) {
+    if (row.sclass == signature_class::conversion) {
+        // Conversions that are exact or round to nearest are what the instruction does.
+        const bool to_nearest = row.builtin.ends_with("_rte");
+        const bool exact = size_of(row.in) == 4 && row.out == lane_type::f64;
+        if (!is_floating(row.out) || !(to_nearest || exact)) return nullptr;
+        Type* to = vector_of(code.getContext(), row.out, width);
+        if (row.in == lane_type::f64) return code.CreateFPTrunc(x[0], to);
+        if (row.in == lane_type::i32) return code.CreateSIToFP(x[0], to);
+        if (row.in == lane_type::u32) return code.CreateUIToFP(x[0], to);
+        return nullptr;
+    }
+    const auto found = as_intrinsics.find(row.builtin);
+    if (found != as_intrinsics.end()) return code.CreateIntrinsic(found->second, {x[0]->getType()}, x);
+    if (row.builtin == "rsqrt") {
+        Value* root = code.CreateIntrinsic(Intrinsic::sqrt, {x[0]->getType()}, x);
+        return code.CreateFDiv(ConstantFP::get(x[0]->getType(), 1), root);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void define_builtin(Function& f, const builtin& b, bool always_call) {
+    const kernel_row& row = *b.row;
+    const unsigned count = row.arguments();
+    SmallVector<Type*, 3> arguments;
+    for (unsigned j = 0; j < count; j++)
+        arguments.push_back(vector_of(f.getContext(), row.argument(j), b.width));
+    define_by(f, arguments, vector_of(f.getContext(), row.result(0), b.width), row.has_out(),
+              [&](IRBuilder<>& code, ArrayRef<Value*> x) -> Value* {
+                  const ArrayRef<Value*> values = x.take_front(count);
+                  if (!always_call)
+                      if (Value* v = as_instructions(code, row, b.width, values)) return v;
+                  const auto results = call_export(code, row, b.width, values);
+                  if (results.size() == 2) code.CreateAlignedStore(results[1], x[count], Align(size_of(row.extra)));
+                  return results[0];
+              });
+}
 
 } // namespace orvane::ir

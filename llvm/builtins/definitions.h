@@ -27,4 +27,9 @@ std::vector<builtin> all_builtins(bool relaxed);
 // it was, if the form is one that is not known here.
 void define_builtin(llvm::Function&, const builtin&, bool always_call = false);
 
+// The same for any function of vectors: `arguments` and `result` are their types by nature, and `body` gives the
+// result from the arguments, the last of them an out-pointer with `has_out`.
+void define_by(llvm::Function&, llvm::ArrayRef<llvm::Type*> arguments, llvm::Type* result, bool has_out,
+               llvm::function_ref<llvm::Value*(llvm::IRBuilder<>&, llvm::ArrayRef<llvm::Value*>)> body);
+
 } // namespace orvane::ir

@@ -71,6 +71,7 @@ struct widen : PassInfoMixin<widen> {
             tidy.addPass(InstCombinePass());
             tidy.addPass(EarlyCSEPass(true));
             analyses.invalidate(f, tidy.run(f, analyses));
+            ir::packed_lanes_to_scalars(f);
             changed = true;
         }
         OptimizationRemarkEmitter remarks(&f);

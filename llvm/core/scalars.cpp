@@ -4,7 +4,9 @@
 #include "steps.h"
 
 #include <llvm/ADT/SmallPtrSet.h>
+#include <llvm/Analysis/VectorUtils.h>
 #include <llvm/IR/InstIterator.h>
+#include <llvm/Transforms/Utils/Local.h>
 
 using namespace llvm;
 
@@ -64,6 +66,39 @@ bool vectors_to_scalars(Function& f) {
     for (CallInst* call : calls)
         if (const call_id id = find_call(*call); id.of) take_apart(*call, id);
     return small;
+}
+
+// A vector of small integers that is read or written as one number: its lanes by shifts, which widen.
+bool packed_lanes_to_scalars(Function& f) {
+    SmallVector<Instruction*, 16> done;
+    for (Instruction& i : instructions(f)) {
+        IRBuilder<> code(&i);
+        if (auto* lane = dyn_cast<ExtractElementInst>(&i)) {
+            auto* cast = dyn_cast<BitCastInst>(lane->getVectorOperand());
+            auto* index = dyn_cast<ConstantInt>(lane->getIndexOperand());
+            if (!cast || !index || !cast->getSrcTy()->isIntegerTy() || !lane->getType()->isIntegerTy()) continue;
+            Value* shifted =
+                code.CreateLShr(cast->getOperand(0), index->getZExtValue() * lane->getType()->getIntegerBitWidth());
+            lane->replaceAllUsesWith(code.CreateTrunc(shifted, lane->getType()));
+            done.push_back(lane);
+        } else if (auto* cast = dyn_cast<BitCastInst>(&i)) {
+            auto* from = dyn_cast<FixedVectorType>(cast->getSrcTy());
+            if (!from || !from->getElementType()->isIntegerTy() || !cast->getType()->isIntegerTy()) continue;
+            SmallVector<Value*, 4> lanes;
+            for (unsigned k = 0; k < from->getNumElements(); k++)
+                lanes.push_back(findScalarElement(cast->getOperand(0), k));
+            if (is_contained(lanes, nullptr)) continue;
+            Value* packed = Constant::getNullValue(cast->getType());
+            for (unsigned k = 0; k < lanes.size(); k++)
+                packed = code.CreateOr(packed, code.CreateShl(code.CreateZExt(lanes[k], cast->getType()),
+                                                              k * from->getScalarSizeInBits()));
+            cast->replaceAllUsesWith(packed);
+            done.push_back(cast);
+        }
+    }
+    for (Instruction* i : reverse(done))
+        RecursivelyDeleteTriviallyDeadInstructions(i);
+    return !done.empty();
 }
 
 bool has_switches(Function& f) {

@@ -29,6 +29,8 @@ bool divisions_to_calls(llvm::Function&);
 bool results_to_parts(llvm::Function&);
 // In loops over work-items: vectors of up to four lanes, and calls on them, become scalars, which widen.
 bool vectors_to_scalars(llvm::Function&);
+// Behind the scalarizer: lanes of small integers that share a number.
+bool packed_lanes_to_scalars(llvm::Function&);
 // A loop over work-items that LLVM's vectorizer would leave alone, since it has loops of its own or arrays private to
 // a work-item, becomes one over groups of work-items, with an innermost loop over lanes at every step.
 bool loops_to_lane_loops(llvm::Function&, const step_options&, llvm::OptimizationRemarkEmitter&);

@@ -4,6 +4,7 @@
 #include "tests/support.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 using namespace orvane;
@@ -149,3 +150,54 @@ void compare(bool relaxed) {
 
 TEST(BuiltinsThroughOpenCl, HaveTheBitsOfTheExports) { compare(false); }
 TEST(BuiltinsThroughOpenCl, RelaxedOnesToo) { compare(true); }
+
+// Conversions to integers of 8 and 16 bits, which are no exports: to the nearest value within the type, of a NaN 0.
+TEST(BuiltinsThroughOpenCl, NarrowConversionsSaturate) {
+    const std::vector<float> ends{0,        -0.f,     0.5f, -0.5f,  1.5f,     2.5f,      -2.5f,  126.5f,
+                                  127.5f,   -128.5f,  -129, 254.5f, 255.5f,   0.499999f, 1e-40f, 32766.5f,
+                                  32767.5f, 65535.5f, 1e9f, -1e9f,  INFINITY, -INFINITY, NAN,    -NAN};
+    std::vector<float> x(960);
+    for (size_t i = 0; i < x.size(); i++)
+        x[i] = i < ends.size() ? ends[i] : float(rng(i)() % 1400000) / 10 - 70000;
+    struct {
+        const char* name;
+        double least, greatest;
+    } const types[] = {{"char", -128, 127}, {"uchar", 0, 255}, {"short", -32768, 32767}, {"ushort", 0, 65535}};
+    const std::pair<const char*, double (*)(double)> modes[] = {{"", [](double v) { return trunc(v); }},
+                                                                {"_rtz", [](double v) { return trunc(v); }},
+                                                                {"_rte", [](double v) { return nearbyint(v); }},
+                                                                {"_rtp", [](double v) { return ceil(v); }},
+                                                                {"_rtn", [](double v) { return floor(v); }}};
+    std::string source;
+    for (const auto& t : types)
+        for (const auto& [mode, _] : modes)
+            for (int w : widths) {
+                const std::string n = w == 1 ? "" : std::to_string(w), to = t.name + n;
+                source += "kernel void to_" + to + mode +
+                          "(global const float* x, global int* y) { const size_t i = "
+                          "get_global_id(0); const float" +
+                          n + " v = " + (w == 1 ? "x[i]" : "vload" + n + "(i, x)") + "; const int" + n +
+                          " f = convert_int" + n + "(convert_" + to + "_sat" + mode + "(v)), d = convert_int" + n +
+                          "(convert_" + to + "_sat" + mode + "(convert_double" + n + "(v))); const int" + n +
+                          " r = f == d ? f : 1 << 20; " + (w == 1 ? "y[i] = r" : "vstore" + n + "(r, i, y)") +
+                          "; }\n";
+            }
+    device d;
+    const cl::Program program = d.build(source, "-cl-std=CL1.2");
+    cl::Buffer in = d.buffer(x);
+    for (const auto& t : types)
+        for (const auto& [mode, rounded] : modes)
+            for (int w : widths) {
+                const std::string name = std::string("to_") + t.name + (w == 1 ? "" : std::to_string(w)) + mode;
+                std::vector<int> y(x.size());
+                cl::Buffer out = d.buffer(y);
+                cl::Kernel kernel(program, name.c_str());
+                kernel.setArg(0, in);
+                kernel.setArg(1, out);
+                d.queue.enqueueNDRangeKernel(kernel, cl::NullRange, cl::NDRange(x.size() / w), cl::NDRange(20));
+                d.read(out, y);
+                for (size_t i = 0; i < x.size(); i++)
+                    ASSERT_EQ(y[i], x[i] != x[i] ? 0 : std::clamp(rounded(x[i]), t.least, t.greatest))
+                        << name << ' ' << x[i];
+            }
+}
