@@ -128,6 +128,10 @@ TEST_F(Driver, BinariesAreSavedAndLoaded) {
     const auto loaded = run(programs + "load " + file);
     EXPECT_EQ(loaded.status, 0) << loaded.text;
     EXPECT_EQ(loaded.text, saved.text);
+    // Plain PoCL, which has no exports, refuses it, and does not end the process when a kernel starts.
+    const auto refused = run(plain + programs + "load " + file);
+    EXPECT_EQ(refused.status, 1) << refused.text;
+    EXPECT_EQ(refused.text, "opencl-programs: clCreateProgramWithBinary\n");
     // What plain PoCL saved runs here, compiled anew where it holds no code for the size of the work-groups.
     const auto other = run(plain + programs + "save " + plain_file, false);
     expect_close(run(programs + "load " + plain_file, false).text, other.text, 64 * 0x1p-24);
@@ -146,6 +150,16 @@ TEST_F(Driver, KeepsItsKernelsApart) {
     for (const auto& e : fs::directory_iterator(folder / "cache"))
         folders += e.path().filename().string().starts_with("orvane-" ORVANE_VERSION);
     EXPECT_EQ(folders, 1);
+}
+
+// Loops of their own, branches, small integers: all of these once stayed scalar.
+TEST_F(Driver, WidensTheExamples) {
+    const auto o = run(logged + ORVANE_BUILD "/orvane-cl-examples mandelbrot complex_gamma gamma_correction n_body");
+    EXPECT_EQ(o.status, 0) << o.text;
+    for (const char* line : {"mandelbrot: loop over work-items runs by lanes, 8", "mandelbrot: cospif for 8",
+                             "complex_gamma: atan2f for 8", "gamma_correction: powf for 8",
+                             "n_body: loop over work-items runs by lanes, 8"})
+        EXPECT_NE(o.text.find(line), std::string::npos) << line << "\n" << o.text;
 }
 
 TEST_F(Driver, ServesClinfoAndClpeak) {
