@@ -9,6 +9,7 @@
 #include <optional>
 #include <sys/socket.h>
 #include <sys/wait.h>
+#include <thread>
 
 namespace orvane {
 
@@ -32,7 +33,8 @@ struct column {
     const char *name, *title;
 };
 constexpr const char* plain_title = "plain PoCL";
-constexpr column columns[] = {{"chosen", ""}, {"plain", plain_title}, {"libm", "scalar libm"}};
+constexpr column columns[] = {
+    {"chosen", ""}, {"plain", plain_title}, {"libm", "scalar libm"}, {"two", "two threads"}};
 
 double median(std::vector<double> v) {
     std::nth_element(v.begin(), v.begin() + v.size() / 2, v.end());
@@ -55,8 +57,8 @@ public:
         if (process < 0) throw failure(strerror(errno));
         if (!process) {
             dup2(ends[1], 3);
-            setenv("POCL_MAX_PTHREAD_COUNT", "1", 0);
-            if (column != "chosen") {
+            setenv("POCL_MAX_PTHREAD_COUNT", column == "two" ? "2" : "1", column == "two");
+            if (column == "plain" || column == "libm") {
                 setenv("ORVANE_POCL", "0", 1);
                 setenv("POCL_CACHE_DIR", (cache / column).c_str(), 1);
                 fs::create_directory(cache / column);
@@ -104,8 +106,13 @@ int bench_in_turns(const std::vector<std::string>& words) {
     const temporary_folder cache;
     std::vector<std::unique_ptr<runner>> runners;
     std::vector<std::string> titles;
+    // How many threads run is PoCL's variable to say, or the user's.
+    const bool threads_matter = std::thread::hardware_concurrency() > 1 && !getenv("POCL_MAX_PTHREAD_COUNT");
     for (const auto& c : columns) {
         if (c.title == plain_title && titles[0] == plain_title) continue; // is measured already
+        if (c.name == std::string_view("two") &&
+            (!threads_matter || (titles[0] != "Orvane" && titles[0] != plain_title)))
+            continue;
         auto r = std::make_unique<runner>(words, c.name, cache.path);
         const auto ready = r->answer();
         if (!ready && runners.empty()) return r->exit_code(); // it has said why
@@ -128,7 +135,7 @@ int bench_in_turns(const std::vector<std::string>& words) {
     size_t width = 0;
     for (const auto& t : titles)
         width = std::max(width, t.size());
-    printf("ns a work-item, one thread, medians of %zu rounds in turns\n", times[0].size());
+    printf("ns a work-item, one thread if not said, medians of %zu rounds in turns\n", times[0].size());
     for (size_t k = 0; k < runners.size(); k++) {
         printf("  %-*s %9.3f", int(width), titles[k].c_str(), median(times[k]));
         if (k) printf("  %7.2f times", median(times[k]) / median(times[0]));
@@ -145,7 +152,7 @@ int take_turns(const kernel_request& given, const std::string& column, int descr
     const auto is_plain = [](const platform& p) {
         return p.version.find("PoCL") != p.version.npos && !p.is_orvane();
     };
-    if (column != "chosen") {
+    if (column == "plain" || column == "libm") {
         const auto all = platforms();
         const auto plain = std::find_if(all.begin(), all.end(), is_plain);
         if (plain == all.end()) return fputs("none\n", to), 0;

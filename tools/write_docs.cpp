@@ -1,6 +1,6 @@
 // Writes the tables of README.md, docs/accuracy.md and docs/speed.md from what was measured: data/worst_cases.txt,
-// which orvane-search writes, data/speed.json and data/loops.json, which orvane-bench and orvane-bench-loops write
-// with --json. A table stands between two comments,
+// which orvane-search writes, data/speed.json, data/loops.json and data/opencl.json, which orvane-bench,
+// orvane-bench-loops and orvane-cl-examples write with --json. A table stands between two comments,
 // <!-- begin: NAME --> and <!-- end -->; the text around it is left alone.
 //
 //     write-docs [--check] FOLDER     FOLDER: the project's root; --check: only compares, and fails on a difference
@@ -183,6 +183,19 @@ std::string loops_table(const json& loops) {
     return s;
 }
 
+// OpenCL kernels, from orvane-cl-examples --json.
+std::string opencl_table(const json& examples) {
+    std::string s = "| example | ns | plain PoCL | scalar libm | two threads |\n|---|---|---|---|---|\n";
+    for (const json& r : examples)
+        s += "| `" + r["name"].get<std::string>() + "` | " + formatted("%.2f", r["ns"].get<double>()) + " | " +
+             ratio(r, "plain_ns") + " | " + ratio(r, "libm_ns") + " | " +
+             (r.contains("two_threads_ns")
+                  ? formatted("%.2f", r["ns"].get<double>() / r["two_threads_ns"].get<double>())
+                  : "") +
+             " |\n";
+    return s;
+}
+
 // A few pairs at 8 lanes, with error and speed in one row.
 std::string sample_table(const std::vector<worst_case>& cases, const json& speed) {
     const auto worst = worst_by_kernel(cases);
@@ -247,7 +260,8 @@ int main(int argc, char** argv) {
             {"README.md", "sample of accuracy and speed", sample_table(cases, speed)},
             {"docs/accuracy.md", "largest known errors", accuracy_table(cases)},
             {"docs/speed.md", "time per lane", speed_table(speed)},
-            {"docs/speed.md", "loops", loops_table(json::parse(contents_of(root / "data/loops.json")))}};
+            {"docs/speed.md", "loops", loops_table(json::parse(contents_of(root / "data/loops.json")))},
+            {"docs/speed.md", "OpenCL kernels", opencl_table(json::parse(contents_of(root / "data/opencl.json")))}};
         int wrong = 0;
         for (const auto& [file, name, table] : tables) {
             const std::string now = contents_of(root / file), written = with_table(now, name, table);

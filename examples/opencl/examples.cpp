@@ -3,6 +3,7 @@
 //
 //     orvane-cl-examples                  all of them: a line each, exit code 1 if one is wrong
 //     orvane-cl-examples --speed gelu     and ns a work-item beside plain PoCL and scalar libm
+//     orvane-cl-examples --json=FILE      the same table for programs (data/opencl.json)
 //     orvane-cl-examples --pictures .     and the pictures among them as PNG
 #include "tools/command_line.h"
 #include "tools/npy.h"
@@ -197,6 +198,25 @@ std::vector<example> all_examples() {
                        const double n = double(got.values.size());
                        o.told = text("%.0f numbers: mean %+.5f, variance %.5f, fourth moment %.4f", n, sum / n,
                                      squares / n, fourth / n);
+                       return o;
+                   }});
+    all.push_back({"pow", "compound_interest.cl", "-n 65536", "rate.npy years.npy out:grown.npy",
+                   [](const fs::path& d) {
+                       array<float>({65536}, uniform(12, -0.02, 0.12)).save(d / "rate.npy");
+                       array<float>({65536}, uniform(13, 0, 40)).save(d / "years.npy");
+                   },
+                   [](const fs::path& d) {
+                       const auto rate = array<float>::load(d / "rate.npy"),
+                                  years = array<float>::load(d / "years.npy"),
+                                  grown = array<float>::load(d / "grown.npy");
+                       outcome o;
+                       double mean = 0;
+                       for (size_t i = 0; i < grown.values.size(); i++) {
+                           const double want = std::pow(double(1 + rate[i]), double(years[i]));
+                           o.compared.add(grown[i], want, 2e-7 * want);
+                           mean += grown[i] / double(grown.values.size());
+                       }
+                       o.told = text("%zu deposits, mean growth %.6f", grown.values.size(), mean);
                        return o;
                    }});
     const auto world = places();
@@ -467,10 +487,14 @@ void save_png(const fs::path& npy, const fs::path& to) {
 int run(const std::vector<std::string>& words) {
     CLI::App app{"Runs the example kernels by orvane-cl and compares them with double precision on the host."};
     std::vector<std::string> names, arguments;
-    std::string pictures;
+    std::string pictures, json;
     bool speed = false, list = false;
     app.add_option("names", names, "examples (default: all)");
-    app.add_flag("--speed", speed, "a table of ns a work-item: here, on plain PoCL, with scalar libm");
+    app.add_flag(
+        "--speed", speed,
+        "a table of ns a work-item: here; and how many times as long it takes on plain PoCL, with scalar libm, and "
+        "on two threads");
+    app.add_option("--json", json, "write that table into this file, for programs");
     app.add_flag("--list", list, "their names");
     app.add_option("--pictures", pictures, "write the pictures among them into this folder, as PNG");
     if (parse_words(app, words, names, "orvane-cl-examples")) return 0;
@@ -498,7 +522,8 @@ int run(const std::vector<std::string>& words) {
     } folder{temporary};
 
     bool right = true;
-    std::string table;
+    speed |= !json.empty();
+    std::string table, rows;
     for (const auto& e : all) {
         const fs::path own = folder.path / e.name;
         fs::create_directory(own);
@@ -522,21 +547,39 @@ int run(const std::vector<std::string>& words) {
         }
         if (!speed) continue;
         std::stringstream lines(run_tool(own, call + " --bench"));
-        std::string line, row = text("%-21s", e.name.c_str()), titles = text("%-21s", "ns a work-item");
+        std::map<std::string, double> ns;
+        std::string line;
         std::getline(lines, line); // what the figures are
         while (std::getline(lines, line)) {
             const size_t begin = line.find_first_not_of(' '), end = line.find("  ", begin);
-            std::stringstream figures(line.substr(end));
-            double ns = 0, times = 0;
-            figures >> ns >> times;
-            titles += text("%-12s%10s", line.substr(begin, end - begin).c_str(), times ? "" : "");
-            row +=
-                text("%-12.2f", ns) + (times ? text("%5.1f times", times) + text("%-0s", "") : std::string(10, ' '));
+            ns[line.substr(begin, end - begin)] = std::stod(line.substr(end));
         }
-        if (table.empty()) table = titles + "\n";
-        table += row + "\n";
+        const double ours = ns.at("Orvane");
+        const auto times = [&](const char* column) {
+            return ns.contains(column) ? text(" %.2f", ns[column] / ours) : "";
+        };
+        table += "| `" + e.name + "` |" + text(" %.2f", ours) + " |" + times("plain PoCL") + " |" +
+                 times("scalar libm") + " |" +
+                 (ns.contains("two threads") ? text(" %.2f", ours / ns["two threads"]) : "") + " |\n";
+        rows += std::string(rows.empty() ? "" : ",\n") + "{\"name\":\"" + e.name + "\"";
+        for (const auto& [column, key] : {std::pair{"Orvane", "ns"},
+                                          {"plain PoCL", "plain_ns"},
+                                          {"scalar libm", "libm_ns"},
+                                          {"two threads", "two_threads_ns"}})
+            if (ns.contains(column)) rows += text(",\"%s\":%.4g", key, ns[column]);
+        rows += "}";
     }
-    if (speed) std::cout << "\none thread, medians in turns\n" << table;
+    if (speed)
+        std::cout << "\nns a work-item on one thread, medians in turns; how many times as long others take, and how "
+                     "many times "
+                     "as fast two threads are\n| example | ns | plain PoCL | scalar libm | two threads "
+                     "|\n|---|---|---|---|---|\n"
+                  << table;
+    if (!json.empty()) {
+        whole_file f(json);
+        f.out << "[\n" << rows << "\n]\n";
+        f.complete();
+    }
     return right ? 0 : 1;
 }
 
