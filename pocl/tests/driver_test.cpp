@@ -109,6 +109,16 @@ TEST_F(Driver, LeavesAnotherPoclAsItIs) {
     EXPECT_EQ(count(told.text, "\n"), 2) << told.text;
 }
 
+// Under QEMU, where it is installed.
+TEST_F(Driver, LeavesProcessorsWithoutAvx2AsTheyAre) {
+    if (run("qemu-x86_64 --version").status) GTEST_SKIP() << "there is no qemu-x86_64";
+    const auto told = run(logged + "qemu-x86_64 -cpu Nehalem " + programs + "version");
+    EXPECT_EQ(told.status, 0) << told.text;
+    EXPECT_EQ(count(told.text, "orvane: PoCL is left plain: this processor has no AVX2 or no FMA\n"), 1) << told.text;
+    EXPECT_EQ(count(told.text, "platform "), 1) << told.text;
+    EXPECT_EQ(count(told.text, "+ Orvane"), 0) << told.text;
+}
+
 TEST_F(Driver, ComputesWhatPlainPoclComputes) {
     for (const std::string name : {"images", "queues", "printf", "sub-buffers", "threads", "dimensions"}) {
         const auto with = run(programs + name, false), without = run(plain + programs + name, false);
