@@ -455,7 +455,7 @@ orvane_float8 __orvane_l9_log1pf8_native(orvane_float8 x);
 void __orvane_l9_log1pf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* pow: x to the power y, with all special pairs of IEEE pow. */
-/* pow default: largest known error 2.08 ulp; OpenCL C allows 16 ulp. */
+/* pow default: largest known error 2.1 ulp; OpenCL C allows 16 ulp. */
 orvane_double2 __orvane_l9_pow1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_pow2(orvane_double2 x, orvane_double2 y);
 orvane_double4 __orvane_l9_pow3(orvane_double4 x, orvane_double4 y);
@@ -504,7 +504,7 @@ orvane_float8 __orvane_l9_powf8_native(orvane_float8 x, orvane_float8 y);
 void __orvane_l9_powf16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1, ymm2 ymm3; out ymm0 ymm1 */
 
 /* powr: x to the power y for x >= 0: exp(y log x). NaN of negative x. */
-/* powr default: largest known error 2.08 ulp; OpenCL C allows 16 ulp. */
+/* powr default: largest known error 2.1 ulp; OpenCL C allows 16 ulp. */
 orvane_double2 __orvane_l9_powr1(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_powr2(orvane_double2 x, orvane_double2 y);
 orvane_double4 __orvane_l9_powr3(orvane_double4 x, orvane_double4 y);
