@@ -42,7 +42,7 @@ struct slog1p_block {
     SLOT(float, 18, tiny_limit, 0x39800000) // 2^-12
     SLOT(float, 19, z_mask, 0xFFFFFF00)     // clears the low 8 bits of z
     SLOT(uint32_t, 20, exponent_field, 0x7F800000)
-    SLOT(uint32_t, 21, scale_base, 0x7B000000)
+    SLOT(uint32_t, 21, scale_base, 0x7B000000) // 2 * 127 - 8 in the exponent field
     // Fit on |r| <= 2^-7.8: r + p2*r^2 + p3*r^3 = log(1 + r) to 2^-26.9 relative
     SLOT(float, 22, p3, 0x3EAAAB39) // 0.33333757519721985
     SLOT(float, 23, p2, 0xBF000036) // -0.5000032186508179
