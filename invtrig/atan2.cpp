@@ -183,8 +183,8 @@ using atan2pi_default = ORVANE_ATAN2(d, atan2pi, , double, word_estimate_long, h
 using atan2pi_native = ORVANE_ATAN2(d, atan2pi, _native, double, word_estimate_short, two_chains_summed, false);
 using atan2pif_default = ORVANE_ATAN2(s, atan2pi, , float, by_division, horner_summed, false);
 using atan2pif_native = ORVANE_ATAN2(s, atan2pi, _native, float, newton, two_chains_summed, false);
-// Largest known error of atan2: 3.251 ulp at 0x3FF5A7C0CDE780EA,0x3FF59F34FF0511F0
-// Largest known error of atan2, slow path: 0.5099 ulp at 0xFF956A412DA9AC1B,0x7FC61CB7B557274E
+// Largest known error of atan2: 3.302 ulp at 0x3FF59ADA9F6FE3A9,0x3FF5924D17A1157B
+// Largest known error of atan2, slow path: 0.5143 ulp at 0x7F38E71D808E665D,0x7F692E25BB918038
 ORVANE_EXPORT(atan2, , atan2_default)
 // Largest known error of atan2_native: 2.427e-09 relative at 0x3FEFA35DAC1970EB,0x4019D2FFFFE78DE5, with one processor's estimates
 // Largest known error of atan2_native, slow path: 0.5092 ulp at 0x000597A4B02301B8,0x002683957D9ECC38

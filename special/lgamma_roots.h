@@ -15,9 +15,9 @@ constexpr root_window _LRIB[13] = {
 constexpr root_window _RRIB[13] = {
 #include "special/tables/lgamma_RRIB.inc"
 };
-// Polynomials in the distance to a window's centre: around the left zeros lgamma_LRP_row_0.inc to 2^-59.5 relative and
-// lgamma_LRP_rows_1_12.inc to 2^-62.7 relative, around the right ones lgamma_RRP_row_0.inc to 2^-63.8 relative and
-// lgamma_RRP_rows_1_12.inc to 2^-59.6 relative. E holds the lowest powers, D the others in the order of the steps
+// Polynomials in the distance to a window's centre: around the left zeros lgamma_LRP_row_0.inc to 2^-59.5 relative
+// and lgamma_LRP_rows_1_12.inc to 2^-62.7 relative, around the right ones lgamma_RRP_row_0.inc to 2^-63.8 relative
+// and lgamma_RRP_rows_1_12.inc to 2^-59.6 relative. E holds the lowest powers, D the others in the order of the steps
 // below.
 struct left_row {
     extended E[5];

@@ -1483,7 +1483,7 @@ orvane_float8 __orvane_l9_atanpif8_native(orvane_float8 x);
 void __orvane_l9_atanpif16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
 
 /* atan2: Angle of the point (y, x), first argument y, in radians, -pi to pi, with all signs of zeros and infinities told apart. */
-/* atan2 default: largest known error 3.25 ulp; OpenCL C allows 6 ulp. */
+/* atan2 default: largest known error 3.3 ulp; OpenCL C allows 6 ulp. */
 orvane_double2 __orvane_l9_atan21(orvane_double2 x, orvane_double2 y);
 orvane_double2 __orvane_l9_atan22(orvane_double2 x, orvane_double2 y);
 orvane_double4 __orvane_l9_atan23(orvane_double4 x, orvane_double4 y);
