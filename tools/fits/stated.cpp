@@ -28,17 +28,6 @@ real cosh_of(const real& x) {
     mpfr_cosh(r.get(), x.get(), MPFR_RNDN);
     return r;
 }
-real gamma_of(const real& x) {
-    real r;
-    mpfr_gamma(r.get(), x.get(), MPFR_RNDN);
-    return r;
-}
-real log_gamma_of(const real& x) { // of |gamma|
-    real r;
-    int sign;
-    mpfr_lgamma(r.get(), &sign, x.get(), MPFR_RNDN);
-    return r;
-}
 real power(const real& x, const real& y) {
     real r;
     mpfr_pow(r.get(), x.get(), y.get(), MPFR_RNDN);
@@ -48,11 +37,11 @@ real power(const real& x, const real& y) {
 const std::string begin_of_fit = "Fit on ";
 
 const std::map<std::string, real (*)(const real&)> functions = {
-    {"abs", abs_of},        {"exp", exp_of},        {"exp2", tables::exp2},  {"log", tables::log},
-    {"log2", tables::log2}, {"sqrt", tables::sqrt}, {"cbrt", tables::cbrt},  {"sin", tables::sin},
-    {"cos", tables::cos},   {"tan", tables::tan},   {"asin", tables::asin},  {"atan", tables::atan},
-    {"sinh", tables::sinh}, {"cosh", cosh_of},      {"tanh", tables::tanh},  {"erf", tables::erf},
-    {"erfc", tables::erfc}, {"gamma", gamma_of},    {"lgamma", log_gamma_of}};
+    {"abs", abs_of},        {"exp", exp_of},          {"exp2", tables::exp2},       {"log", tables::log},
+    {"log2", tables::log2}, {"sqrt", tables::sqrt},   {"cbrt", tables::cbrt},       {"sin", tables::sin},
+    {"cos", tables::cos},   {"tan", tables::tan},     {"asin", tables::asin},       {"atan", tables::atan},
+    {"sinh", tables::sinh}, {"cosh", cosh_of},        {"tanh", tables::tanh},       {"erf", tables::erf},
+    {"erfc", tables::erfc}, {"gamma", tables::gamma}, {"lgamma", tables::log_gamma}};
 
 // What the sources define: slots and constants with one value, arrays with several.
 struct definition {
