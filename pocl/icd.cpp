@@ -59,7 +59,7 @@ cl_int CL_API_CALL platform_info(cl_platform_id p, cl_platform_info what, size_t
     return CL_SUCCESS;
 }
 
-// Why this PoCL is left as it is; empty if it gets our functions.
+// Why this PoCL stays as it is; empty if it gets our functions.
 std::string refusal(const driver& d, cl_platform_id p) {
     if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma"))
         return "this processor has no AVX2 or no FMA";

@@ -2,7 +2,7 @@
 // formulas in double precision on the host.
 //
 //     orvane-cl-examples                  all of them: a line each, exit code 1 if one is wrong
-//     orvane-cl-examples --speed gelu     and ns a work-item beside plain PoCL and scalar libm
+//     orvane-cl-examples --speed gelu     and ns per work-item beside plain PoCL and scalar libm
 //     orvane-cl-examples --pictures .     and the pictures among them as PNG
 #include "tools/command_line.h"
 #include "tools/npy.h"
@@ -98,7 +98,7 @@ struct comparison {
 
 struct outcome {
     comparison compared;
-    double allowed_share = 0; // of values that may lie beyond what is allowed: steps in the formula
+    double allowed_share = 0; // of values that may be further off, where the formula has a step
     std::string told;         // the figures that a person wants
 };
 
@@ -470,7 +470,7 @@ int run(const std::vector<std::string>& words) {
     std::string pictures;
     bool speed = false, list = false;
     app.add_option("names", names, "examples (default: all)");
-    app.add_flag("--speed", speed, "a table of ns a work-item: here, on plain PoCL, with scalar libm");
+    app.add_flag("--speed", speed, "a table of ns per work-item: here, on plain PoCL, with scalar libm");
     app.add_flag("--list", list, "their names");
     app.add_option("--pictures", pictures, "write the pictures among them into this folder, as PNG");
     if (parse_words(app, words, names, "orvane-cl-examples")) return 0;
@@ -522,7 +522,7 @@ int run(const std::vector<std::string>& words) {
         }
         if (!speed) continue;
         std::stringstream lines(run_tool(own, call + " --bench"));
-        std::string line, row = text("%-21s", e.name.c_str()), titles = text("%-21s", "ns a work-item");
+        std::string line, row = text("%-21s", e.name.c_str()), titles = text("%-21s", "ns per work-item");
         std::getline(lines, line); // what the figures are
         while (std::getline(lines, line)) {
             const size_t begin = line.find_first_not_of(' '), end = line.find("  ", begin);
