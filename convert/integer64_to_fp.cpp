@@ -37,10 +37,10 @@ struct i64_to_float_block {
 };
 struct u64_to_float_block {
     SLOT(uint32_t, 0, low_mask, 0x007FFFFF)
-    SLOT(uint32_t, 1, half_ulp_step, 0x0C000000)
-    SLOT(float, 2, shift_lo, 0x4B000000)  // 2^23
-    SLOT(float, 3, shift_mid, 0x56800000) // 2^46
-    SLOT(float, 4, shift_hi, 0x62000000)  // 2^69
+    SLOT(uint32_t, 1, half_ulp_step, 0x0C000000) // 24 in the exponent field
+    SLOT(float, 2, shift_lo, 0x4B000000)         // 2^23
+    SLOT(float, 3, shift_mid, 0x56800000)        // 2^46
+    SLOT(float, 4, shift_hi, 0x62000000)         // 2^69
     SLOT(uint32_t, 5, one_int, 1)
 };
 ORVANE_FROM_INTEGER_BLOCK(i64_to_float_block, __orvane_scvti64tofp)

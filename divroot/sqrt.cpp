@@ -57,8 +57,8 @@ struct dinvsqrt_native_block {
     SLOT(uint64_t, 6, exponent_mask, 0x7FF0000000000000)
     SLOT(uint64_t, 7, exponent_one, 0x0010000000000000) // the exponent's lowest bit
     GAP(8, 8)
-    SLOT(uint64_t, 9, float_bias, 0x07F0000000000000)
-    SLOT(uint64_t, 10, scale_bias, 0xBFD0000000000000)
+    SLOT(uint64_t, 9, float_bias, 0x07F0000000000000)  // 127, the bias of float, in the exponent field
+    SLOT(uint64_t, 10, scale_bias, 0xBFD0000000000000) // 3 * 1023 in the exponent field
     GAP(11, 13)
     SLOT(double, 14, one, 0x3FF0000000000000)
     GAP(15, 16)
