@@ -202,21 +202,21 @@ orvane_float4 __orvane_l9_exp10f3(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f4(orvane_float4 x);
 orvane_float8 __orvane_l9_exp10f8(orvane_float8 x);
 void __orvane_l9_exp10f16(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
-/* exp10f rm: largest known error 2147 ulp; OpenCL C allows 8192 ulp. */
+/* exp10f rm: largest known error 2148 ulp; OpenCL C allows 8192 ulp. */
 orvane_float4 __orvane_l9_exp10f1_rm(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f2_rm(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f3_rm(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f4_rm(orvane_float4 x);
 orvane_float8 __orvane_l9_exp10f8_rm(orvane_float8 x);
 void __orvane_l9_exp10f16_rm(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
-/* exp10f native: largest known error 2147 ulp. */
+/* exp10f native: largest known error 2148 ulp. */
 orvane_float4 __orvane_l9_exp10f1_native(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f2_native(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f3_native(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f4_native(orvane_float4 x);
 orvane_float8 __orvane_l9_exp10f8_native(orvane_float8 x);
 void __orvane_l9_exp10f16_native(void) ORVANE_NOT_C; /* in ymm0 ymm1; out ymm0 ymm1 */
-/* exp10f half: largest known error 2147 ulp; OpenCL C allows 8192 ulp. */
+/* exp10f half: largest known error 2148 ulp; OpenCL C allows 8192 ulp. */
 orvane_float4 __orvane_l9_exp10f1_half(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f2_half(orvane_float4 x);
 orvane_float4 __orvane_l9_exp10f3_half(orvane_float4 x);
