@@ -35,12 +35,12 @@ template <int Bytes> void store(unsigned char* at, __m256 x) {
 // A parameter of this type goes to the stack, one after the other without gaps.
 template <int Bytes> struct stack_vector { alignas(8) unsigned char bytes[Bytes]; };
 
-// What chains calls: zeros that are known when results are. As long as calls are independent it is not there.
+// What chains calls: zeros that depend on the results of the call before. It is empty where calls are independent.
 template <bool Chained> struct chain {
     __m256 mask, zeros;
     chain() {
         int none = 0;
-        asm("" : "+r"(none)); // or the compiler would know
+        asm("" : "+r"(none)); // hides from the compiler that it is zero
         mask = zeros = _mm256_castsi256_ps(_mm256_set1_epi32(none));
     }
     [[gnu::always_inline]] void wait_for(__m256 y) { zeros = _mm256_and_ps(y, mask); }

@@ -111,7 +111,7 @@ std::vector<double> largest_errors(const kernel_row& row, const std::vector<cons
     return worst;
 }
 
-// A call in the wrong form would be measured as gladly as a right one: all widths must give the same lanes.
+// The time of a call in the wrong form would look like any other: all widths must give the same lanes.
 void check_widths(const kernel_row& row, const std::vector<pass>& runs, const lane_set& set) {
     auto first = std::make_unique<buffer>(), b = std::make_unique<buffer>();
     const bool has_second = row.has_out() || row.results() > 1;
@@ -150,7 +150,7 @@ void register_benchmark(const std::string& name, const kernel_row& row, int widt
     });
 }
 
-// The first tier with the same kernel within the family.
+// The first tier of the family that runs the same kernel.
 const kernel_row* kernel_of(const kernel_row* row) {
     while (row->twin_name == row->name)
         row = find_row(library_rows(), row->twin_name, row->twin_tier);
@@ -174,7 +174,7 @@ public:
             add_kernel(*kernel);
     }
 
-    // Registers what the filter picks, by the beginnings of names, and the peers beside it.
+    // Registers the benchmarks that the filter picks by the beginnings of their names, and their peers.
     void register_picked(std::string filter) {
         const bool inverted = filter.starts_with('-');
         if (inverted) filter.erase(0, 1);
@@ -270,7 +270,7 @@ private:
                 rows.push_back({family, names, width, error, sleef ? errors[sleef == fast ? 2 : 1] : -1, errors[3],
                                 sleef ? sleef->name : "", ordinary, ours + std::to_string(width),
                                 add_vector_peer(row, sleef, width), scalar});
-        // Of further ranges tiers show no difference: all are held against the most accurate function.
+        // Over further ranges all tiers are held against the most accurate function.
         std::string names;
         for (const auto& [unused, some] : tiers_beside)
             names += (names.empty() ? "" : " = ") + some;
@@ -423,14 +423,14 @@ int main(int argc, char** argv) {
         return 1;
     }
     benchmark::Shutdown();
-    printf(
-        "On %s: nanoseconds per lane, medians; a ratio is the peer's time over ours. The vector peer is SLEEF's "
-        "function\n"
-        "(u10: within 1.0 ulp) or, marked C, what the compiler makes of scalar code; it runs 128 bits a call beside "
-        "vectors that\nfit them and else 256. libm (for conversions an inlined loop) runs one lane; ulp is our "
-        "largest "
-        "error over 65536 lanes.\n\n",
-        processor().c_str());
+    printf("On %s: nanoseconds per lane, medians; a ratio is the peer's time over ours. The vector peer is SLEEF's "
+           "function\n"
+           "(u10: within 1.0 ulp) or, marked C, what the compiler makes of scalar code; it runs 128 bits per call "
+           "beside "
+           "vectors that\nfit them and else 256. libm (for conversions an inlined loop) runs one lane; ulp is our "
+           "largest "
+           "error over 65536 lanes.\n\n",
+           processor().c_str());
     print_table(plan.rows, reporter);
     if (!json.empty()) try {
             write_whole(json, as_json(plan.rows, reporter, processor()));

@@ -94,7 +94,7 @@ template <class T, class Shape> std::function<void(buffer&, long double*)> truth
         };
 }
 
-// What <cmath> has under other names or not for every type.
+// Functions that <cmath> has under other names, or not for every type.
 float exp10_of(float x) { return exp10f(x); }
 double exp10_of(double x) { return exp10(x); }
 long double exp10_of(long double x) { return exp10l(x); }

@@ -19,7 +19,7 @@ struct lane_set {
     bool operator==(const lane_set& o) const { return name == o.name; }
 };
 inline const lane_set ordinary{"ordinary"}, special{"special"};
-// Ordinary lanes, in calls of which each waits for the one before: nanoseconds a call.
+// Ordinary lanes, in calls of which each waits for the one before: nanoseconds per call.
 inline const lane_set latency{"latency"};
 
 struct table_row {

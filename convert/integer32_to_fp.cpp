@@ -13,7 +13,7 @@ struct i32_to_double : kernel<conversion<int32_t, double>> {
 ORVANE_FROM_INTEGER_EXACTLY(cvti32tofp, i32_to_double)
 
 struct u32_to_double_block {
-    SLOT(double, 0, shift_lo, 0x4330000000000000)
+    SLOT(double, 0, shift_lo, 0x4330000000000000) // 2^52
 };
 ORVANE_FROM_INTEGER_BLOCK(u32_to_double_block, __orvane_dcvtu32tofp)
 
@@ -28,15 +28,15 @@ ORVANE_FROM_INTEGER_EXACTLY(cvtu32tofp, u32_to_double)
 struct i32_to_float_block {
     SLOT(uint32_t, 0, low_mask, 0x007FFFFF)
     SLOT(uint32_t, 1, sign_mask, 0x80000000)
-    SLOT(float, 2, shift_lo, 0x4B000000)
-    SLOT(float, 3, shift_hi, 0x56800000)
+    SLOT(float, 2, shift_lo, 0x4B000000) // 2^23
+    SLOT(float, 3, shift_hi, 0x56800000) // 2^46
     SLOT(uint32_t, 4, one_int, 1)
     SLOT(uint32_t, 5, minus_one_int, 0xFFFFFFFF)
 };
 struct u32_to_float_block {
     SLOT(uint32_t, 0, low_mask, 0x007FFFFF)
-    SLOT(float, 1, shift_lo, 0x4B000000)
-    SLOT(float, 2, shift_hi, 0x56800000)
+    SLOT(float, 1, shift_lo, 0x4B000000) // 2^23
+    SLOT(float, 2, shift_hi, 0x56800000) // 2^46
     SLOT(uint32_t, 3, one_int, 1)
 };
 ORVANE_FROM_INTEGER_BLOCK(i32_to_float_block, __orvane_scvti32tofp)

@@ -6,15 +6,15 @@ namespace orvane {
 struct i64_to_double_block {
     SLOT(uint64_t, 0, low_mask, 0x000FFFFFFFFFFFFF)
     SLOT(uint64_t, 1, sign_mask, 0x8000000000000000)
-    SLOT(double, 2, shift_lo, 0x4330000000000000)
-    SLOT(double, 3, shift_hi, 0x4670000000000000)
+    SLOT(double, 2, shift_lo, 0x4330000000000000) // 2^52
+    SLOT(double, 3, shift_hi, 0x4670000000000000) // 2^104
     SLOT(uint64_t, 4, one_int, 1)
     SLOT(uint64_t, 5, minus_one_int, 0xFFFFFFFFFFFFFFFF)
 };
 struct u64_to_double_block {
     SLOT(uint64_t, 0, low_mask, 0x000FFFFFFFFFFFFF)
-    SLOT(double, 1, shift_lo, 0x4330000000000000)
-    SLOT(double, 2, shift_hi, 0x4670000000000000)
+    SLOT(double, 1, shift_lo, 0x4330000000000000) // 2^52
+    SLOT(double, 2, shift_hi, 0x4670000000000000) // 2^104
     SLOT(uint64_t, 3, one_int, 1)
 };
 ORVANE_FROM_INTEGER_BLOCK(i64_to_double_block, __orvane_dcvti64tofp)
@@ -29,18 +29,18 @@ struct i64_to_float_block {
     SLOT(uint32_t, 0, low_mask, 0x007FFFFF)
     SLOT(uint32_t, 1, half_ulp_step, 0x0C000000) // 24 in the exponent field
     SLOT(uint32_t, 2, sign_mask, 0x80000000)
-    SLOT(float, 3, shift_lo, 0x4B000000)
-    SLOT(float, 4, shift_mid, 0x56800000)
-    SLOT(float, 5, shift_hi, 0x62000000)
+    SLOT(float, 3, shift_lo, 0x4B000000)  // 2^23
+    SLOT(float, 4, shift_mid, 0x56800000) // 2^46
+    SLOT(float, 5, shift_hi, 0x62000000)  // 2^69
     SLOT(uint32_t, 6, one_int, 1)
     SLOT(uint32_t, 7, minus_one_int, 0xFFFFFFFF)
 };
 struct u64_to_float_block {
     SLOT(uint32_t, 0, low_mask, 0x007FFFFF)
-    SLOT(uint32_t, 1, half_ulp_step, 0x0C000000)
-    SLOT(float, 2, shift_lo, 0x4B000000)
-    SLOT(float, 3, shift_mid, 0x56800000)
-    SLOT(float, 4, shift_hi, 0x62000000)
+    SLOT(uint32_t, 1, half_ulp_step, 0x0C000000) // 24 in the exponent field
+    SLOT(float, 2, shift_lo, 0x4B000000)         // 2^23
+    SLOT(float, 3, shift_mid, 0x56800000)        // 2^46
+    SLOT(float, 4, shift_hi, 0x62000000)         // 2^69
     SLOT(uint32_t, 5, one_int, 1)
 };
 ORVANE_FROM_INTEGER_BLOCK(i64_to_float_block, __orvane_scvti64tofp)

@@ -29,13 +29,13 @@ struct dcbrt_block {
     SLOT(double, 39, mant_mask, 0x000FFFFFFFFFFFFF)
     GAP(40, 40)
     SLOT(uint64_t, 41, e_mask, 0x00000000000007FF)
-    SLOT(uint64_t, 42, third_mul, 0x0000000000001556)
-    SLOT(uint32_t, 43, i_mask, 0x000F8000)
+    SLOT(uint64_t, 42, third_mul, 0x0000000000001556) // 2^14 / 3, rounded up
+    SLOT(uint32_t, 43, i_mask, 0x000F8000)            // of a high word, the five leading bits of the fraction
     SLOT(int32_t, 44, word_abs, 0x7FFFFFFF)
-    SLOT(uint32_t, 45, sign_word, 0x00000800)
-    SLOT(uint32_t, 46, exp_base, 0x000002AA)
-    SLOT(int32_t, 47, hw_bias, 0x80100000)
-    SLOT(int32_t, 48, hw_limit, 0xFFDFFFFF)
+    SLOT(uint32_t, 45, sign_word, 0x00000800) // the sign, above the exponent
+    SLOT(uint32_t, 46, exp_base, 0x000002AA)  // 1023 - 1023 / 3: the root's exponent is this and a third of x's
+    SLOT(int32_t, 47, hw_bias, 0x80100000)    // takes the high word of the smallest normal to the least int32
+    SLOT(int32_t, 48, hw_limit, 0xFFDFFFFF)   // and that of the largest finite number here
 };
 ORVANE_BLOCK(dcbrt_block, __orvane_dcbrt_data)
 struct dcbrt_native_block {
@@ -52,13 +52,13 @@ struct dcbrt_native_block {
     SLOT(double, 27, mant_mask, 0x000FFFFFFFFFFFFF)
     GAP(28, 28)
     SLOT(uint64_t, 29, e_mask, 0x00000000000007FF)
-    SLOT(uint64_t, 30, third_mul, 0x0000000000001556)
-    SLOT(uint32_t, 31, i_mask, 0x000F8000)
+    SLOT(uint64_t, 30, third_mul, 0x0000000000001556) // 2^14 / 3, rounded up
+    SLOT(uint32_t, 31, i_mask, 0x000F8000)            // of a high word, the five leading bits of the fraction
     SLOT(int32_t, 32, word_abs, 0x7FFFFFFF)
-    SLOT(uint32_t, 33, sign_word, 0x00000800)
-    SLOT(uint32_t, 34, exp_base, 0x000002AA)
-    SLOT(int32_t, 35, hw_bias, 0x80100000)
-    SLOT(int32_t, 36, hw_limit, 0xFFDFFFFF)
+    SLOT(uint32_t, 33, sign_word, 0x00000800) // the sign, above the exponent
+    SLOT(uint32_t, 34, exp_base, 0x000002AA)  // 1023 - 1023 / 3: the root's exponent is this and a third of x's
+    SLOT(int32_t, 35, hw_bias, 0x80100000)    // takes the high word of the smallest normal to the least int32
+    SLOT(int32_t, 36, hw_limit, 0xFFDFFFFF)   // and that of the largest finite number here
 };
 ORVANE_BLOCK(dcbrt_native_block, __orvane_dcbrt_native_data)
 struct dinvcbrt_block {
@@ -80,13 +80,13 @@ struct dinvcbrt_block {
     SLOT(double, 39, mant_mask, 0x000FFFFFFFFFFFFF)
     GAP(40, 40)
     SLOT(uint64_t, 41, e_mask, 0x00000000000007FF)
-    SLOT(uint64_t, 42, third_mul, 0x0000000000001556)
-    SLOT(uint32_t, 43, i_mask, 0x000F8000)
+    SLOT(uint64_t, 42, third_mul, 0x0000000000001556) // 2^14 / 3, rounded up
+    SLOT(uint32_t, 43, i_mask, 0x000F8000)            // of a high word, the five leading bits of the fraction
     SLOT(int32_t, 44, word_abs, 0x7FFFFFFF)
-    SLOT(uint32_t, 45, sign_word, 0x00000800)
-    SLOT(uint32_t, 46, exp_base, 0x00000554)
-    SLOT(int32_t, 47, hw_bias, 0x80100000)
-    SLOT(int32_t, 48, hw_limit, 0xFFDFFFFF)
+    SLOT(uint32_t, 45, sign_word, 0x00000800) // the sign, above the exponent
+    SLOT(uint32_t, 46, exp_base, 0x00000554)  // 1023 + 1023 / 3: the root's exponent is this less a third of x's
+    SLOT(int32_t, 47, hw_bias, 0x80100000)    // takes the high word of the smallest normal to the least int32
+    SLOT(int32_t, 48, hw_limit, 0xFFDFFFFF)   // and that of the largest finite number here
 };
 ORVANE_BLOCK(dinvcbrt_block, __orvane_dinvcbrt_data)
 struct dinvcbrt_native_block {
@@ -104,13 +104,13 @@ struct dinvcbrt_native_block {
     SLOT(double, 27, mant_mask, 0x000FFFFFFFFFFFFF)
     GAP(28, 28)
     SLOT(uint64_t, 29, e_mask, 0x00000000000007FF)
-    SLOT(uint64_t, 30, third_mul, 0x0000000000001556)
-    SLOT(uint32_t, 31, i_mask, 0x000F8000)
+    SLOT(uint64_t, 30, third_mul, 0x0000000000001556) // 2^14 / 3, rounded up
+    SLOT(uint32_t, 31, i_mask, 0x000F8000)            // of a high word, the five leading bits of the fraction
     SLOT(int32_t, 32, word_abs, 0x7FFFFFFF)
-    SLOT(uint32_t, 33, sign_word, 0x00000800)
-    SLOT(uint32_t, 34, exp_base, 0x00000554)
-    SLOT(int32_t, 35, hw_bias, 0x80100000)
-    SLOT(int32_t, 36, hw_limit, 0xFFDFFFFF)
+    SLOT(uint32_t, 33, sign_word, 0x00000800) // the sign, above the exponent
+    SLOT(uint32_t, 34, exp_base, 0x00000554)  // 1023 + 1023 / 3: the root's exponent is this less a third of x's
+    SLOT(int32_t, 35, hw_bias, 0x80100000)    // takes the high word of the smallest normal to the least int32
+    SLOT(int32_t, 36, hw_limit, 0xFFDFFFFF)   // and that of the largest finite number here
 };
 ORVANE_BLOCK(dinvcbrt_native_block, __orvane_dinvcbrt_native_data)
 struct scbrt_block {
@@ -124,16 +124,16 @@ struct scbrt_block {
     GAP(17, 17)
     SLOT(float, 18, one_f, 0x3F800000)
     GAP(19, 19)
-    SLOT(uint32_t, 20, i_mask_f, 0x0000007C)
+    SLOT(uint32_t, 20, i_mask_f, 0x0000007C) // the five leading bits of the fraction, times 4
     SLOT(uint32_t, 21, e_mask_f, 0x000000FF)
-    SLOT(uint32_t, 22, sign_bit_f, 0x00000100)
-    SLOT(uint32_t, 23, exp_base_f, 0x00000055)
+    SLOT(uint32_t, 22, sign_bit_f, 0x00000100) // the sign, above the exponent
+    SLOT(uint32_t, 23, exp_base_f, 0x00000055) // 127 - 126 / 3: the root's exponent is this and a third of x's
     SLOT(uint32_t, 24, one_i, 0x00000001)
-    SLOT(uint32_t, 25, third_mul_f, 0x00000555)
+    SLOT(uint32_t, 25, third_mul_f, 0x00000555) // 2^12 / 3, rounded down
     SLOT(int32_t, 26, abs_f, 0x7FFFFFFF)
-    SLOT(int32_t, 27, bits_bias, 0x80800000)
-    SLOT(int32_t, 28, bits_limit, 0xFEFFFFFF)
-    SLOT(float, 29, rcp_mask_f, 0xFFFC0000)
+    SLOT(int32_t, 27, bits_bias, 0x80800000)  // takes the smallest normal to the least int32
+    SLOT(int32_t, 28, bits_limit, 0xFEFFFFFF) // and the largest finite number here
+    SLOT(float, 29, rcp_mask_f, 0xFFFC0000)   // keeps five bits of the fraction
 };
 ORVANE_BLOCK(scbrt_block, __orvane_scbrt_data)
 struct scbrt_native_block {
@@ -145,16 +145,16 @@ struct scbrt_native_block {
     GAP(9, 9)
     SLOT(float, 10, one_f, 0x3F800000)
     GAP(11, 11)
-    SLOT(uint32_t, 12, i_mask_f, 0x0000007C)
+    SLOT(uint32_t, 12, i_mask_f, 0x0000007C) // the five leading bits of the fraction, times 4
     SLOT(uint32_t, 13, e_mask_f, 0x000000FF)
-    SLOT(uint32_t, 14, sign_bit_f, 0x00000100)
-    SLOT(uint32_t, 15, exp_base_f, 0x00000055)
+    SLOT(uint32_t, 14, sign_bit_f, 0x00000100) // the sign, above the exponent
+    SLOT(uint32_t, 15, exp_base_f, 0x00000055) // 127 - 126 / 3: the root's exponent is this and a third of x's
     SLOT(uint32_t, 16, one_i, 0x00000001)
-    SLOT(uint32_t, 17, third_mul_f, 0x00000555)
+    SLOT(uint32_t, 17, third_mul_f, 0x00000555) // 2^12 / 3, rounded down
     SLOT(int32_t, 18, abs_f, 0x7FFFFFFF)
-    SLOT(int32_t, 19, bits_bias, 0x80800000)
-    SLOT(int32_t, 20, bits_limit, 0xFEFFFFFF)
-    SLOT(float, 21, rcp_mask_f, 0xFFFC0000)
+    SLOT(int32_t, 19, bits_bias, 0x80800000)  // takes the smallest normal to the least int32
+    SLOT(int32_t, 20, bits_limit, 0xFEFFFFFF) // and the largest finite number here
+    SLOT(float, 21, rcp_mask_f, 0xFFFC0000)   // keeps five bits of the fraction
 };
 ORVANE_BLOCK(scbrt_native_block, __orvane_scbrt_native_data)
 struct sinvcbrt_block {
@@ -169,15 +169,15 @@ struct sinvcbrt_block {
     SLOT(float, 19, c_mask_f, 0x007E0000)
     SLOT(float, 20, m_or_f, 0xBF800000)
     SLOT(float, 21, c_or_f, 0xBF820000)
-    SLOT(uint32_t, 22, i_mask_f, 0x0000007C)
+    SLOT(uint32_t, 22, i_mask_f, 0x0000007C) // the five leading bits of the fraction, times 4
     SLOT(uint32_t, 23, e_mask_f, 0x000000FF)
-    SLOT(uint32_t, 24, sign_bit_f, 0x00000100)
+    SLOT(uint32_t, 24, sign_bit_f, 0x00000100) // the sign, above the exponent
     SLOT(uint32_t, 25, exp_base_f, 0x000000A9)
     SLOT(uint32_t, 26, one_i, 0x00000001)
-    SLOT(uint32_t, 27, third_mul_f, 0x00000555)
+    SLOT(uint32_t, 27, third_mul_f, 0x00000555) // 2^12 / 3, rounded down
     SLOT(int32_t, 28, abs_f, 0x7FFFFFFF)
-    SLOT(int32_t, 29, bits_bias, 0x80800000)
-    SLOT(int32_t, 30, bits_limit, 0xFEFFFFFF)
+    SLOT(int32_t, 29, bits_bias, 0x80800000)  // takes the smallest normal to the least int32
+    SLOT(int32_t, 30, bits_limit, 0xFEFFFFFF) // and the largest finite number here
 };
 ORVANE_BLOCK(sinvcbrt_block, __orvane_sinvcbrt_data)
 struct sinvcbrt_native_block {
@@ -190,15 +190,15 @@ struct sinvcbrt_native_block {
     SLOT(float, 13, c_mask_f, 0x007E0000)
     SLOT(float, 14, m_or_f, 0xBF800000)
     SLOT(float, 15, c_or_f, 0xBF820000)
-    SLOT(uint32_t, 16, i_mask_f, 0x0000007C)
+    SLOT(uint32_t, 16, i_mask_f, 0x0000007C) // the five leading bits of the fraction, times 4
     SLOT(uint32_t, 17, e_mask_f, 0x000000FF)
-    SLOT(uint32_t, 18, sign_bit_f, 0x00000100)
+    SLOT(uint32_t, 18, sign_bit_f, 0x00000100) // the sign, above the exponent
     SLOT(uint32_t, 19, exp_base_f, 0x000000A9)
     SLOT(uint32_t, 20, one_i, 0x00000001)
-    SLOT(uint32_t, 21, third_mul_f, 0x00000555)
+    SLOT(uint32_t, 21, third_mul_f, 0x00000555) // 2^12 / 3, rounded down
     SLOT(int32_t, 22, abs_f, 0x7FFFFFFF)
-    SLOT(int32_t, 23, bits_bias, 0x80800000)
-    SLOT(int32_t, 24, bits_limit, 0xFEFFFFFF)
+    SLOT(int32_t, 23, bits_bias, 0x80800000)  // takes the smallest normal to the least int32
+    SLOT(int32_t, 24, bits_limit, 0xFEFFFFFF) // and the largest finite number here
 };
 ORVANE_BLOCK(sinvcbrt_native_block, __orvane_sinvcbrt_native_data)
 

@@ -11,12 +11,12 @@ ORVANE_SLOW_PATH(__orvane_sinv_cout_rare, const float* x, float* result);
 
 struct ddiv_block {
     GAP(0, 0)
-    SLOT(double, 1, exponent_clear, 0x800FFFFFFFFFFFFF)
+    SLOT(double, 1, exponent_clear, 0x800FFFFFFFFFFFFF) // keeps sign and fraction
 };
 struct sdiv_native_block {
     SLOT(int32_t, 0, abs_mask, 0x7FFFFFFF)
     SLOT(int32_t, 1, min_normal_bits, 0x00800000)
-    SLOT(int32_t, 2, divisor_limit, 0x7DFFFFFF)
+    SLOT(int32_t, 2, divisor_limit, 0x7DFFFFFF) // that of the largest number below 2^126, less min_normal_bits
 };
 struct sinv_block {
     GAP(0, 3)

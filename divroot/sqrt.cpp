@@ -11,8 +11,8 @@ ORVANE_SLOW_PATH(__orvane_sinvsqrt_cout_rare, const float* x, float* result);
 
 struct ssqrt_half_block {
     GAP(0, 0)
-    SLOT(int32_t, 1, test_bias, 0x80800000)
-    SLOT(int32_t, 2, test_limit, 0xFEFFFFFF)
+    SLOT(int32_t, 1, test_bias, 0x80800000)  // takes the smallest normal to the least int32
+    SLOT(int32_t, 2, test_limit, 0xFEFFFFFF) // and the largest finite number here
 };
 ORVANE_BLOCK(ssqrt_half_block, __orvane_ssqrt_half_data)
 struct sinvsqrt_block {
@@ -51,14 +51,14 @@ struct dinvsqrt_block {
 };
 struct dinvsqrt_native_block {
     GAP(0, 2)
-    SLOT(int32_t, 3, test_bias, 0x80300000)
-    SLOT(int32_t, 4, test_limit, 0xFF9FFFFF)
-    SLOT(uint64_t, 5, low_mask, 0x001FFFFFFFFFFFFF)
+    SLOT(int32_t, 3, test_bias, 0x80300000)         // takes the high word of 2^-1020 to the least int32
+    SLOT(int32_t, 4, test_limit, 0xFF9FFFFF)        // and that of the largest number below 2^1022 here
+    SLOT(uint64_t, 5, low_mask, 0x001FFFFFFFFFFFFF) // the fraction and the exponent's lowest bit
     SLOT(uint64_t, 6, exponent_mask, 0x7FF0000000000000)
-    SLOT(uint64_t, 7, exponent_one, 0x0010000000000000)
+    SLOT(uint64_t, 7, exponent_one, 0x0010000000000000) // the exponent's lowest bit
     GAP(8, 8)
-    SLOT(uint64_t, 9, float_bias, 0x07F0000000000000)
-    SLOT(uint64_t, 10, scale_bias, 0xBFD0000000000000)
+    SLOT(uint64_t, 9, float_bias, 0x07F0000000000000)  // 127, the bias of float, in the exponent field
+    SLOT(uint64_t, 10, scale_bias, 0xBFD0000000000000) // 3 * 1023 in the exponent field
     GAP(11, 13)
     SLOT(double, 14, one, 0x3FF0000000000000)
     GAP(15, 16)

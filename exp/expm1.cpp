@@ -37,11 +37,11 @@ struct dexpm1_native_block {
     GAP(21, 26)
     SLOT(double, 27, minus_one, 0xBFF0000000000000) // -1.0
     SLOT(double, 28, abs_mask, 0x7FFFFFFFFFFFFFFF)
-    SLOT(double, 29, ordinary_limit, 0x40861DA04CBAFE43) // 707.7032713517041
-    SLOT(double, 30, ln2_128, 0x3F762E42FEFA39EF)        // 0.0054152123481245725
-    SLOT(double, 31, index_shifter, 0x43080000000FFC00)
-    SLOT(uint64_t, 32, offset_mask, 0x00000000000003F8)
-    SLOT(uint64_t, 33, exponent_bits, 0x00000000001FFC00)
+    SLOT(double, 29, ordinary_limit, 0x40861DA04CBAFE43)  // 707.7032713517041
+    SLOT(double, 30, ln2_128, 0x3F762E42FEFA39EF)         // 0.0054152123481245725
+    SLOT(double, 31, index_shifter, 0x43080000000FFC00)   // 1.5 * 2^49 + 128 * 1023: from bit 3 on n + 128 * 1023
+    SLOT(uint64_t, 32, offset_mask, 0x00000000000003F8)   // n mod 128, times 8 bytes
+    SLOT(uint64_t, 33, exponent_bits, 0x00000000001FFC00) // n / 128 + 1023
 };
 struct sexpm1_block {
     TABLE(0, exp2_split, exp2f_split_64)
@@ -49,14 +49,14 @@ struct sexpm1_block {
     SLOT(float, 8, p3, 0x3E2AAABF) // 0.16666696965694427
     SLOT(float, 9, p2, 0x3F00000F) // 0.5000008940696716
     GAP(10, 11)
-    SLOT(float, 12, inv_ln2_64, 0x42B8AA3B)    // 92.33248138427734
-    SLOT(float, 13, ln2_64_hi, 0x3C318000)     // 0.010833740234375
-    SLOT(float, 14, ln2_64_lo, 0xB65E8083)     // -3.3155381515825866e-06
-    SLOT(float, 15, index_shifter, 0x49F0FE00) // 1974208.0
-    SLOT(uint32_t, 16, offset_mask, 0x000001F8)
-    SLOT(uint32_t, 17, exponent_bits, 0x0001FE00)
-    SLOT(float, 18, split_mask, 0xFFFFF000)
-    SLOT(float, 19, minus_one, 0xBF800000) // -1.0
+    SLOT(float, 12, inv_ln2_64, 0x42B8AA3B)       // 92.33248138427734
+    SLOT(float, 13, ln2_64_hi, 0x3C318000)        // 0.010833740234375
+    SLOT(float, 14, ln2_64_lo, 0xB65E8083)        // -3.3155381515825866e-06
+    SLOT(float, 15, index_shifter, 0x49F0FE00)    // 1974208.0
+    SLOT(uint32_t, 16, offset_mask, 0x000001F8)   // n mod 64, times 8 bytes
+    SLOT(uint32_t, 17, exponent_bits, 0x0001FE00) // n / 64 + 127
+    SLOT(float, 18, split_mask, 0xFFFFF000)       // keeps 12 significand bits
+    SLOT(float, 19, minus_one, 0xBF800000)        // -1.0
     SLOT(float, 20, abs_mask, 0x7FFFFFFF)
     SLOT(float, 21, ordinary_limit, 0x42AD496B) // 86.64339447021484
 };
@@ -68,12 +68,12 @@ struct sexpm1_native_block {
     GAP(4, 12)
     SLOT(float, 13, minus_one, 0xBF800000) // -1.0
     SLOT(float, 14, abs_mask, 0x7FFFFFFF)
-    SLOT(float, 15, ordinary_limit, 0x42AD496B) // 86.64339447021484
-    SLOT(float, 16, inv_ln2_32, 0x4238AA3B)     // 46.16624069213867
-    SLOT(float, 17, ln2_32, 0x3CB17218)         // 0.021660849452018738
-    SLOT(float, 18, index_shifter, 0x4A403F80)  // 3149792.0
-    SLOT(uint32_t, 19, offset_mask, 0x0000007C)
-    SLOT(uint32_t, 20, exponent_bits, 0x00007F80)
+    SLOT(float, 15, ordinary_limit, 0x42AD496B)   // 86.64339447021484
+    SLOT(float, 16, inv_ln2_32, 0x4238AA3B)       // 46.16624069213867
+    SLOT(float, 17, ln2_32, 0x3CB17218)           // 0.021660849452018738
+    SLOT(float, 18, index_shifter, 0x4A403F80)    // 3149792.0
+    SLOT(uint32_t, 19, offset_mask, 0x0000007C)   // n mod 32, times 4 bytes
+    SLOT(uint32_t, 20, exponent_bits, 0x00007F80) // n / 32 + 127
 };
 ORVANE_BLOCK(dexpm1_block, __orvane_dexpm1_data)
 ORVANE_BLOCK(dexpm1_native_block, __orvane_dexpm1_native_data)

@@ -18,7 +18,7 @@ struct dfract_block {
 struct sfract_block {
     GAP(0, 0)
     SLOT(uint32_t, 1, exp_word, 0x7F800000)
-    SLOT(float, 2, below_one, 0x3F7FFFFF)
+    SLOT(float, 2, below_one, 0x3F7FFFFF) // 1 - 2^-24
 };
 ORVANE_BLOCK(dfract_block, __orvane_dfract_data)
 ORVANE_BLOCK(sfract_block, __orvane_sfract_data)

@@ -67,16 +67,16 @@ ORVANE_EXPORT(frexpf, , sfrexp_kernel)
 
 struct dldexp_block {
     SLOT(int32_t, 0, exp_word, 0x7FF00000)
-    SLOT(int32_t, 1, top_exp, 0x000007FF)
+    SLOT(int32_t, 1, top_exp, 0x000007FF) // of infinities and NaNs
     SLOT(int32_t, 2, zero_word, 0)
-    SLOT(int32_t, 3, n_max, 0x00010000)
+    SLOT(int32_t, 3, n_max, 0x00010000) // further than any exponent reaches
     SLOT(int32_t, 4, n_min, 0xFFFF0000)
 };
 struct sldexp_block {
     SLOT(int32_t, 0, exp_word, 0x7F800000)
-    SLOT(int32_t, 1, top_exp, 0x000000FF)
+    SLOT(int32_t, 1, top_exp, 0x000000FF) // of infinities and NaNs
     SLOT(int32_t, 2, zero_word, 0)
-    SLOT(int32_t, 3, n_max, 0x00010000)
+    SLOT(int32_t, 3, n_max, 0x00010000) // further than any exponent reaches
     SLOT(int32_t, 4, n_min, 0xFFFF0000)
 };
 ORVANE_BLOCK(dldexp_block, __orvane_dldexp_data)
@@ -138,15 +138,15 @@ ORVANE_EXPORT(logbf, , slogb_kernel)
 
 struct dnextafter_block {
     SLOT(int32_t, 0, abs_word, 0x7FFFFFFF)
-    SLOT(int32_t, 1, range_base, 0x80100000)
-    SLOT(int32_t, 2, range_limit, 0xFFBFFFFF)
+    SLOT(int32_t, 1, range_base, 0x80100000)  // takes the high word of the smallest normal to the least int32
+    SLOT(int32_t, 2, range_limit, 0xFFBFFFFF) // and that of the largest number below 2^1022 here
     SLOT(int64_t, 3, step_up, 0x0000000000000001)
     SLOT(int64_t, 4, step_down, 0xFFFFFFFFFFFFFFFF)
 };
 struct snextafter_block {
     SLOT(int32_t, 0, abs_word, 0x7FFFFFFF)
-    SLOT(int32_t, 1, range_base, 0x80800000)
-    SLOT(int32_t, 2, range_limit, 0xFEFFFFFF)
+    SLOT(int32_t, 1, range_base, 0x80800000)  // takes the smallest normal to the least int32
+    SLOT(int32_t, 2, range_limit, 0xFEFFFFFF) // and the largest finite number here
     SLOT(int32_t, 3, step_up, 0x00000001)
     SLOT(int32_t, 4, step_down, 0xFFFFFFFF)
 };

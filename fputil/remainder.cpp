@@ -28,17 +28,17 @@ struct dfmod_block {
     GAP(0, 0)
     SLOT(double, 1, abs_mask, 0x7FFFFFFFFFFFFFFF)
     SLOT(double, 2, sign_mask, 0x8000000000000000)
-    SLOT(int32_t, 3, ediff_max, 25)
-    SLOT(int32_t, 4, y_base, 0x83300000)
-    SLOT(int32_t, 5, y_limit, 0xFCBFFFFF)
+    SLOT(int32_t, 3, ediff_max, 25)       // largest difference of the exponents: a quotient below 2^26
+    SLOT(int32_t, 4, y_base, 0x83300000)  // takes the high word of 2^-972 to the least int32
+    SLOT(int32_t, 5, y_limit, 0xFCBFFFFF) // and that of the largest finite number here
 };
 struct sfmod_block {
     GAP(0, 0)
     SLOT(float, 1, abs_mask, 0x7FFFFFFF)
     SLOT(float, 2, sign_mask, 0x80000000)
-    SLOT(int32_t, 3, ediff_max, 11)
-    SLOT(int32_t, 4, y_base, 0x8C000000)
-    SLOT(int32_t, 5, y_limit, 0xF28FFFFF)
+    SLOT(int32_t, 3, ediff_max, 11)       // largest difference of the exponents: a quotient below 2^12
+    SLOT(int32_t, 4, y_base, 0x8C000000)  // takes 2^-103 to the least int32
+    SLOT(int32_t, 5, y_limit, 0xF28FFFFF) // and the largest number below 1.125 * 2^126 here
 };
 ORVANE_BLOCK(dfmod_block, __orvane_dfmod_data)
 ORVANE_BLOCK(sfmod_block, __orvane_sfmod_data)
@@ -64,19 +64,19 @@ struct dremainder_block {
     SLOT(double, 1, abs_mask, 0x7FFFFFFFFFFFFFFF)
     SLOT(double, 2, sign_mask, 0x8000000000000000)
     SLOT(double, 3, half, 0x3FE0000000000000)
-    SLOT(int32_t, 4, ediff_max, 25)
-    SLOT(int32_t, 5, y_base, 0x83300000)
-    SLOT(int32_t, 6, y_limit, 0xFB1FFFFF)
+    SLOT(int32_t, 4, ediff_max, 25)       // largest difference of the exponents: a quotient below 2^26
+    SLOT(int32_t, 5, y_base, 0x83300000)  // takes the high word of 2^-972 to the least int32
+    SLOT(int32_t, 6, y_limit, 0xFB1FFFFF) // and that of the largest number below 2^998 here
     SLOT(int32_t, 7, one_int, 1)
 };
 struct sremainder_block {
-    SLOT(float, 0, split_mask, 0xFFFFF000)
+    SLOT(float, 0, split_mask, 0xFFFFF000) // keeps 12 significand bits
     SLOT(float, 1, abs_mask, 0x7FFFFFFF)
     SLOT(float, 2, sign_mask, 0x80000000)
     SLOT(float, 3, half, 0x3F000000)
-    SLOT(int32_t, 4, ediff_max, 11)
-    SLOT(int32_t, 5, y_base, 0x8C000000)
-    SLOT(int32_t, 6, y_limit, 0xED7FFFFF)
+    SLOT(int32_t, 4, ediff_max, 11)       // largest difference of the exponents: a quotient below 2^12
+    SLOT(int32_t, 5, y_base, 0x8C000000)  // takes 2^-103 to the least int32
+    SLOT(int32_t, 6, y_limit, 0xED7FFFFF) // and the largest number below 2^116 here
     SLOT(int32_t, 7, one_int, 1)
 };
 ORVANE_BLOCK(dremainder_block, __orvane_dremquo_data)

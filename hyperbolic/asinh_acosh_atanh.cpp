@@ -46,7 +46,7 @@ struct sasinh_block {
     SLOT(float, 50, sign_mask, 0x80000000)
     SLOT(float, 51, big_k, 0x41F80000) // 31.0
     GAP(52, 53)
-    SLOT(float, 54, sqrt_mask, 0xFFFF0000)
+    SLOT(float, 54, sqrt_mask, 0xFFFF0000) // keeps 8 significand bits
     SLOT(float, 55, big_scale, 0x30800000) // 2^-30
     SLOT(float, 56, ln2, 0x3F317218)       // 0.6931472
 };
@@ -74,7 +74,7 @@ struct sasinh_native_block {
     SLOT(float, 46, sign_mask, 0x80000000)
     SLOT(float, 47, big_k, 0x41F80000) // 31.0
     GAP(48, 49)
-    SLOT(float, 50, sqrt_mask, 0xFFFF0000)
+    SLOT(float, 50, sqrt_mask, 0xFFFF0000) // keeps 8 significand bits
     SLOT(float, 51, big_scale, 0x30800000) // 2^-30
     SLOT(float, 52, ln2, 0x3F317218)       // 0.6931472
 };
@@ -101,7 +101,7 @@ struct satanh_block {
     GAP(48, 49)
     SLOT(float, 50, sign_mask, 0x80000000)
     GAP(51, 52)
-    SLOT(float, 53, rcp_mask, 0xFFFFF000)
+    SLOT(float, 53, rcp_mask, 0xFFFFF000) // keeps 12 significand bits
     GAP(54, 55)
     SLOT(float, 56, tiny_limit, 0x0C000000) // 2^-103
     SLOT(float, 57, ln2, 0x3F317218)        // 0.6931472
@@ -124,7 +124,7 @@ struct satanh_native_block {
     GAP(44, 45)
     SLOT(float, 46, sign_mask, 0x80000000)
     GAP(47, 48)
-    SLOT(float, 49, rcp_mask, 0xFFFFF000)
+    SLOT(float, 49, rcp_mask, 0xFFFFF000) // keeps 12 significand bits
     GAP(50, 51)
     SLOT(float, 52, tiny_limit, 0x0C000000) // 2^-103
     SLOT(float, 53, ln2, 0x3F317218)        // 0.6931472
@@ -158,8 +158,8 @@ ORVANE_BLOCK(satanh_native_block, __orvane_satanh_native_data)
     SLOT(double, 210, k_hi, 0x408FF80000000000)    /* 1023.0 */                                                      \
     SLOT(double, 211, k_lo, 0x408FF00000000000)    /* 1022.0 */                                                      \
     SLOT(uint64_t, 212, exp_mask, 0x7FF0000000000000)                                                                \
-    SLOT(uint64_t, 213, sc_base, 0x7F40000000000000)                                                                 \
-    SLOT(double, 214, ln2, 0x3FE62E42FEFA39EF) /* 0.6931471805599453, ln 2 in one piece */
+    SLOT(uint64_t, 213, sc_base, 0x7F40000000000000) /* 2 * 1023 - 10 in the exponent field */                       \
+    SLOT(double, 214, ln2, 0x3FE62E42FEFA39EF)       /* 0.6931471805599453, ln 2 in one piece */
 struct dasinh_block {
     ORVANE_LOG_STAGE_SLOTS
     SLOT(double, 215, big_limit, 0x41D0000000000000) // 2^30
@@ -173,10 +173,10 @@ struct dasinh_block {
     SLOT(double, 221, max_finite, 0x7FEFFFFFFFFFFFFF)
     SLOT(double, 222, small_limit, 0x3F60000000000000) // 2^-9
     SLOT(double, 223, sign_mask, 0x8000000000000000)
-    SLOT(double, 224, big_k, 0x403F000000000000) // 31.0
-    SLOT(double, 225, y_mask, 0xFFFFFE0000000000)
+    SLOT(double, 224, big_k, 0x403F000000000000)  // 31.0
+    SLOT(double, 225, y_mask, 0xFFFFFE0000000000) // keeps 12 significand bits
     GAP(226, 226)
-    SLOT(double, 227, sqrt_mask, 0xFFFFFFFFFF000000)
+    SLOT(double, 227, sqrt_mask, 0xFFFFFFFFFF000000) // keeps 29 significand bits
     GAP(228, 228)
     SLOT(double, 229, big_scale, 0x3E10000000000000) // 2^-30
 };
@@ -192,10 +192,10 @@ struct dacosh_block {
     SLOT(double, 220, q5, 0x3FCF800025DE102F) // 0.24609376763339827
     SLOT(double, 221, max_finite, 0x7FEFFFFFFFFFFFFF)
     GAP(222, 223)
-    SLOT(double, 224, big_k, 0x403F000000000000) // 31.0
-    SLOT(double, 225, y_mask, 0xFFFFFE0000000000)
+    SLOT(double, 224, big_k, 0x403F000000000000)  // 31.0
+    SLOT(double, 225, y_mask, 0xFFFFFE0000000000) // keeps 12 significand bits
     GAP(226, 226)
-    SLOT(double, 227, sqrt_mask, 0xFFFFFFFFFF000000)
+    SLOT(double, 227, sqrt_mask, 0xFFFFFFFFFF000000) // keeps 29 significand bits
     GAP(228, 228)
     SLOT(double, 229, big_scale, 0x3E10000000000000) // 2^-30
 };
@@ -208,10 +208,10 @@ struct dacosh_native_block {
     GAP(218, 220)
     SLOT(double, 221, max_finite, 0x7FEFFFFFFFFFFFFF)
     GAP(222, 223)
-    SLOT(double, 224, big_k, 0x403F000000000000) // 31.0
-    SLOT(double, 225, y_mask, 0xFFFFFE0000000000)
+    SLOT(double, 224, big_k, 0x403F000000000000)  // 31.0
+    SLOT(double, 225, y_mask, 0xFFFFFE0000000000) // keeps 12 significand bits
     GAP(226, 226)
-    SLOT(double, 227, sqrt_mask, 0xFFFFFFFFFF000000)
+    SLOT(double, 227, sqrt_mask, 0xFFFFFFFFFF000000) // keeps 29 significand bits
     GAP(228, 228)
     SLOT(double, 229, big_scale, 0x3E10000000000000) // 2^-30
 };
@@ -222,9 +222,9 @@ struct datanh_block {
     GAP(221, 222)
     SLOT(double, 223, sign_mask, 0x8000000000000000)
     GAP(224, 224)
-    SLOT(double, 225, y_mask, 0xFFFFFE0000000000)
+    SLOT(double, 225, y_mask, 0xFFFFFE0000000000) // keeps 12 significand bits
     GAP(226, 227)
-    SLOT(double, 228, n_mask, 0xFFFFFFFFFFFFF000)
+    SLOT(double, 228, n_mask, 0xFFFFFFFFFFFFF000) // keeps 41 significand bits
     GAP(229, 229)
     SLOT(double, 230, tiny_limit, 0x0350000000000000) // 2^-970
 };

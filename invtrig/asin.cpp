@@ -48,7 +48,7 @@ inline constexpr coefficients<float, 3> asinpif_short = {{0x3CFA8B09, 0x3D567E9D
 struct dasin_block {
     SLOT(double, 0, sign_or_abs, 0x7FFFFFFFFFFFFFFF)
     SLOT(double, 1, half, 0x3FE0000000000000)
-    SLOT(double, 2, w_floor, 0x3000000000000000)
+    SLOT(double, 2, w_floor, 0x3000000000000000) // 2^-255
     GAP(3, 3)
     SLOT(double, 4, domain, 0x3FF0000000000000)
     GAP(5, 5)
@@ -69,7 +69,7 @@ ORVANE_BLOCK_TWIN(__orvane_dasin_native_data, __orvane_dasin_data)
 struct dacos_block {
     SLOT(double, 0, sign_or_abs, 0x8000000000000000)
     SLOT(double, 1, half, 0x3FE0000000000000)
-    SLOT(double, 2, w_floor, 0x3000000000000000)
+    SLOT(double, 2, w_floor, 0x3000000000000000) // 2^-255
     GAP(3, 3)
     SLOT(double, 4, domain, 0xBFF0000000000000)
     GAP(5, 5)
@@ -132,7 +132,7 @@ struct sasin_block {
     SLOT(float, 0, sign_or_abs, 0x7FFFFFFF)
     SLOT(float, 1, half, 0x3F000000)
     GAP(2, 2)
-    SLOT(float, 3, w_floor, 0x2F800000)
+    SLOT(float, 3, w_floor, 0x2F800000) // 2^-32
     SLOT(float, 4, domain, 0x3F800000)
     GAP(5, 6)
     SLOT(float, 7, two, 0x40000000)
@@ -152,7 +152,7 @@ struct sacos_block {
     SLOT(float, 0, sign_or_abs, 0x80000000)
     SLOT(float, 1, half, 0x3F000000)
     GAP(2, 2)
-    SLOT(float, 3, w_floor, 0x2F800000)
+    SLOT(float, 3, w_floor, 0x2F800000) // 2^-32
     SLOT(float, 4, domain, 0xBF800000)
     GAP(5, 6)
     SLOT(float, 7, two, 0x40000000)

@@ -21,11 +21,11 @@ inline constexpr coefficients<double, 6> atan_near_quarter = {{0x3FB2E9B9F5C4FE9
 
 struct datan_block {
     SLOT(double, 0, abs_mask, 0x7FFFFFFFFFFFFFFF)
-    SLOT(double, 1, quarter_shifter, 0x4318000000000000)
-    SLOT(double, 2, table_limit, 0x401F800000000000)
+    SLOT(double, 1, quarter_shifter, 0x4318000000000000) // 1.5 * 2^50: rounds to quarters
+    SLOT(double, 2, table_limit, 0x401F800000000000)     // 7.875: beyond it the reciprocal
     SLOT(double, 3, neg_one, 0xBFF0000000000000)
     SLOT(double, 4, one, 0x3FF0000000000000)
-    SLOT(double, 5, cap, 0x47F0000000000000)
+    SLOT(double, 5, cap, 0x47F0000000000000) // 2^128
     GAP(6, 6)
     TABLE(7, atan_tab, atan_quarters)
     GAP(11, 15)
@@ -93,8 +93,8 @@ struct satanpi_block {
     SLOT(float, 8, half, 0x3F000000)
     GAP(9, 9)
     TABLE(10, poly, atanpif_accurate)
-    SLOT(int32_t, 19, bits_bias, 0x81000000)
-    SLOT(int32_t, 20, bits_limit, 0xFC000000)
+    SLOT(int32_t, 19, bits_bias, 0x81000000)  // takes 2^-125 to the least int32
+    SLOT(int32_t, 20, bits_limit, 0xFC000000) // and 2^123 here
 };
 ORVANE_BLOCK(satanpi_block, __orvane_satanpi_data)
 struct satanpi_native_block {
@@ -107,8 +107,8 @@ struct satanpi_native_block {
     GAP(6, 6)
     SLOT(float, 7, two, 0x40000000)
     TABLE(8, poly, atanpif_fast)
-    SLOT(int32_t, 12, bits_bias, 0x81000000)
-    SLOT(int32_t, 13, bits_limit, 0xFC000000)
+    SLOT(int32_t, 12, bits_bias, 0x81000000)  // takes 2^-125 to the least int32
+    SLOT(int32_t, 13, bits_limit, 0xFC000000) // and 2^123 here
 };
 ORVANE_BLOCK(satanpi_native_block, __orvane_satanpi_native_data)
 

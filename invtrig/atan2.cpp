@@ -18,8 +18,8 @@ inline constexpr coefficients<double, 19> atan2_accurate = {
      0x3FBC71C707F7D5B5, 0xBFC2492491EE55C7, 0x3FC999999997EE34, 0xBFD55555555553C5}};
 
 struct datan2_block {
-    SLOT(double, 0, turn, 0x400921FB54442D18)
-    SLOT(double, 1, quarter_turn, 0x3FF921FB54442D18)
+    SLOT(double, 0, turn, 0x400921FB54442D18)         // pi
+    SLOT(double, 1, quarter_turn, 0x3FF921FB54442D18) // pi/2
     GAP(2, 3)
     TABLE(4, poly, atan2_accurate)
     GAP(23, 23)
@@ -28,8 +28,8 @@ struct datan2_block {
 };
 ORVANE_BLOCK(datan2_block, __orvane_datan2_data)
 struct datan2_native_block {
-    SLOT(double, 0, turn, 0x400921FB54442D18)
-    SLOT(double, 1, quarter_turn, 0x3FF921FB54442D18)
+    SLOT(double, 0, turn, 0x400921FB54442D18)         // pi
+    SLOT(double, 1, quarter_turn, 0x3FF921FB54442D18) // pi/2
     TABLE(2, poly, atan_fast)
     RANGE_SLOTS(12)
     SLOT(double, 16, zero, 0x0)
@@ -59,11 +59,11 @@ struct satan2_block {
     GAP(1, 2)
     SLOT(float, 3, sign_mask, 0x80000000)
     SLOT(float, 4, abs_mask, 0x7FFFFFFF)
-    SLOT(float, 5, quarter_turn, 0x3FC90FDB)
-    SLOT(float, 6, turn, 0x40490FDB)
+    SLOT(float, 5, quarter_turn, 0x3FC90FDB) // pi/2
+    SLOT(float, 6, turn, 0x40490FDB)         // pi
     TABLE(7, poly, atanf_accurate)
-    SLOT(int32_t, 16, bits_bias, 0x81000000)
-    SLOT(int32_t, 17, bits_limit, 0xFC000000)
+    SLOT(int32_t, 16, bits_bias, 0x81000000)  // takes 2^-125 to the least int32
+    SLOT(int32_t, 17, bits_limit, 0xFC000000) // and 2^123 here
 };
 ORVANE_BLOCK(satan2_block, __orvane_satan2_data)
 struct satan2_native_block {
@@ -72,11 +72,11 @@ struct satan2_native_block {
     SLOT(float, 2, two, 0x40000000)
     SLOT(float, 3, sign_mask, 0x80000000)
     SLOT(float, 4, abs_mask, 0x7FFFFFFF)
-    SLOT(float, 5, quarter_turn, 0x3FC90FDB)
-    SLOT(float, 6, turn, 0x40490FDB)
+    SLOT(float, 5, quarter_turn, 0x3FC90FDB) // pi/2
+    SLOT(float, 6, turn, 0x40490FDB)         // pi
     TABLE(7, poly, atanf_fast)
-    SLOT(int32_t, 11, bits_bias, 0x81000000)
-    SLOT(int32_t, 12, bits_limit, 0xFC000000)
+    SLOT(int32_t, 11, bits_bias, 0x81000000)  // takes 2^-125 to the least int32
+    SLOT(int32_t, 12, bits_limit, 0xFC000000) // and 2^123 here
 };
 ORVANE_BLOCK(satan2_native_block, __orvane_satan2_native_data)
 struct satan2pi_block {
@@ -88,8 +88,8 @@ struct satan2pi_block {
     SLOT(float, 6, quarter_turn, 0x3F000000)
     SLOT(float, 7, turn, 0x3F800000)
     TABLE(8, poly, atanpif_accurate)
-    SLOT(int32_t, 17, bits_bias, 0x81000000)
-    SLOT(int32_t, 18, bits_limit, 0xFC000000)
+    SLOT(int32_t, 17, bits_bias, 0x81000000)  // takes 2^-125 to the least int32
+    SLOT(int32_t, 18, bits_limit, 0xFC000000) // and 2^123 here
 };
 ORVANE_BLOCK(satan2pi_block, __orvane_satan2pi_data)
 struct satan2pi_native_block {
@@ -100,8 +100,8 @@ struct satan2pi_native_block {
     SLOT(float, 4, turn, 0x3F800000)
     SLOT(float, 5, two, 0x40000000)
     TABLE(6, poly, atanpif_fast)
-    SLOT(int32_t, 10, bits_bias, 0x81000000)
-    SLOT(int32_t, 11, bits_limit, 0xFC000000)
+    SLOT(int32_t, 10, bits_bias, 0x81000000)  // takes 2^-125 to the least int32
+    SLOT(int32_t, 11, bits_limit, 0xFC000000) // and 2^123 here
 };
 ORVANE_BLOCK(satan2pi_native_block, __orvane_satan2pi_native_data)
 
@@ -183,8 +183,8 @@ using atan2pi_default = ORVANE_ATAN2(d, atan2pi, , double, word_estimate_long, h
 using atan2pi_native = ORVANE_ATAN2(d, atan2pi, _native, double, word_estimate_short, two_chains_summed, false);
 using atan2pif_default = ORVANE_ATAN2(s, atan2pi, , float, by_division, horner_summed, false);
 using atan2pif_native = ORVANE_ATAN2(s, atan2pi, _native, float, newton, two_chains_summed, false);
-// Largest known error of atan2: 3.251 ulp at 0x3FF5A7C0CDE780EA,0x3FF59F34FF0511F0
-// Largest known error of atan2, slow path: 0.5099 ulp at 0xFF956A412DA9AC1B,0x7FC61CB7B557274E
+// Largest known error of atan2: 3.302 ulp at 0x3FF59ADA9F6FE3A9,0x3FF5924D17A1157B
+// Largest known error of atan2, slow path: 0.5143 ulp at 0x7F38E71D808E665D,0x7F692E25BB918038
 ORVANE_EXPORT(atan2, , atan2_default)
 // Largest known error of atan2_native: 2.427e-09 relative at 0x3FEFA35DAC1970EB,0x4019D2FFFFE78DE5, with one processor's estimates
 // Largest known error of atan2_native, slow path: 0.5092 ulp at 0x000597A4B02301B8,0x002683957D9ECC38

@@ -37,13 +37,13 @@ inline constexpr coefficients<float, 4> atanpif_fast = {{0xBC62FED0, 0x3D4987CD,
 // The slots around a double kernel's range of magnitudes and its reciprocal, which begin at one number.
 #define RANGE_SLOTS(first)                                                                                           \
     SLOT(double, first, sign_mask, 0x8000000000000000)                                                               \
-    SLOT(int32_t, first + 1, hw_bias, 0x80300000)                                                                    \
-    SLOT(int32_t, first + 2, hw_limit, 0xFDD00000)                                                                   \
+    SLOT(int32_t, first + 1, hw_bias, 0x80300000)  /* takes the high word of 2^-1020 to the least int32 */           \
+    SLOT(int32_t, first + 2, hw_limit, 0xFDD00000) /* and that of 2^993 here */                                      \
     SLOT(double, first + 3, abs_mask, 0x7FFFFFFFFFFFFFFF)
 #define WORD_ESTIMATE_SLOTS(first)                                                                                   \
-    SLOT(uint32_t, first, exp_word, 0xFFF00000) /* sign and exponent of a high word */                               \
-    SLOT(uint32_t, first + 1, rcp_exp, 0x7FE00000)                                                                   \
-    SLOT(uint32_t, first + 2, mant_word, 0x007FFFFF)                                                                 \
+    SLOT(uint32_t, first, exp_word, 0xFFF00000)      /* sign and exponent of a high word */                          \
+    SLOT(uint32_t, first + 1, rcp_exp, 0x7FE00000)   /* twice the bias, in the exponent's place */                   \
+    SLOT(uint32_t, first + 2, mant_word, 0x007FFFFF) /* the fraction of a float */                                   \
     SLOT(uint32_t, first + 3, one_word, 0x3F800000)                                                                  \
     SLOT(uint32_t, first + 4, rebias, 0x07F00000) /* one_word >> 3 */                                                \
     SLOT(uint64_t, first + 5, hi_mask, 0xFFFFFFFF00000000)                                                           \

@@ -9,12 +9,7 @@ ORVANE_SLOW_PATH(__orvane_sln_cout_rare, const float* x, float* result);
 struct dln_block {
     TABLE(0, log_pairs, ln_pairs)
     TABLE(129, log_single, ln_single)
-    // Fit on |r| <= 2^-9.5: r + p2*r^2 + p3*r^3 + p4*r^4 + p5*r^5 = log(1 + r) to 2^-52.2 relative
-    // Of the fast tiers. Fit on |r| <= 2^-9.5: r + p2*r^2 + p3*r^3 = log(1 + r) to 2^-30.5 relative
-    SLOT(double, 194, p5, 0x3FC9999CACDB4D0A) // 0.2000003665949424, polynomial
-    SLOT(double, 195, p4, 0xBFD0000148058EE1) // -0.2500003054940248, polynomial
-    SLOT(double, 196, p3, 0x3FD55555555543C5) // 0.33333333333308374, polynomial
-    SLOT(double, 197, p2, 0xBFDFFFFFFFFFF81F) // -0.49999999999988803, polynomial
+    ORVANE_LN_POLYNOMIAL
     SLOT(double, 198, mantissa_mask, 0x000FFFFFFFFFFFFF)
     SLOT(double, 199, m_exponent, 0x3F50000000000000) // 2^-10, exponent given to m
     SLOT(double, 200, min_normal, 0x0010000000000000) // smallest ordinary input

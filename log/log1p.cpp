@@ -9,12 +9,7 @@ ORVANE_SLOW_PATH(__orvane_slog1p_cout_rare, const float* x, float* result);
 struct dlog1p_block {
     TABLE(0, log_pairs, ln_pairs)
     TABLE(129, log_single, ln_single)
-    // Fit on |r| <= 2^-9.5: r + p2*r^2 + p3*r^3 + p4*r^4 + p5*r^5 = log(1 + r) to 2^-52.2 relative
-    // Of the fast tier. Fit on |r| <= 2^-9.5: r + p2*r^2 + p3*r^3 = log(1 + r) to 2^-30.5 relative
-    SLOT(double, 194, p5, 0x3FC9999CACDB4D0A) // 0.2000003665949424, polynomial
-    SLOT(double, 195, p4, 0xBFD0000148058EE1) // -0.2500003054940248, polynomial
-    SLOT(double, 196, p3, 0x3FD55555555543C5) // 0.33333333333308374, polynomial
-    SLOT(double, 197, p2, 0xBFDFFFFFFFFFF81F) // -0.49999999999988803, polynomial
+    ORVANE_LN_POLYNOMIAL
     SLOT(double, 198, mantissa_mask, 0x000FFFFFFFFFFFFF)
     SLOT(double, 199, m_exponent, 0x3F50000000000000)  // 2^-10
     SLOT(double, 200, lower_limit, 0xBFEFFFFFFFFFFFFF) // -0.9999999999999999, smallest ordinary input
@@ -42,7 +37,7 @@ struct slog1p_block {
     SLOT(float, 18, tiny_limit, 0x39800000) // 2^-12
     SLOT(float, 19, z_mask, 0xFFFFFF00)     // clears the low 8 bits of z
     SLOT(uint32_t, 20, exponent_field, 0x7F800000)
-    SLOT(uint32_t, 21, scale_base, 0x7B000000)
+    SLOT(uint32_t, 21, scale_base, 0x7B000000) // 2 * 127 - 8 in the exponent field
     // Fit on |r| <= 2^-7.8: r + p2*r^2 + p3*r^3 = log(1 + r) to 2^-26.9 relative
     SLOT(float, 22, p3, 0x3EAAAB39) // 0.33333757519721985
     SLOT(float, 23, p2, 0xBF000036) // -0.5000032186508179

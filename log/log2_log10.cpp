@@ -85,8 +85,8 @@ struct slog2_block {
     SLOT(float, 22, min_normal, 0x00800000)
     SLOT(float, 23, max_finite, 0x7F7FFFFF)
     GAP(24, 24)
-    SLOT(float, 25, k_scale, 0x3FB80000) // 1.4375
-    SLOT(int32_t, 26, two_thirds_bits, 0x3F2AAAAB)
+    SLOT(float, 25, k_scale, 0x3FB80000)           // 1.4375
+    SLOT(int32_t, 26, two_thirds_bits, 0x3F2AAAAB) // 2/3
     SLOT(int32_t, 27, cut_mantissa_mask, 0x007FFFFF)
     SLOT(float, 28, one, 0x3F800000) // 1.0
     GAP(29, 37)
@@ -112,10 +112,10 @@ struct slog10_block {
     SLOT(float, 22, min_normal, 0x00800000)
     SLOT(float, 23, max_finite, 0x7F7FFFFF)
     GAP(24, 24)
-    SLOT(float, 25, k_scale, 0x3EDE0000)    // 0.43359375
-    SLOT(float, 26, log10_2_hi, 0x3E9A2100) // 0.30103302001953125
-    SLOT(float, 27, log10_2_lo, 0xB64AF600) // -3.0243536457419395e-06
-    SLOT(int32_t, 28, two_thirds_bits, 0x3F2AAAAB)
+    SLOT(float, 25, k_scale, 0x3EDE0000)           // 0.43359375
+    SLOT(float, 26, log10_2_hi, 0x3E9A2100)        // 0.30103302001953125
+    SLOT(float, 27, log10_2_lo, 0xB64AF600)        // -3.0243536457419395e-06
+    SLOT(int32_t, 28, two_thirds_bits, 0x3F2AAAAB) // 2/3
     SLOT(int32_t, 29, cut_mantissa_mask, 0x007FFFFF)
     SLOT(float, 30, one, 0x3F800000) // 1.0
     GAP(31, 39)

@@ -11,6 +11,15 @@
 
 namespace orvane {
 
+// Slots of log and log1p in double.
+// Fit on |r| <= 2^-9.5: r + p2*r^2 + p3*r^3 + p4*r^4 + p5*r^5 = log(1 + r) to 2^-52.2 relative
+// Of the fast tiers. Fit on |r| <= 2^-9.5: r + p2*r^2 + p3*r^3 = log(1 + r) to 2^-30.5 relative
+#define ORVANE_LN_POLYNOMIAL                                                                                         \
+    SLOT(double, 194, p5, 0x3FC9999CACDB4D0A) /* 0.2000003665949424 */                                               \
+    SLOT(double, 195, p4, 0xBFD0000148058EE1) /* -0.2500003054940248 */                                              \
+    SLOT(double, 196, p3, 0x3FD55555555543C5) /* 0.33333333333308374 */                                              \
+    SLOT(double, 197, p2, 0xBFDFFFFFFFFFF81F) /* -0.49999999999988803 */
+
 // Whether x is anything but a positive, normal, finite number.
 template <class V> ORVANE_INLINE auto not_positive_normal(const auto& c, V x) {
     return not_less_equal(x, V(c.max_finite)) | (x < V(c.min_normal));

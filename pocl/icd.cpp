@@ -123,7 +123,7 @@ cl_program CL_API_CALL program_with_binary(cl_context c, cl_uint count, const cl
     return as_they_are();
 }
 
-// Why this PoCL is left as it is; empty if it gets our functions.
+// Why this PoCL stays as it is; empty if it gets our functions.
 std::string refusal(const driver& d, cl_platform_id p) {
     if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma"))
         return "this processor has no AVX2 or no FMA";

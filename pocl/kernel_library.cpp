@@ -44,7 +44,7 @@ std::string mangled(const std::string& name, const ir::builtin& b) {
     return s;
 }
 
-// PoCL has its built-ins under names of its own, to which its headers lead, and conversions under the plain ones too.
+// PoCL's built-ins have names of its own, to which its headers lead; conversions also have the plain ones.
 constexpr const char* prefixes[] = {"_cl_", ""};
 
 // ---- Conversions from floating point to integers of 8 and 16 bits

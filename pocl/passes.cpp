@@ -49,7 +49,7 @@ public:
         const auto* remark = dyn_cast<DiagnosticInfoOptimizationBase>(&d);
         if (!remark) return before->handleDiagnostics(d);
         const StringRef pass = remark->getPassName();
-        // What the vectorizer did shows in the calls; its reasons matter where it did nothing.
+        // The remarks on calls show what the vectorizer did; its own remarks count where it did nothing.
         const std::string message = remark->getMsg();
         if (pass == "orvane" || StringRef(message).startswith("loop not vectorized:")) {
             const std::string line = "kernel " + kernel_of(remark->getFunction().getName()) + ": " + message;
@@ -120,20 +120,12 @@ struct orvane_stage : ModulePass {
             return changed;
         }
         if (at == stage::widen) tell(m.getContext());
-        LoopAnalysisManager loops;
-        FunctionAnalysisManager functions;
-        CGSCCAnalysisManager components;
-        ModuleAnalysisManager modules;
         PassBuilder builder;
-        builder.registerModuleAnalyses(modules);
-        builder.registerCGSCCAnalyses(components);
-        builder.registerFunctionAnalyses(functions);
-        builder.registerLoopAnalyses(loops);
-        builder.crossRegisterProxies(loops, functions, components, modules);
+        analysis_managers analyses(builder);
         ModulePassManager passes;
         if (at == stage::late) add_late_passes(passes, options_of_environment());
         else add_widening_passes(passes, options_of_environment());
-        const bool changed = !passes.run(m, modules).areAllPreserved();
+        const bool changed = !passes.run(m, analyses.modules).areAllPreserved();
         if (at == stage::late) tell_no_more(m.getContext());
         return changed;
     }

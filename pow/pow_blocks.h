@@ -110,8 +110,8 @@ struct spow_rm_block {
     SLOT(int32_t, 22, f_abs, 0x7FFFFFFF)     // sign mask
     SLOT(int32_t, 23, p_limit_f, 0x42AE9A00) // 87.30078125, compared as integer bits
     GAP(24, 26)
-    SLOT(int32_t, 27, f_x_bias, 0x80800000)
-    SLOT(int32_t, 28, f_x_limit, 0xFEFFFFFF)
+    SLOT(int32_t, 27, f_x_bias, 0x80800000)  // takes the smallest normal to the least int32
+    SLOT(int32_t, 28, f_x_limit, 0xFEFFFFFF) // and the largest finite number here
 };
 
 extern "C" {

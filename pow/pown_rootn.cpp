@@ -36,17 +36,17 @@ struct dpown_block {
     SLOT(double, 438, exp_mask, 0xFFF0000000000000)
     SLOT(double, 439, ex_shifter, 0x42C8000000000000) // 1.5 * 2^45: ulp 2^-7
     GAP(440, 443)
-    SLOT(int32_t, 444, x_bias, 0x00100000)
-    SLOT(int32_t, 445, x_limit, 0x00200000)
+    SLOT(int32_t, 444, x_bias, 0x00100000)  // takes high words of infinities and NaNs beyond the largest int32
+    SLOT(int32_t, 445, x_limit, 0x00200000) // the smallest normal's high word and x_bias
     SLOT(int32_t, 446, word_abs, 0x7FFFFFFF)
     GAP(447, 447)
-    SLOT(int32_t, 448, h_limit, 0x408EEFFF)
-    SLOT(int32_t, 449, idx_mask, 0x000FFE00)
-    SLOT(int32_t, 450, idx_round, 0x00000200)
-    SLOT(int32_t, 451, k_base, 0x3FE7FE00)
-    SLOT(int32_t, 452, k_word, 0x41380000)
-    SLOT(int32_t, 453, exp_bias, 0x3FF00000)
-    SLOT(int32_t, 454, j_mask, 0x0000007F)
+    SLOT(int32_t, 448, h_limit, 0x408EEFFF)   // high word of the numbers next below 990
+    SLOT(int32_t, 449, idx_mask, 0x000FFE00)  // the eleven leading bits of the fraction
+    SLOT(int32_t, 450, idx_round, 0x00000200) // half of an index step
+    SLOT(int32_t, 451, k_base, 0x3FE7FE00)    // high word of 0.7495: k is one more from m = 1.499 on
+    SLOT(int32_t, 452, k_word, 0x41380000)    // high word of 1.5 * 2^20
+    SLOT(int32_t, 453, exp_bias, 0x3FF00000)  // high word of 1
+    SLOT(int32_t, 454, j_mask, 0x0000007F)    // 128 entries
 };
 constexpr dpown_block with_h_limit(dpown_block b, slot<int32_t, 1> limit) {
     b.h_limit = limit;
@@ -57,8 +57,8 @@ extern "C" [[gnu::visibility("hidden")]] const dpown_block __orvane_drootn_data;
 constexpr dpown_block __orvane_drootn_data = with_h_limit({}, 0x408FEFFF);
 struct dpown_native_block {
     SLOT(double, 0, abs_mask, 0x7FFFFFFFFFFFFFFF)
-    SLOT(int32_t, 1, x_bias, 0x00100000)
-    SLOT(int32_t, 2, x_limit, 0x00200000)
+    SLOT(int32_t, 1, x_bias, 0x00100000)  // takes high words of infinities and NaNs beyond the largest int32
+    SLOT(int32_t, 2, x_limit, 0x00200000) // the smallest normal's high word and x_bias
     SLOT(int32_t, 3, word_abs, 0x7FFFFFFF)
     GAP(4, 4)
     SLOT(int32_t, 5, p_word_limit, 0x4086232B)

@@ -10,28 +10,28 @@ ORVANE_SLOW_PATH(__orvane_srootn_cout_rare, const float* x, const int* n, float*
 // Fit on |u| <= 1/128: u + q2*u^2 + q3*u^3 + q4*u^4 = log(1 + u) to 2^-30.3 relative
 #define ORVANE_POWNF_LOGARITHM                                                                                       \
     GAP(0, 0)                                                                                                        \
-    SLOT(float, 1, split_c, 0x45800800)                                                                              \
-    SLOT(int32_t, 2, x_bias, 0x80800000)                                                                             \
-    SLOT(int32_t, 3, x_limit, 0xFEFFFFFF)                                                                            \
+    SLOT(float, 1, split_c, 0x45800800)   /* 2^12 + 1 */                                                             \
+    SLOT(int32_t, 2, x_bias, 0x80800000)  /* takes the smallest normal to the least int32 */                         \
+    SLOT(int32_t, 3, x_limit, 0xFEFFFFFF) /* and the largest finite number here */                                   \
     GAP(4, 4)                                                                                                        \
     TABLE(5, ln_entries, pown_ln_entries)                                                                            \
     GAP(18, 19)                                                                                                      \
     SLOT(float, 20, m_mask, 0x007FFFFF)                                                                              \
     SLOT(float, 21, f_one, 0x3F800000)                                                                               \
-    SLOT(int32_t, 22, i_mask, 0x007F0000)                                                                            \
-    SLOT(int32_t, 23, i_round, 0x00010000)                                                                           \
-    SLOT(float, 24, m_split, 0x7FFFC000)                                                                             \
+    SLOT(int32_t, 22, i_mask, 0x007F0000)  /* the seven leading bits of the fraction */                              \
+    SLOT(int32_t, 23, i_round, 0x00010000) /* half of an index step */                                               \
+    SLOT(float, 24, m_split, 0x7FFFC000)   /* keeps 10 significand bits */                                           \
     SLOT(float, 25, q4, 0xBE800000)                                                                                  \
     SLOT(float, 26, q3, 0x3EAAAAAB)                                                                                  \
     SLOT(float, 27, q2, 0xBF000000)                                                                                  \
     SLOT(int32_t, 28, exp127, 0x0000007F)                                                                            \
-    SLOT(int32_t, 29, near_add, 0x407E0000)                                                                          \
-    SLOT(int32_t, 30, near_limit, 0x7FFC0000)                                                                        \
-    SLOT(float, 31, ln2_a, 0x3F317000)                                                                               \
+    SLOT(int32_t, 29, near_add, 0x407E0000)   /* takes 1 + 2^-6 beyond the largest int32 */                          \
+    SLOT(int32_t, 30, near_limit, 0x7FFC0000) /* and 1 - 2^-7 here */                                                \
+    SLOT(float, 31, ln2_a, 0x3F317000)        /* ln 2 in two parts for the exponent of x */                          \
     SLOT(float, 32, ln2_b, 0x3805FDF4)                                                                               \
     SLOT(float, 33, f_log2e, 0x3FB8AA3B)                                                                             \
     SLOT(float, 34, f_shifter, 0x4B400000)                                                                           \
-    SLOT(float, 35, ln2_c, 0x3F317200)                                                                               \
+    SLOT(float, 35, ln2_c, 0x3F317200) /* ln 2 in two parts for the reduction */                                     \
     SLOT(float, 36, ln2_d, 0x35BFBE8E)
 
 struct spown_block {
@@ -44,7 +44,7 @@ struct spown_block {
     SLOT(float, 41, e4, 0x3C0950EF)
     GAP(42, 42)
     SLOT(float, 43, f_abs, 0x7FFFFFFF)
-    SLOT(int32_t, 44, h_limit_f, 0x42AE9A00)
+    SLOT(int32_t, 44, h_limit_f, 0x42AE9A00) // 87.3
 };
 struct srootn_block {
     ORVANE_POWNF_LOGARITHM
@@ -57,7 +57,7 @@ struct srootn_block {
     SLOT(float, 42, g5, 0x3C07D9FE)
     GAP(43, 43)
     SLOT(float, 44, f_abs, 0x7FFFFFFF)
-    SLOT(int32_t, 45, h_limit_f, 0x42AE9A00)
+    SLOT(int32_t, 45, h_limit_f, 0x42AE9A00) // 87.3
 };
 ORVANE_BLOCK(spown_block, __orvane_spown_data)
 ORVANE_BLOCK(srootn_block, __orvane_srootn_data)
@@ -71,10 +71,10 @@ struct spown_native_block {
     SLOT(float, 4, lq6, 0xBE424B46)
     SLOT(float, 5, lq7, 0x3E2B350C)
     GAP(6, 7)
-    SLOT(int32_t, 8, m_base, 0x3F2AAAAB)
+    SLOT(int32_t, 8, m_base, 0x3F2AAAAB) // 2/3
     SLOT(int32_t, 9, m_mask, 0x007FFFFF)
     SLOT(float, 10, f_one, 0x3F800000)
-    SLOT(float, 11, ln2_c, 0x3F317200)
+    SLOT(float, 11, ln2_c, 0x3F317200) // ln 2 in two parts for the reduction
     SLOT(float, 12, ln2_d, 0x35BFBE8E)
     SLOT(float, 13, f_log2e, 0x3FB8AA3B)
     SLOT(float, 14, f_shifter, 0x4B400000)
@@ -86,10 +86,10 @@ struct spown_native_block {
     SLOT(float, 19, ek3, 0x3E2C359F)
     GAP(20, 20)
     SLOT(int32_t, 21, f_abs, 0x7FFFFFFF)
-    SLOT(int32_t, 22, h_limit_f, 0x42AE9A00)
+    SLOT(int32_t, 22, h_limit_f, 0x42AE9A00) // 87.3
     GAP(23, 25)
-    SLOT(int32_t, 26, x_bias, 0x80800000)
-    SLOT(int32_t, 27, x_limit, 0xFEFFFFFF)
+    SLOT(int32_t, 26, x_bias, 0x80800000)  // takes the smallest normal to the least int32
+    SLOT(int32_t, 27, x_limit, 0xFEFFFFFF) // and the largest finite number here
 };
 ORVANE_BLOCK(spown_native_block, __orvane_spown_native_data)
 ORVANE_BLOCK_TWIN(__orvane_srootn_native_data, __orvane_spown_native_data)

@@ -7,7 +7,7 @@ ORVANE_SLOW_PATH(__orvane_dpowr_cout_rare, const double* x, const double* y, dou
 
 using powr_default = pow_in_pairs<__orvane_dpowr_data, __orvane_dpowr_cout_rare>;
 using powr_reduced = pow_by_chords<__orvane_dpowr_native_data, __orvane_dpowr_cout_rare>;
-// Largest known error of powr: 2.084 ulp at 0x3FEFF8F4583573E7,0x412913BA430CBB0F, with one processor's estimates
+// Largest known error of powr: 2.101 ulp at 0x3FEFF8F44443549E,0x41290091A6DD1637, with one processor's estimates
 // Largest known error of powr, slow path: 0.5115 ulp at 0x000FA3BE050ADA1F,0x3FC48C3C5D4FC77B
 ORVANE_EXPORT(powr, , powr_default)
 // Largest known error of powr_native: 1.432e-08 relative at 0x4A5B23B92430CCFB,0xC002DA69305D63C5, with one processor's estimates

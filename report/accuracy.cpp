@@ -41,7 +41,7 @@ namespace {
 
 constexpr int linear_bins = 96;
 
-// Errors of one bin and path: the largest with its argument, and a histogram of 16 parts an octave for the median.
+// Errors of one bin and path: the largest with its argument, and a histogram of 16 parts per octave for the median.
 struct tally {
     static constexpr int octaves = 72, parts = 16, lowest = -60;
     double largest = -1;
@@ -152,7 +152,7 @@ private:
             std::fill(x + n, x + subject::width, x[0]);
             s.errors(x, measure, error);
             for (int i = 0; i < n; i++) {
-                // Of all floats the path is asked for where an error is the largest so far, or now and then.
+                // Over all floats the path is asked for only where an error is the largest so far, and at samples.
                 if (all && first % 4096 && !b.empty() && error[i] <= least_of(b)) continue;
                 b[s.path_of(x[i])].add(error[i], x[i]);
             }
@@ -272,7 +272,7 @@ private:
         return {{"error", rounded(worst.error)}, {"measure", to_string(m)}, {"arguments", words_of(worst.x)}};
     }
 
-    // Over arguments of all magnitudes, the same for every effort.
+    // Over arguments of all magnitudes, the same for quick, full and exhaustive reports.
     std::string digest() {
         std::mt19937_64 r(2026);
         uint64_t d = 0;

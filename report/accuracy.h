@@ -12,7 +12,7 @@ using json = nlohmann::ordered_json;
 struct effort {
     int samples = 1024; // in a bin of arguments; MPFR alone tells the error of an eighth of them, where there is no
                         // quicker reference
-    int decided = 12;   // arguments a path that MPFR decides
+    int decided = 12;   // arguments per path that MPFR decides
     bool every = false; // every float, of families with one
     bool operator==(const effort&) const = default;
 };

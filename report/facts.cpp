@@ -97,7 +97,7 @@ json special_of(const std::vector<const kernel_row*>& tiers, const library& in) 
         values[i] = telling_arguments(row.argument(i), n);
     }
     std::vector<std::vector<uint64_t>> lanes;
-    if (n == 3) { // those of which steps differ: an infinite product, one that cancels, one rounding
+    if (n == 3) { // triples whose intermediate steps matter: an infinite product, one that cancels, one rounding
         const double inf = HUGE_VAL, nan = NAN, e = row.in == lane_type::f32 ? 0x1p-12 : 0x1p-27;
         for (auto [a, b, c] : {std::array{inf, 0.0, 1.0},
                                {inf, 2, -inf},

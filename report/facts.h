@@ -1,4 +1,4 @@
-// What a report tells of pairs without a measurement: what they are, how they are called, what special arguments
+// What a report says about pairs without measuring: what they compute, how they are called, what special arguments
 // give.
 #pragma once
 

@@ -371,7 +371,7 @@ private:
         if (now() - kept > 2) keep();
     }
 
-    // Examples of kernels and of loops, as far as they are built.
+    // The tables of the example kernels and loops whose programs are built.
     void programs(progress& bar) {
         const std::pair<const char*, const char*> all[] = {
             {"orvane-jit-speed",

@@ -30,9 +30,9 @@ struct dlgamma_block {
     TABLE(386, ln_grid, lgamma_ln)
     TABLE(420, sine, lgamma_sine)
     SLOT(uint64_t, 422, half_step, 0x0000800000000000)
-    SLOT(uint64_t, 423, first_point, (1023 - 3) << 4)
+    SLOT(uint64_t, 423, first_point, (1023 - 3) << 4) // of 1/8
     SLOT(int64_t, 424, last_point, 191)
-    SLOT(double, 425, point_mask, 0xFFFF000000000000)
+    SLOT(double, 425, point_mask, 0xFFFF000000000000) // sign, exponent and four bits
     SLOT(double, 426, abs_mask, 0x7FFFFFFFFFFFFFFF)
     // Behind the branch.
     SLOT(double, 427, one, 0x3FF0000000000000)

@@ -1,70 +1,18 @@
 // The slow paths of lgamma and lgammar, in extended precision.
 #include "special/lgamma_rare.h"
 #include "special/lgamma_pieces.h"
+#include "special/lgamma_roots.h"
 #include "special/logl_rare.h"
-
-#include <initializer_list>
 
 namespace orvane {
 
 using namespace lgamma_pieces;
+using namespace lgamma_roots;
 
 namespace {
 
 // log gamma(y) for y from 0.875 to 512.
 [[gnu::noinline]] extended own_lgamma_pos(extended y) { return log_gamma(double(y), y); }
-
-// The zeros of log|gamma| in (-3 - k, -2 - k), the left and the right one of each interval.
-constexpr root_window _LRIB[13] = {
-#include "special/tables/lgamma_LRIB.inc"
-};
-constexpr root_window _RRIB[13] = {
-#include "special/tables/lgamma_RRIB.inc"
-};
-struct left_row {
-    extended E[5];
-    double D[11];
-    double unused[3] = {};
-};
-struct right_row {
-    extended E[4];
-    double D[12];
-};
-static_assert(sizeof(left_row) == 192 && sizeof(right_row) == 160);
-constexpr left_row _LRP[13] = {
-#include "special/tables/lgamma_LRP_row_0.inc"
-#include "special/tables/lgamma_LRP_rows_1_12.inc"
-};
-// Of the 16th powers.
-constexpr double _LRP16[13] = {
-#include "special/tables/lgamma_LRP16_row_0.inc"
-#include "special/tables/lgamma_LRP16_rows_1_12.inc"
-};
-constexpr right_row _RRP[13] = {
-#include "special/tables/lgamma_RRP_row_0.inc"
-#include "special/tables/lgamma_RRP_rows_1_12.inc"
-};
-
-// Horner's scheme carried on from r, the coefficients in an order of their own.
-template <class C> extended horner_in_order(extended v, extended r, const C& c, std::initializer_list<int> order) {
-    for (int i : order)
-        r = r * v + c[i];
-    return r;
-}
-extended left_root(int k, double x) {
-    const auto& [E, D, unused] = _LRP[k];
-    const extended u = extended(x) - _LRIB[k].centre, v = u * u;
-    const extended P = horner_in_order(v, horner_in_order(v, _LRP16[k], D, {9, 7, 5, 3, 1}), E, {4, 2, 0});
-    const extended Q = horner_in_order(v, horner_in_order(v, D[10], D, {8, 6, 4, 2, 0}), E, {3, 1});
-    return P + u * Q;
-}
-extended right_root(int k, double x) {
-    const auto& [E, D] = _RRP[k];
-    const extended u = extended(x) - _RRIB[k].centre, v = u * u;
-    const extended P = horner_in_order(v, horner_in_order(v, D[1], D, {7, 3, 9, 5, 11}), E, {2, 0});
-    const extended Q = horner_in_order(v, horner_in_order(v, D[0], D, {6, 2, 8, 4, 10}), E, {3, 1});
-    return P + u * Q;
-}
 
 // shifted_up with the product in two parts: each factor and the product's head are split so that the product of
 // their leading parts is exact.
@@ -83,6 +31,8 @@ extended shifted_up_compensated(extended x) {
     return own_lgamma_pos(y) - own_logl(hi < 0 ? -hi : hi);
 }
 
+// Fit on 512 <= x <= 2^60: (x - 1/2)*log(x) + log(2*pi)/2 - x + (ld_stir2/x^3 + ld_stir1/x) = lgamma(x)
+// to 2^-66.7 relative
 constexpr extended ld_stir1 = 0xAAAAAAAAAAAAAAABp-67L;
 constexpr double ld_stir2 = f64(0xBF66C16C16C16C17);
 // Stirling's series for log gamma(x), with L = ln|x|; for x < 0 with the other sign of ln(2 pi) / 2.
@@ -104,8 +54,8 @@ extended log_gamma_of_negative(double x) {
         if (x < -2) {
             const double above = -3 - x;
             const int k = int(above) + (above > 0); // its ceiling
-            if (inside(_LRIB[k], x)) return left_root(k, x);
-            if (inside(_RRIB[k], x)) return right_root(k, x);
+            if (inside(_LRIB[k], x)) return left_root(k, extended(x));
+            if (inside(_RRIB[k], x)) return right_root(k, extended(x));
         }
         return shifted_up(x, own_lgamma_pos, own_logl);
     }

@@ -24,9 +24,9 @@ inline constexpr table<row_of_eight, 16> lgammaf_ln = {{
 struct slgamma_block {
     TABLE(0, cells, lgammaf_cells)
     TABLE(304, ln_cells, lgammaf_ln)
-    SLOT(uint32_t, 320, first_cell, (127 - 6) << 4)
-    SLOT(uint32_t, 321, last_cell, 303)
-    SLOT(float, 322, cell_end, 0xFFF80000) // sign, exponent and four bits
+    SLOT(uint32_t, 320, first_cell, (127 - 6) << 4) // of 2^-6
+    SLOT(uint32_t, 321, last_cell, 303)             // the one below 8192
+    SLOT(float, 322, cell_end, 0xFFF80000)          // sign, exponent and four bits
     SLOT(double, 323, abs_mask, 0x7FFFFFFFFFFFFFFF)
     SLOT(double, 324, margin, 0x3D40000000000000)       // 2^-43, of the value
     SLOT(double, 325, least_margin, 0x3C80000000000000) // 2^-55

@@ -46,7 +46,7 @@ struct dtgamma_block {
     SLOT(double, 384, half, 0x3FE0000000000000)
     SLOT(double, 385, reflection_margin, bits(tgamma_reflection_margin))
     GAP(386, 386)
-    SLOT(double, 387, pole_side, 0x0004000000000000)
+    SLOT(double, 387, pole_side, 0x0004000000000000) // 2^-1024
     SLOT(double, 388, zero_bound, bits(slow::neg_zero))
     SLOT(double, 389, inf, 0x7FF0000000000000)
     SLOT(double, 390, quiet_nan, 0x7FF8000000000000)

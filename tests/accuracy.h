@@ -68,8 +68,8 @@ private:
     std::vector<lane> top;
 };
 
-// The errors that a kernel may show: up to what was measured, rounded up, and not down to where another kernel must
-// have run: the fast ones are hundreds of times as far off as the others.
+// The errors that a kernel may show: at most what was measured, rounded up, and at least a part of it, since a
+// smaller error means that another kernel ran: the fast ones are hundreds of times as far off as the others.
 struct allowed {
     allowed(double measured) : most(measured), least(std::max(0.4, measured / 4)) {}
     allowed(double most, double least) : most(most), least(least) {}

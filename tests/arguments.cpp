@@ -8,8 +8,8 @@ namespace orvane {
 
 namespace {
 
-// No distribution of the standard library: their numbers differ between its implementations. Arithmetic is that of
-// single operations alone, so that no mathematical library has a say.
+// Without the standard library's distributions, whose numbers differ between implementations, and by single
+// operations alone, so that the arguments do not depend on any mathematical library.
 struct drawing {
     uint64_t state;
     uint64_t operator()() {
@@ -252,7 +252,7 @@ words joined(std::initializer_list<words> lists) {
     return all;
 }
 
-// For two lists that are to meet: as many lanes as the longer has, the shorter one repeated and mixed.
+// For two lists that become pairs: as many lanes as the longer one has, the shorter one repeated and mixed.
 std::vector<words> paired(words x, words y, drawing& draw) {
     const size_t n = std::max(x.size(), y.size());
     auto stretched = [&](words& w) {

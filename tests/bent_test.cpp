@@ -76,7 +76,8 @@ TEST(Bent, NoArgumentGivesAResultOfAnotherKind) {
         if (!row.twin_name.empty() || !bent_library().address(plan_of(row, 8).symbol)) continue;
         const std::string name = std::string(row.name) + row.suffix();
         const bool fast = row.tier != "default", single = row.out == lane_type::f32;
-        // What estimates make of a result, with room: see the errors in the tests of the families.
+        // How far estimates may take a result, with room to spare: the tests of the families hold the errors
+        // themselves.
         const double apart = fast ? 0x1p-10 : single ? 0x1p-20 : 0x1p-48;
         auto x = telling_arguments(row);
         sweep f(row.name, row.tier), g(row.name, row.tier, 8, bent_library());

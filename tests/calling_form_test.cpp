@@ -155,7 +155,8 @@ TEST_P(CallingForm, SlowPathAnswers) {
     std::vector<uint64_t> lane;
     for (const auto& a : special)
         lane.push_back(a[0]);
-    // A slow path may keep what the vector path has put into the result lane: it is told by the one-lane export then.
+    // A slow path may keep what the vector path has put into the result lane: then the one-lane export gives the
+    // value.
     const auto one = by_single_lanes(s, special);
     const auto direct = call_slow_path(*s.in, *s.row, lane, one[0][0]);
     const uint64_t mask = size_of(s.row->result(0)) == 4 ? 0xFFFFFFFF : ~uint64_t(0);

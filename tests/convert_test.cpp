@@ -125,7 +125,7 @@ TEST(Convert, FloatingToInteger) {
     }
 }
 
-// What the results table of a program would say, in numbers.
+// A few results in numbers.
 TEST(Convert, FloatingToIntegerInNumbers) {
     auto of = [](const char* name, double x) {
         const kernel_row* row = find_row(library_rows(), name, "default");
@@ -202,7 +202,7 @@ TEST(Convert, IntegerToFloating) {
     for (const auto& c : families) {
         floats expected(c.row->out);
         words x = telling_integers(c.row->in, r, 20000);
-        // The tie guard: the upper two pieces lie on a tie of the float, and the low one above it or not at all.
+        // Ties: the upper two pieces lie halfway between two floats, and the low piece is zero or not.
         if (size_of(c.row->in) == 8)
             for (int i = 0; i < 20000; i++) {
                 const int e = 46 + int(r() % 18);

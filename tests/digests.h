@@ -5,7 +5,7 @@
 
 namespace orvane {
 
-// A copy of the library for itself, whose code and constants can be written.
+// A private copy of the library, whose code and constants can be written.
 class private_copy {
 public:
     private_copy();
@@ -63,7 +63,7 @@ private:
 
 // Recorded digests: of every processor, and for kernels fed by estimates of this kind of processor.
 struct recorded {
-    std::map<std::string, std::vector<uint64_t>> results, special_lanes; // by name, a digest a group
+    std::map<std::string, std::vector<uint64_t>> results, special_lanes; // by name, a digest for each group
 };
 std::string digests_file(bool takes_estimates);
 bool is_recorded_kind();

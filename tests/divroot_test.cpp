@@ -41,8 +41,8 @@ template <class Model> void holds(const char* name, const char* tier, std::vecto
     const auto& y = f(arguments)[0];
     for (size_t i = 0; i < y.size(); i++) {
         const uint64_t x = arguments[0][i], second = arguments.back()[i];
-        // Which of two NaN comes through hangs on the order that the compiler gave the model, where the processor
-        // does not take the first.
+        // Of two NaN the processor takes the first operand's; an emulator may not, and then it depends on the order
+        // that the compiler gave the model.
         if (std::isnan(value_of(f.row().in, x)) && std::isnan(value_of(f.row().in, second)) && arguments.size() > 1 &&
             !first_nan_wins())
             continue;

@@ -1,4 +1,4 @@
-// What callers get of the list of exports: each of its forms is called by itself and must lead to the same lanes.
+// What callers get from the list of exports (JSON, header, C++ caller, tool): calls by each must give the same lanes.
 #include "include/orvane/call.hpp"
 #include "support.h"
 #include "tools/whole_file.h"

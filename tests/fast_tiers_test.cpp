@@ -99,7 +99,7 @@ std::string differences(const kernel_row& row) {
     const auto fast = by_single_lanes({&row, &library_under_test()}, a);
     const auto wanted = by_single_lanes({&precise, &library_under_test()}, a);
 
-    // By result and kinds of arguments: the kinds of what the tier gives instead, and whether it ever gives the same.
+    // For each result and kinds of arguments: what kinds the tier gives instead, and whether it ever gives the same.
     std::vector<std::string> order; // of kinds, as they are met
     std::map<std::string, std::set<std::string>> instead;
     std::set<std::string> right;

@@ -1,4 +1,8 @@
 // The polynomials of the kernels' blocks against what their comments say that they are: function, interval and error.
+#include "special/lgamma_pieces.h"
+#include "special/lgamma_roots.h"
+#include "special/lgammaf_pieces.h"
+#include "special/tgamma_pieces.h"
 #include "tools/fits/minimax.h"
 #include "tools/fits/stated.h"
 #include "tools/whole_file.h"
@@ -80,29 +84,79 @@ double tanh_rows_error() {
     }
     return fits::log2_of(largest);
 }
+double relative_error(const real& lo, const real& hi, const auto& truth, const auto& approximation) {
+    real largest = 0;
+    for (const auto& x : fits::chebyshev_points(lo, hi, 100))
+        largest = std::max(largest, fits::magnitude(approximation(x) / truth(x) - 1));
+    return fits::log2_of(largest);
+}
 TEST(Fits, OfRowsReachTheErrorsThatTheirCommentsState) {
-    const auto stated = [](const std::string& source, const std::string& table) {
+    const auto expect_stated = [](double error, const std::string& source, const std::string& table) {
         const std::string text = contents_of(fs::path(ORVANE_SOURCES) / source);
         std::smatch m;
-        return std::regex_search(text, m, std::regex(table + R"(\.inc to 2\^-([0-9.]+) relative)")) ? -std::stod(m[1])
-                                                                                                    : 0;
+        ASSERT_TRUE(std::regex_search(text, m, std::regex(table + R"(\.inc to\s+(?://\s+)?2\^-([0-9.]+) relative)")))
+            << source << " states no error of " << table;
+        EXPECT_NEAR(error, -std::stod(m[1]), 0.051) << source << ": " << table;
     };
-    EXPECT_NEAR(tan_rows_error("trig/tables/tanf_rows.inc", 3), stated("trig/tan.cpp", "tanf_rows"), 0.051);
-    EXPECT_NEAR(tan_rows_error("trig/tables/tan_rows.inc", 6), stated("trig/tan.cpp", "tan_rows"), 0.051);
-    EXPECT_NEAR(tanh_rows_error(), stated("hyperbolic/hyperbolic_tables.h", "tanh_60"), 0.051);
+    expect_stated(tan_rows_error("trig/tables/tanf_rows.inc", 3), "trig/tan.cpp", "tanf_rows");
+    expect_stated(tan_rows_error("trig/tables/tan_rows.inc", 6), "trig/tan.cpp", "tan_rows");
+    expect_stated(tanh_rows_error(), "hyperbolic/hyperbolic_tables.h", "tanh_60");
+
+    // Of the gamma functions' slow paths: their own text in numbers of 400 bits.
+    const auto expect_binades = [&](auto binade, int first, int last, const char* source, const char* table) {
+        double error = -HUGE_VAL;
+        for (int j = first; j <= last; j++)
+            error = std::max(error, relative_error(real(4 << j), real(8 << j), tables::log_gamma,
+                                                   [&](const real& x) { return binade(j, x); }));
+        expect_stated(error, source, table);
+    };
+    const char* const in_float = "special/lgammaf_pieces.h";
+    const char* const in_double = "special/lgamma_pieces.h";
+    expect_binades(lgammaf_pieces::binade<real>, 0, 10, in_float, "lgammaf_C5");
+    expect_binades(lgamma_pieces::binade<real>, 0, 0, in_double, "lgamma_C5_row_0");
+    expect_binades(lgamma_pieces::binade<real>, 1, 6, in_double, "lgamma_C5_rows_1_6");
+
+    const auto expect_roots = [&](auto root, const root_window* windows, const std::string& table) {
+        for (auto [first, last, rows] : {std::tuple(0, 0, "_row_0"), std::tuple(1, 12, "_rows_1_12")}) {
+            double error = -HUGE_VAL;
+            for (int k = first; k <= last; k++)
+                error = std::max(error, relative_error(windows[k].lower, windows[k].upper, tables::log_gamma,
+                                                       [&](const real& x) { return root(k, x); }));
+            expect_stated(error, "special/lgamma_roots.h", table + rows);
+        }
+    };
+    expect_roots(lgamma_roots::left_root<real>, lgamma_roots::_LRIB, "lgamma_LRP");
+    expect_roots(lgamma_roots::right_root<real>, lgamma_roots::_RRIB, "lgamma_RRP");
+
+    const auto expect_gamma = [&]<class T>(T, int first, int last, bool tiny, const char* table) {
+        double error = -HUGE_VAL;
+        for (int i = first; i <= last; i++) {
+            const int n = std::max(2, i << tgamma_constants<T>::shift);
+            const real scale = tiny && i == last ? real(tgamma_constants<T>::tiny) : real(1);
+            error = std::max(error, relative_error(
+                                        0, 1, [&](const real& t) { return tables::gamma(t + n) * scale; },
+                                        [&](const real& t) { return gamma_row_product<T>(n, t); }));
+        }
+        expect_stated(error, "special/tgamma_pieces.h", table);
+    };
+    expect_gamma(0.0f, 0, 5, true, "tgammaf_rows");
+    expect_gamma(0.0, 0, 1, false, "tgamma_rows_00_01");
+    expect_gamma(0.0, 2, 10, false, "tgamma_rows_02_10");
+    expect_gamma(0.0, 11, 11, true, "tgamma_rows_11");
 }
 
 // Polynomials of slow paths: each array that one evaluates has its fit stated in a file of the folder.
 TEST(Fits, AreStatedForTheArraysOfSlowPaths) {
-    static const std::regex call(R"(\bhorner(?:_up)?\(\w+, (?:\w+(?:\.|::))*(\w+)\))");
+    static const std::regex call(
+        R"(\bhorner(?:_up|_from)?\([^,;\n]+, (?:horner\([^()]*\), )?(?:\w+(?:\.|::))*(\w+)\))");
     std::map<std::string, std::set<std::string>> stated;
     for (const auto& f : all_fits())
         stated[f.file.parent_path().filename()].insert(f.coefficients.begin(), f.coefficients.end());
     int polynomials = 0;
-    for (auto folder : {"exp", "log", "pow", "divroot", "trig", "invtrig", "hyperbolic"})
+    for (auto folder : {"exp", "log", "pow", "divroot", "trig", "invtrig", "hyperbolic", "special"})
         for (const auto& source : fs::directory_iterator(fs::path(ORVANE_SOURCES) / folder)) {
             const std::string name = source.path().filename();
-            if (name.find("_rare") == name.npos) continue;
+            if (name.find("_rare") == name.npos && name.find("_pieces") == name.npos) continue;
             const std::string text = contents_of(source.path());
             for (std::sregex_iterator i(text.begin(), text.end(), call), end; i != end; ++i, polynomials++)
                 EXPECT_TRUE(
@@ -175,6 +229,10 @@ TEST_F(StatedFits, AreComputedFromConstantsAndArrays) {
            ".l = {-f64(0x3FE0000000000000), 0x8000000000000000p-65L},\n");
     ASSERT_EQ(f.size(), 1u);
     EXPECT_NEAR(fits::error_exponent(f[0]), -4, 1e-9); // v / 4 is too much
+    const auto g =
+        of("// Fit on 1 <= v <= 2: quadratics(v, k) + k[2]*(gamma(4) - 6) = 3*(v^2 + 2*v + 1) to 2^-1.0 absolute\n"
+           "constexpr double k[] = {1.25, 2.0, 3.0};\n");
+    EXPECT_NEAR(fits::error_exponent(g.at(0)), std::log2(0.75), 1e-9);
 }
 TEST_F(StatedFits, RefuseWhatTheyDoNotUnderstand) {
     const std::pair<const char*, const char*> cases[] = {
@@ -183,7 +241,8 @@ TEST_F(StatedFits, RefuseWhatTheyDoNotUnderstand) {
         {"// Fit on r < 1: 1 + r = exp(r) to 2^-3 relative\n", "no interval"},
         {"// Fit on |r| <= 1: 1 + c9*r = exp(r) to 2^-3 relative\n", "'c9'"},
         {"// Fit on |r| <= 1: 1 + (r = exp(r) to 2^-3 relative\n", ") is missing"},
-        {"// Fit on |r| <= 1: horner(r, k) = exp(r) to 2^-3 relative\n", "'k'"}};
+        {"// Fit on |r| <= 1: horner(r, k) = exp(r) to 2^-3 relative\n", "'k'"},
+        {"// Fit on |r| <= 1: k[2]*r = exp(r) to 2^-3 relative\ndouble k[] = {1.0, 2.0};\n", "k[0] to [1]"}};
     for (const auto& [text, why] : cases) {
         SCOPED_TRACE(text);
         try {

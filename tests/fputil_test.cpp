@@ -143,7 +143,7 @@ TYPED_TEST(Fputil, Selections) {
     EXPECT_SAME(value<T>("fdim", T(HUGE_VAL), T(HUGE_VAL)), T(0));
 }
 
-// No error is ever told, and what a slow path does not answer stays as the vector path has put it there.
+// No status tells an error, and lanes that a slow path does not answer keep what the vector path has put there.
 TYPED_TEST(Fputil, SlowPaths) {
     using T = TypeParam;
     const auto infinity = word(T(HUGE_VAL)), minus = word(T(-0.0)), one = word(T(1)), before = word(T(42));

@@ -293,7 +293,7 @@ TEST(Gamma, LongDeviationFromTheSlowPathIsBelowHalfOfTheMargin) {
         EXPECT_LT(largest_share(name, lo, hi, by_exponent, 6'500'000), 0.5) << name << " from " << lo << " to " << hi;
 }
 
-// What the vector paths finish by themselves: next to all ordinary lanes, and those that need no formula.
+// The vector paths finish nearly all ordinary lanes by themselves, and those that need no formula.
 TEST(Gamma, SlowPathsDecideFewLanes) {
     struct share {
         const char* name;

@@ -106,7 +106,7 @@ TEST(InverseTrigonometry, Quadrants) {
                             expect_same(f(t, s), over_pi ? eighths / 4 : f.rounded(std::atan2(t, s)));
                             EXPECT_EQ(f.status(t, s), over_pi && t == 0 && s == 0);
                         }
-            // The diagonal of very large and of very small numbers, and exponents that far apart that only the
+            // The diagonal of very large and of very small numbers, and exponents so far apart that only the
             // quadrant is left.
             const double large = f.is_float() ? 0x1p126 : 0x1p1000, small = f.is_float() ? 0x1p-126 : 0x1p-1022;
             for (double m : {large, small})

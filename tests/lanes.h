@@ -8,7 +8,7 @@ namespace orvane {
 struct model_lane {
     std::vector<uint64_t> arguments, results;
     bool fed_by_estimates = false; // counts on processors with the model's estimates alone
-    int steps = 0;                 // allowed beside the result
+    int steps = 0;                 // how many numbers a result may lie beside the model's
 };
 struct model_lanes {
     std::string name;

@@ -93,7 +93,7 @@ public:
             flip(m, bits);
             return i;
         };
-        // What noticed the last one is asked first.
+        // The digest that noticed the last mutant is asked first.
         if (const size_t i = first_change(order, order.size(), 1); i < order.size()) {
             std::rotate(order.begin(), order.begin() + i, order.begin() + i + 1);
             return noticed;
@@ -108,7 +108,7 @@ public:
         if (reading.empty()) return silent;
         return first_change(reading, reading.size(), 8) < reading.size() ? faint : weak;
     }
-    // Hang the bits of a reader on the processor's estimates?
+    // Whether the bits of a reader depend on the processor's estimates.
     bool takes_estimates(const mutant& m) {
         return std::any_of(readers[m.owner].begin(), readers[m.owner].end(),
                            [&](size_t t) { return everything[t].takes_estimates; });
@@ -196,7 +196,7 @@ private:
         if (!by) by = std::make_unique<digester>(l.special ? marking.in() : plain.in(), d);
         return l.special ? by->special_lanes(d.groups[l.group]) : by->results(d.groups[l.group]);
     }
-    // The first time with the constant restored is taken care of by unchanged(), from the library itself.
+    // Whether a digest of the changed copy differs from the one that the library itself gives.
     bool changed(const look& l) {
         const uint64_t want = unchanged(l);
         // It reads outside the table, or does not come to an end.

@@ -1,5 +1,5 @@
-// Records the digests anew: those of every processor, and those of kernels fed by estimates for this kind of
-// processor. Refuses as long as a lane of the independent models disagrees.
+// Records the digests anew: those that hold on every processor and, for kernels fed by estimates, those of this kind
+// of processor. Refuses as long as a lane of the independent models disagrees.
 #include "digests.h"
 #include "lanes.h"
 #include "tools/estimates.h"

@@ -107,8 +107,8 @@ TYPED_TEST(Remainder, InNumbers) {
     EXPECT_EQ(quotient(0x1p60 * 1.5, 3), 0); // 2^59: its low 31 bits
 }
 
-// What is no number, with the status of the slow path: the first NaN goes on quieted; a zero y or an infinite x is
-// invalid.
+// Results that are no number, with the status of the slow path: the first NaN is passed on quieted; a zero y or an
+// infinite x is invalid.
 TYPED_TEST(Remainder, WithoutARemainder) {
     using T = TypeParam;
     const uint64_t infinity = infinity_word<T>, sign = sign_word<T>, quiet = infinity | quiet_bit<T>,

@@ -57,7 +57,8 @@ TEST(Sinpi, IntegersAndHalves) {
     });
 }
 
-// Of a flagged argument only what is above a multiple of 512 counts, which the remainder gives exactly.
+// Of an argument beyond tangent_limit only the distance above a multiple of 512 counts, which the remainder gives
+// exactly.
 TEST(Sinpi, LargeTangents) {
     each_kernel([](const kernels& m, const char* tier) {
         rng r(61);

@@ -34,7 +34,8 @@ private:
 
 object& library_under_test();
 object& probe_library();
-// The kernels fed by the processor's 12-bit estimates with others in place of these, at eight lanes alone.
+// The bent library: kernels fed by the processor's 12-bit estimates, with other estimates in their place; width 8
+// alone.
 object& bent_library();
 void set_bend(bend b);
 // Whether this processor has the estimates with which the figures in the tests were measured.

@@ -1,4 +1,4 @@
-// Tests whose cases are the same for double and float: lanes as values of the type.
+// For tests whose cases are the same for double and float: lanes as values of the type.
 #pragma once
 
 #include "support.h"

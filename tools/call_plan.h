@@ -28,8 +28,8 @@ private:
 // Lanes of one argument or result as bit patterns; a 32-bit lane uses the low half of a word.
 using words = std::vector<uint64_t>;
 
-// Puts arguments in their places and takes results out of theirs. Results come in the order of plan.results, the
-// out-lane last, with stored_lanes(width) lanes each (the spare lane's too).
+// Puts arguments where the calling form wants them and reads results from where it leaves them. Results come in the
+// order of plan.results, the out-lane last, with stored_lanes(width) lanes each: the spare lane is among them.
 class lane_caller {
 public:
     lane_caller(const call_plan& plan, const void* function);

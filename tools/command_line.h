@@ -18,7 +18,7 @@ struct failure : std::runtime_error {
     using runtime_error::runtime_error;
 };
 
-// A word of the input in a message: without what a terminal would take for more, and not at any length.
+// A word of the input as a message quotes it: without control characters, and cut where it is long.
 inline std::string quoted(std::string s) {
     const size_t length = s.size();
     if (length > 60) s.resize(40);
@@ -41,7 +41,7 @@ inline std::vector<std::string> split(const std::string& s, char by) {
 // printed.
 inline bool parse_words(CLI::App& app, std::vector<std::string> words, std::vector<std::string>& positional,
                         const std::string& program) {
-    constexpr char mark = '\x01'; // on them while the words are parsed
+    constexpr char mark = '\x01'; // stands before negative numbers while the words are parsed
     for (auto& w : words)
         if (w.size() > 1 && w[0] == '-' &&
             (isdigit(w[1]) || w[1] == '.' || w.starts_with("-inf") || w.starts_with("-nan")))

@@ -1,4 +1,5 @@
-// Kinds of processors: what the two 12-bit estimate instructions return, which the bits of some families hang on.
+// Kinds of processors, told by what the two 12-bit estimate instructions return: the bits of some families depend on
+// it.
 #pragma once
 
 #include <cstdint>

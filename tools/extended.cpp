@@ -9,7 +9,8 @@ namespace {
 
 constexpr long double pi = 3.14159265358979323846264338327950288L;
 
-// pi times what x is above a multiple of 1/2, which is exact; quarter: its number modulo 4.
+// pi times the distance of x from the nearest multiple of 1/2, a distance that is exact; quarter: that multiple's
+// number modulo 4.
 template <class T> T half_turns(T x, int* quarter) {
     const T n = std::nearbyint(2 * std::fmod(x, T(2)));
     *quarter = int(n) & 3;
@@ -34,7 +35,7 @@ template <class T> T tanpi(T x) {
     const T t = std::tan(half_turns(x, &q));
     return q & 1 ? -1 / t : t;
 }
-// x^(1/n), with what 1 / n loses in its rounding put back.
+// x^(1/n), corrected for the rounding of 1 / n.
 long double root(long double x, long double n) {
     const long double a = std::fabs(x), e = 1 / n, lost = std::fma(-e, n, 1.0L) / n;
     const long double y = std::pow(a, e);

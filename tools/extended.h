@@ -17,8 +17,7 @@ struct extended_reference {
     double (*quick_second)(double x) = nullptr;
 };
 
-// Of a family by its base name (exp, not expf); null where there is none, which are the families that are exact by
-// their meaning.
+// The reference of a family by its base name (exp, not expf); null for families that are exact by their meaning.
 const extended_reference* extended_reference_of(const kernel_row& row);
 
 } // namespace orvane

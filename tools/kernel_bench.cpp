@@ -111,7 +111,7 @@ int bench_in_turns(const std::vector<std::string>& words) {
     // How many threads run is PoCL's variable to say, or the user's.
     const bool threads_matter = std::thread::hardware_concurrency() > 1 && !getenv("POCL_MAX_PTHREAD_COUNT");
     for (const auto& c : columns) {
-        if (c.title == plain_title && titles[0] == plain_title) continue; // is measured already
+        if (c.title == plain_title && titles[0] == plain_title) continue; // measured already
         if (c.name == std::string_view("two") &&
             (!threads_matter || (titles[0] != "Orvane" && titles[0] != plain_title)))
             continue;
@@ -122,7 +122,7 @@ int bench_in_turns(const std::vector<std::string>& words) {
         titles.push_back(*c.title ? c.title : *ready);
         runners.push_back(std::move(r));
     }
-    // What runs long runs seldom.
+    // A kernel that takes long gets fewer turns.
     std::vector<std::vector<double>> times(runners.size());
     const auto start = std::chrono::steady_clock::now();
     const auto passed = [&] {
@@ -137,7 +137,7 @@ int bench_in_turns(const std::vector<std::string>& words) {
     size_t width = 0;
     for (const auto& t : titles)
         width = std::max(width, t.size());
-    printf("ns a work-item, one thread if not said, medians of %zu rounds in turns\n", times[0].size());
+    printf("ns per work-item, one thread if not said, medians of %zu rounds in turns\n", times[0].size());
     for (size_t k = 0; k < runners.size(); k++) {
         printf("  %-*s %9.3f", int(width), titles[k].c_str(), median(times[k]));
         if (k) printf("  %7.2f times", median(times[k]) / median(times[0]));

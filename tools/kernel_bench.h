@@ -11,8 +11,8 @@ namespace orvane {
 // Starts this program once for each column with `words` and --bench-turns, and prints medians. Returns an exit code.
 int bench_in_turns(const std::vector<std::string>& words);
 
-// A process of these: runs the kernel whenever it is its turn, and answers on the file descriptor with ns a
-// work-item.
+// One of these processes: runs the kernel whenever its turn comes, and answers on the file descriptor with the
+// nanoseconds per work-item.
 int take_turns(const kernel_request&, const std::string& column, int descriptor);
 
 // Of a folder that is gone with this object.

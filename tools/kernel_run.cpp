@@ -166,7 +166,7 @@ void put_number(const std::string& text, const scalar_type& t, unsigned char* to
     memcpy(to, &u, t.bytes);
 }
 
-// Element type, order and shape of a file for a buffer, as one says what is wanted.
+// Element type, order and shape that a buffer wants of a file, in words.
 std::string wanted_array(const value_type& t) {
     std::string s = std::string(t.scalar->npy);
     if (t.width == 3) return s + " of shape (N, 4) or (N, 3)";

@@ -92,7 +92,7 @@ std::vector<parameter> kernel_file::parameters_of(const cl::Context& context, co
                                                   const cl::Kernel& kernel) const {
     std::vector<parameter> all;
     std::vector<std::string> unknown;
-    const auto text_of = [](std::string s) { // as some drivers count the end to it
+    const auto text_of = [](std::string s) { // some drivers count the terminating zero as a character
         while (!s.empty() && !s.back())
             s.pop_back();
         return s;

@@ -27,7 +27,7 @@ npy_reader::npy_reader(const std::string& path) : name(quoted(path)) {
         unsigned char major, minor;
         xt::detail::read_magic(in, &major, &minor);
         if ((major != 1 && major != 2) || minor) throw failure(name + ": NumPy's format 1.0 and 2.0 are read");
-        // A header that is cut off leaves the stream failed; the parser wants one that is whole.
+        // A header that is cut off leaves the stream in its failed state; the parser must get a whole one.
         const std::string header = major == 1 ? xt::detail::read_header_1_0(in) : xt::detail::read_header_2_0(in);
         if (!in || header.empty()) throw ends();
         xt::detail::parse_header(header, type, &column_major, shape);

@@ -29,9 +29,9 @@ struct error_limit {
     std::string text() const;       // "4 ulp", "2^-11 absolute on [-pi, pi]"
 };
 
-// What OpenCL C asks of the built-in that a pair serves: in its full profile; 8192 ulp of half_ functions; under
-// -cl-fast-relaxed-math, for `float`, of the rm tiers. None where it sets no limit (native_ functions, lgamma,
-// functions that it does not have) and where results are exact by their meaning.
+// What OpenCL C asks of the built-in that a pair serves: its full profile for the default tier, 8192 ulp for half_
+// functions, and for the rm tiers of `float` what it grants under -cl-fast-relaxed-math. None where it sets no limit
+// (native_ functions, lgamma, functions that it does not have) and where results are exact by their meaning.
 std::optional<error_limit> limit_of(const kernel_row& row);
 
 } // namespace orvane

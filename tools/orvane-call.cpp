@@ -46,7 +46,7 @@ size_t edit_distance(std::string_view a, std::string_view b) {
 
 std::string short_name(const call_plan& p) { return p.symbol.substr(std::string_view("__orvane_l9_").size()); }
 
-// What is meant by a name that is none: the whole sentence.
+// The whole sentence about a name that no export has, with the one that may be meant.
 std::string no_such_export(const std::string& name) {
     const std::string no_export = "no export " + quoted(name);
     if (name.size() > 64) return no_export;
@@ -58,7 +58,7 @@ std::string no_such_export(const std::string& name) {
                    suffix + ", " + base + "3" + suffix + ", " + base + "4" + suffix + ", " + base + "8" + suffix +
                    " and " + base + "16" + suffix;
     }
-    // A width in the wrong place, as in sin8f.
+    // Corrects a width in the wrong place, as in sin8f.
     for (size_t at = 0; at < base.size(); at++)
         for (size_t n = 1; n <= 2 && at + n < base.size(); n++) {
             const auto moved = base.substr(0, at) + base.substr(at + n) + base.substr(at, n) + suffix;
@@ -145,7 +145,7 @@ std::string pattern(lane_type t, uint64_t w) {
 
 using lane_words = std::vector<uint64_t>;
 
-// Collects lanes to whole vectors and hands each result lane on.
+// Collects lanes into whole vectors, calls the export, and hands each result lane on.
 class stream {
 public:
     stream(const call_plan& plan, const void* f) : caller(plan, f), arguments(plan.arguments.size()) {}

@@ -129,7 +129,7 @@ int run(const std::vector<std::string>& all_words) {
     app.add_flag("--list", list_wanted, "the platforms, the kernels of the file and their parameters");
     app.add_flag("--explain", explain, "on stderr, what each built-in became (on Orvane's platform)");
     app.add_flag("--bench", bench,
-                 "no output files, but ns a work-item beside plain PoCL and the same kernel with scalar libm");
+                 "no output files, but ns per work-item beside plain PoCL and the same kernel with scalar libm");
     app.add_option("--bench-turns", turns)->group("");
     app.footer("Options that begin with -cl- go to the driver's compiler. Exit code 2: the file does not compile.");
     for (const auto& w : all_words)

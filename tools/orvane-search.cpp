@@ -296,7 +296,8 @@ findings every_float(subject& s, const options& o) {
             const uint64_t last = std::min<uint64_t>(first + (1 << 20) - 1, high);
             const uint32_t sign = uint32_t(negative) << 31;
             s.each_float(first | sign, last | sign, [&](uint32_t x, float y, double v) {
-                // Of the slow path and of the formula one is not known yet; the smaller of their bounds serves.
+                // It is not known yet whether the lane takes the formula or the slow path; the smaller of their
+                // bounds serves.
                 const bool large = std::fabs(std::bit_cast<float>(x)) >= inline_from;
                 const lane_path guess = large ? lane_path::large : lane_path::vector;
                 const error_measure m = measure_of(s.row, guess);

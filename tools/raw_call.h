@@ -1,6 +1,6 @@
-// The raw-register caller: a call in which every register is as the caller of this function says, and nothing that
-// the called code leaves is lost. Written in assembly (raw_call.S), since no calling convention of a compiler gives
-// it.
+// The raw-register caller: a call in which every register has the value that the caller of this function gives, and
+// everything that the called code leaves in registers is stored. It is written in assembly (raw_call.S), since no
+// calling convention of a compiler allows that.
 #pragma once
 
 #include <cstddef>

@@ -14,8 +14,7 @@ public:
     truth(const truth&) = delete;
 
     // The true results of a row for one lane's argument words: value(0), and value(1) for an out-lane or a second
-    // result. False if there is none to tell. Arguments are taken as the numbers that they are; a domain error gives
-    // NaN.
+    // result. False if no true value is known. Arguments are exact numbers; a domain error gives NaN.
     bool operator()(const kernel_row& row, const uint64_t* arguments);
     mpfr_srcptr value(int j) const { return v[j]; }
 

@@ -16,9 +16,9 @@ struct form {
 };
 constexpr form forms[] = {{'b', 16, 16}, {'c', 32, 16}, {'d', 32, 32}, {'e', 64, 64}};
 
-// No functions of one name and meaning in C: div is another function there, nan takes a string.
+// Families that C knows under the same name with another meaning: div is another function there, nan takes a string.
 const std::set<std::string> no_c_name = {"div", "inv", "nan"};
-// What OpenCL C knows and the C library of Debian 12 does not.
+// Functions that OpenCL C has and the C library of Debian 12 has not.
 const std::set<std::string> not_in_c = {"sinpi", "cospi", "tanpi", "asinpi", "acospi", "atanpi", "atan2pi", "rsqrt",
                                         "rcbrt", "powr",  "pown",  "rootn",  "minmag", "maxmag", "fract"};
 // Further names of a function.
@@ -36,7 +36,7 @@ const std::set<std::string> with_finite = {
     "log10", "log1p", "log2",      "log",   "rint",      "round",  "sin",      "sinh", "sinpi", "sqrt",
     "tan",   "tanh",  "tgamma",    "trunc", "modf",      "atan2",  "copysign", "fdim", "fmax",  "fmin",
     "fmod",  "hypot", "nextafter", "pow",   "remainder", "frfrexp"};
-// SLEEF has masked e forms of what it has at all.
+// SLEEF has masked e forms of all its functions.
 const std::set<std::string> masked_besides = {"fma", "ilogb", "ldexp", "expfrexp"};
 
 // The kernels of 128-bit lanes that finish every lane touch no 256-bit register, but for those that work in double.
@@ -123,7 +123,8 @@ void plain_forms(writer& w, const kernel_row& row, const std::string& parameters
     }
 }
 
-// An int of a floating lane. GCC counts lanes by the result, four or more to a register of it; SLEEF by the argument.
+// Functions with an int result for each floating lane. GCC counts lanes by the result, four or more to a register of
+// it; SLEEF by the argument.
 void to_integer_forms(writer& w, const kernel_row& row, const std::vector<std::string>& names) {
     auto put = [&](char letter, int lanes, const char* shape) {
         w.put_all(symbols_of(letter, 'N', lanes, "v", names), shape, export_of(row, lanes));
@@ -235,7 +236,7 @@ std::vector<vecabi_name> all_names() {
         if (c.family == "frexp") frexp_forms(w, *c.row);
         if (c.family == "sinpi")
             two_out_forms(w, "sincospi", *c.row, find_row(library_rows(), is_float ? "cospif" : "cospi", "default"));
-        // Code that is vectorized calls these for what is left over at a loop's end.
+        // Vectorized loops call these for the elements that are left over at their end.
         if (!c.in_c && c.pure)
             w.put("orvane_" + c.name, leaves_sse_state(*c.row) ? "alias" : "for_sse", export_of(*c.row, 1));
     }

@@ -68,7 +68,7 @@ public:
 
     std::ofstream out;
 
-    // Everything is written, and what could not be would have been told.
+    // Writes what is still in buffers; throws if anything could not be written.
     void finish() {
         if (!out.is_open()) return;
         errno = 0;

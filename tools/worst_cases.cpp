@@ -198,7 +198,7 @@ double error_by_meaning(const kernel_row& row) {
 known_error largest_known_error(const kernel_row& row, const std::vector<worst_case>& cases) {
     const kernel_row* kernel = &row;
     if (!row.twin_name.empty()) kernel = find_row(library_rows(), row.twin_name, row.twin_tier);
-    // Of two paths one may be told in ulps and the other in a coarser measure; the coarser tells both.
+    // The errors of two paths may have different measures, ulps and a coarser one; the coarser one serves both.
     const worst_case* largest = nullptr;
     const double ulp = row.in == lane_type::f32 ? 0x1p-23 : 0x1p-52; // at most, of a value
     const auto size = [&](const worst_case& w) { return w.measure == error_measure::ulp ? w.error * ulp : w.error; };

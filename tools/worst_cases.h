@@ -34,8 +34,8 @@ struct worst_case {
 // The measure in which a kernel's errors are told.
 error_measure measure_of(const kernel_row& row, lane_path path);
 
-// A source file with one line for each row of its kernels, above the line that exports them; lines of before go. How
-// many rows found their place is added to `placed`.
+// The text of a source file with one line for each row of its kernels above the line that exports them, in place of
+// such lines that it has. The number of rows that found their place is added to `placed`.
 std::string with_error_lines(const std::string& source, const std::vector<worst_case>& rows, int* placed);
 // The sources that have such lines, by name: all kernels of the folders, less those of the gamma functions.
 std::vector<std::filesystem::path> sources_with_error_lines(const std::filesystem::path& root);

@@ -1,4 +1,5 @@
-// Writes what callers get of the list of exports and of data/worst_cases.txt: exports.json and orvane.h.
+// Writes exports.json and orvane.h, which tell callers about the exports, from the list and from
+// data/worst_cases.txt.
 //
 //     write-exports FOLDER
 #include "docs.h"
@@ -164,7 +165,7 @@ std::string declaration(const call_plan& p) {
         if (p.out_register >= 0) s += std::string(c_type(row.extra)) + "* out, ";
         return s + args + " arguments);\n";
     }
-    // More than one result register, or an argument of more than one register, is not to be had in C; neither is a
+    // C can declare neither results nor arguments of more than one register; neither is a
     // vector in part of a register without a type of its own.
     const place& r = p.results[0];
     const bool one_result = row.results() == 1 && (r.where == place::in::integer_register || r.registers == 1);

@@ -30,7 +30,7 @@ struct dsin_rm_block {
     SLOT(double, 0, abs_mask, 0x7FFFFFFFFFFFFFFF)
     SLOT(double, 1, large_limit, 0x4170000000000000) // 2^24
     SLOT(double, 2, inv_pi, 0x3FD45F306DC9C883)
-    SLOT(double, 3, shifter, 0x4338000000000000)
+    SLOT(double, 3, shifter, 0x4338000000000000) // 1.5 * 2^52
     GAP(4, 6)
     SLOT(double, 7, pi_1, 0x400921FB54442D18)
     SLOT(double, 8, pi_2, 0x3CA1A62633145C06)
@@ -45,8 +45,8 @@ struct dcos_block {
     SLOT(double, 1, large_limit, 0x4160000000000000) // 2^23
     SLOT(double, 2, half_pi, 0x3FF921FB54442D18)
     SLOT(double, 3, inv_pi, 0x3FD45F306DC9C883)
-    SLOT(double, 4, shifter, 0x4338000000000000)
-    SLOT(double, 5, half, 0x3FE0000000000000) // 0.5
+    SLOT(double, 4, shifter, 0x4338000000000000) // 1.5 * 2^52
+    SLOT(double, 5, half, 0x3FE0000000000000)    // 0.5
     GAP(6, 9)
     SLOT(double, 10, pi_1, 0x400921FB54442D18)
     SLOT(double, 11, pi_2, 0x3CA1A62633145C06)
@@ -68,7 +68,7 @@ struct dcos_rm_block {
     SLOT(double, 1, large_limit, 0x4160000000000000) // 2^23
     SLOT(double, 2, half_pi, 0x3FF921FB54442D18)
     SLOT(double, 3, inv_pi, 0x3FD45F306DC9C883)
-    SLOT(double, 4, shifter, 0x4338000000000000)
+    SLOT(double, 4, shifter, 0x4338000000000000) // 1.5 * 2^52
     SLOT(double, 5, half, 0x3FE0000000000000)
     GAP(6, 8)
     SLOT(double, 9, pi_1, 0x400921FB54442D18)

@@ -24,7 +24,7 @@ struct ssincos_block {
     SLOT(double, 9, d_shifter, 0x4338000000000000) // 1.5 * 2^52
     SLOT(float, 10, npi_1, 0xBFC90FDB)             // -pi/2, first piece
     SLOT(float, 11, npi_2, 0x333BBD2E)             // second piece
-    SLOT(float, 12, npi_3, 0x26F72CED)
+    SLOT(float, 12, npi_3, 0x26F72CED)             // third piece
     // Fit on |r| <= pi/4: fc0 + fc1*r^2 + fc2*r^4 + fc3*r^6 = cos(r) to 2^-23.6 relative
     SLOT(float, 13, fc3, 0xBAB1FCEB) // cosine polynomial, r^6
     SLOT(float, 14, fc2, 0x3D2A9DD3) // r^4

@@ -53,7 +53,7 @@ struct ssin_rm_block {
     SLOT(float, 80, c1, 0xBE29E72F) // r^3
     SLOT(float, 81, c2, 0x3BF84524) // r^5
     SLOT(float, 82, inv_pi, 0x3EA2F983)
-    SLOT(float, 83, shifter, 0x4B400000)
+    SLOT(float, 83, shifter, 0x4B400000) // 1.5 * 2^23
 };
 struct scos_block {
     TABLE(0, rows, cos_rows_f32)
@@ -78,7 +78,7 @@ struct scos_block {
     SLOT(float, 84, s3, 0xB94FB6CF) // r^7
     SLOT(float, 85, s4, 0x362EC335) // r^9
     SLOT(float, 86, inv_pi, 0x3EA2F983)
-    SLOT(float, 87, shifter, 0x4B400000)
+    SLOT(float, 87, shifter, 0x4B400000) // 1.5 * 2^23
     SLOT(float, 88, half_pi, 0x3FC90FDB)
     SLOT(float, 89, half, 0x3F000000) // 0.5
     SLOT(float, 90, one, 0x3F800000)  // 1.0
@@ -103,7 +103,7 @@ struct scos_rm_block {
     SLOT(float, 78, c1, 0xBE29E73F) // r^3
     SLOT(float, 79, c2, 0x3BF84524)
     SLOT(float, 80, inv_pi, 0x3EA2F983)
-    SLOT(float, 81, shifter, 0x4B400000)
+    SLOT(float, 81, shifter, 0x4B400000) // 1.5 * 2^23
     SLOT(float, 82, half_pi, 0x3FC90FDB)
     SLOT(float, 83, half, 0x3F000000)
     SLOT(float, 84, one, 0x3F800000)

@@ -75,8 +75,8 @@ double seconds() {
     return double(t.tv_sec) + 1e-9 * double(t.tv_nsec);
 }
 
-// Nanoseconds an element with each library: rounds go from one library to the next, so that a change of the machine's
-// pace meets all of them.
+// Nanoseconds per element with each library: the libraries take turns, so that a change of the machine's pace meets
+// all of them.
 std::vector<double> medians(const std::vector<loop*>& loops, data& d, long count, double round, int rounds) {
     std::vector<std::vector<double>> times(loops.size());
     std::vector<long> calls(loops.size());

@@ -3,7 +3,7 @@
 //
 //     orvane-jit-instructions
 //
-// Prints a table of nanoseconds an element, medians, over buffers in the first-level cache.
+// Prints a table of nanoseconds per element, medians, over buffers in the first-level cache.
 #include "jit.h"
 
 #include <algorithm>
@@ -19,7 +19,7 @@ constexpr size_t items = 1024;
 struct candidate {
     const char *name, *expression, *from, *to;
 };
-// Where an instruction is the whole work it stays one; the others are those for which it could be thought of.
+// The built-ins that the compiler does by an instruction, and others for which that is conceivable.
 const candidate candidates[] = {
 #define BOTH(name, expression)                                                                                       \
     {name, expression, "float", "float"}, { name, expression, "double", "double" }

@@ -210,7 +210,7 @@ int main(int argc, char** argv) try {
     for (auto& c : columns)
         programs.push_back(std::make_unique<jit::program>(ORVANE_EXAMPLE_KERNELS, c.how));
 
-    printf("ns a work-item (n_body: an interaction), medians of 15 interleaved rounds\n\n| kernel |");
+    printf("ns per work-item (n_body: per interaction), medians of 15 interleaved rounds\n\n| kernel |");
     for (auto& c : columns)
         printf(" %s |", c.title);
     printf(" libm / best |\n|---|");

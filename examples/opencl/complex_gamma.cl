@@ -1,5 +1,5 @@
-// The gamma function of a complex argument as a picture: the hue is the argument of the value, and brightness runs up once
-// each time that its size doubles.
+// The gamma function of a complex argument as a picture: the hue is the argument of the value, and the brightness rises and
+// starts again each time that its magnitude doubles.
 //
 //     orvane-cl complex_gamma.cl -n 640,480 out:pixels.npy 5
 float2 times(float2 a, float2 b) { return (float2)(a.x * b.x - a.y * b.y, a.x * b.y + a.y * b.x); }

@@ -2,7 +2,7 @@
 // formulas in double precision on the host.
 //
 //     orvane-cl-examples                  all of them: a line each, exit code 1 if one is wrong
-//     orvane-cl-examples --speed gelu     and ns a work-item beside plain PoCL and scalar libm
+//     orvane-cl-examples --speed gelu     and ns per work-item beside plain PoCL and scalar libm
 //     orvane-cl-examples --json=FILE      the same table for programs (data/opencl.json)
 //     orvane-cl-examples --pictures .     and the pictures among them as PNG
 #include "tools/command_line.h"
@@ -99,7 +99,7 @@ struct comparison {
 
 struct outcome {
     comparison compared;
-    double allowed_share = 0; // of values that may lie beyond what is allowed: steps in the formula
+    double allowed_share = 0; // of values that may be further off, where the formula has a step
     std::string told;         // the figures that a person wants
 };
 
@@ -492,7 +492,7 @@ int run(const std::vector<std::string>& words) {
     app.add_option("names", names, "examples (default: all)");
     app.add_flag(
         "--speed", speed,
-        "a table of ns a work-item: here; and how many times as long it takes on plain PoCL, with scalar libm, and "
+        "a table of ns per work-item: here; and how many times as long it takes on plain PoCL, with scalar libm, and "
         "on two threads");
     app.add_option("--json", json, "write that table into this file, for programs");
     app.add_flag("--list", list, "their names");
@@ -570,7 +570,7 @@ int run(const std::vector<std::string>& words) {
         rows += "}";
     }
     if (speed)
-        std::cout << "\nns a work-item on one thread, medians in turns; how many times as long others take, and how "
+        std::cout << "\nns per work-item on one thread, medians in turns; how many times as long others take, and how "
                      "many times "
                      "as fast two threads are\n| example | ns | plain PoCL | scalar libm | two threads "
                      "|\n|---|---|---|---|---|\n"

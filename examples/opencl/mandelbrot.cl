@@ -1,5 +1,4 @@
-// The Mandelbrot set, with colours that run smoothly: the count of rounds goes on in fractions by how far the last point
-// has gone.
+// The Mandelbrot set in smooth colours: the number of rounds gets a fraction from how far out the last point lies.
 //
 //     orvane-cl mandelbrot.cl -n 640,480 out:pixels.npy 256
 kernel void mandelbrot(global uchar4* pixels, int most) {

@@ -8,9 +8,9 @@
 //     stdx::native_simd<double> f = orvane::frexp(d, &n);    // n is a fixed_size_simd<int, d.size()>
 //
 // Namespaces are tiers: orvane itself, orvane::rm, orvane::half, and orvane::fast for native_; a function that lacks
-// a tier is there in the next better one. The call is inlined down to the exports, with lanes in registers: eight
-// floats or four doubles a call, what is left in one of 1 to 4 lanes; five to seven floats go as eight. Results are
-// the bits of the exports, those of special arguments too (orvane.h says which).
+// a tier is there in the next better one. Calls are inlined down to the exports, with lanes in registers: eight
+// floats or four doubles per call, and the rest in a call of 1 to 4 lanes; five to seven floats go as eight. Results
+// are the bits of the exports, those of special arguments too (orvane.h says which).
 //
 // Integer arguments and results are fixed_size_simd<int, N>. Results beside the first one are stored through
 // pointers; sincos returns a pair.

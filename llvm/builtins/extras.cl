@@ -34,7 +34,7 @@
 
 // ---- Math
 
-// fma is what mad may be at best: one rounding, one instruction.
+// mad as fma, the best that it may be: one rounding, one instruction.
 #define MATH(N, T, I)                                                                                                 \
     T##N FN mad(T##N x, T##N y, T##N z) { return fma(x, y, z); }
 #define MATH_SCALAR_OPERAND(N, T, I)                                                                                  \
@@ -43,7 +43,7 @@
     T##N FN ldexp(T##N x, int k) { return ldexp(x, (int##N)k); }                                                      \
     T##N FN pown(T##N x, int k) { return pown(x, (int##N)k); }                                                        \
     T##N FN rootn(T##N x, int k) { return rootn(x, (int##N)k); }
-// Library functions of this file's own uses, of which the definitions come with the list of exports.
+// Built-ins that this file calls; their definitions are made from the list of exports.
 #define EXTERNAL(N, T, I)                                                                                             \
     T##N __attribute__((overloadable, const)) fma(T##N, T##N, T##N);                                                  \
     T##N __attribute__((overloadable, const)) fmin(T##N, T##N);                                                       \
@@ -153,7 +153,8 @@ LENGTHS_OF(double, 0x1p+900, 0x1p-800, 0x1p-530, 0x1p+530)
         const WIDE##N exact = convert_##WIDE##N(x) * convert_##WIDE##N(y) + convert_##WIDE##N(z);                  \
         return convert_##T##N(clamp(exact, (WIDE##N)(WIDE)LEAST(T), (WIDE##N)(WIDE)GREATEST(T)));                                \
     }
-// ulong has nothing wider: four products of halves. long takes back what the unsigned product counts too much.
+// There is nothing wider than ulong: four products of halves. For long the unsigned product is corrected: it counts a
+// negative factor as 2^64 more than it is.
 #define HIGH_HALF_LONG(N, _)                                                                                          \
     ulong##N FN mul_hi(ulong##N x, ulong##N y) {                                                                      \
         const ulong##N low = 0xffffffff, half_bits = 32;                                                              \
@@ -179,7 +180,7 @@ LENGTHS_OF(double, 0x1p+900, 0x1p-800, 0x1p-530, 0x1p+530)
 #define MAD_HI(N, T)                                                                                                  \
     T##N FN mad_hi(T##N x, T##N y, T##N z) { return mul_hi(x, y) + z; }
 
-// Counts by lanes; of 8 and 16 bits in 32.
+// Counts lane by lane; lanes of 8 and 16 bits are counted in 32.
 #define COUNTS(T, U, S, WIDE, BITS)                                                                                   \
     T FN clz(T x) { return x == 0 ? BITS : BITS <= 32 ? __builtin_clz((uint)(U)x) - (32 - BITS) : __builtin_clzl(x); } \
     T FN ctz(T x) { return x == 0 ? BITS : BITS <= 32 ? __builtin_ctz((uint)(U)x) : __builtin_ctzl(x); }              \

@@ -57,7 +57,8 @@ struct item {
     Loop* loop = nullptr;
 };
 
-// What the lanes have in common at a point of the code: where they may stand, and whether some may be elsewhere.
+// What is known of the lanes of a group at a point of the code: where they may stand, and whether some may be
+// elsewhere.
 struct standing {
     targets at;
     bool masked;
@@ -82,8 +83,8 @@ private:
     ScalarEvolution& evolution;
     Type* const word = Type::getInt64Ty(c);
 
-    // Values that every lane has its own of by a formula: induction variables (start of the group, step) and arrays
-    // private to a work-item (array of all lanes' copies).
+    // Values that a formula gives for each lane: induction variables (start of the group, step) and arrays private to
+    // a work-item (array of all lanes' copies).
     struct own_value {
         Value* of_group;
         Value* step;
@@ -97,7 +98,7 @@ private:
     std::map<BasicBlock*, segment*> segment_of;
     std::vector<std::unique_ptr<segment>> segments;
     std::map<Loop*, std::vector<item>> items;
-    // What is to know of an inner loop before its edges are cut.
+    // What must be known of an inner loop before its edges are cut.
     struct facts {
         BasicBlock* from_latch = nullptr; // the block that its phis name for the way back
         WeakTrackingVH condition;         // of a plain loop: all lanes that enter go round equally often
@@ -582,7 +583,7 @@ void lane_loop_maker::emit_segment(Loop* loop, segment& s, standing& lanes_at) {
     PHINode* lane = at_head.CreatePHI(word, 2, "lane");
     lane->addIncoming(ConstantInt::get(word, 0), spine);
 
-    // Ways out, through a block that says where the lane goes on.
+    // The ways out lead through a block that stores where the lane goes on.
     std::map<BasicBlock*, BasicBlock*> out;
     for (const exit& e : exits) {
         BasicBlock*& through = out[e.to];
@@ -804,7 +805,7 @@ bool loops_to_lane_loops(Function& f, const step_options& options, OptimizationR
             if (findOptionMDForLoop(loop, "llvm.loop.isvectorized") || findOptionMDForLoop(loop, lanes_mark))
                 continue;
             changed |= sink_addresses(f, *loop);
-            // Of loops over the dimensions of a work-group the innermost runs by lanes.
+            // Among the loops over the dimensions of a work-group the innermost is made wide.
             if (any_of(*loop, [](const Loop* inner) { return over_work_items(*inner); })) continue;
             if (loop->isInnermost() && !has_private_arrays(*loop)) continue;
             TargetLibraryInfoImpl libraries{Triple(f.getParent()->getTargetTriple())};

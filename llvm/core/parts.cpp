@@ -136,7 +136,7 @@ Value* guarded(IRBuilder<>& code, division_of d, Value* a, Value* b, const Instr
     return y;
 }
 
-// A constant divisor, in every lane, that an instruction may have as it is.
+// Whether a divisor is constant in every lane and safe for an instruction.
 bool harmless_constant(Value* b, bool with_sign) {
     auto* c = dyn_cast<Constant>(b);
     if (!c) return false;
@@ -261,7 +261,7 @@ SmallVector<Value*, 2> results_of(IRBuilder<>& code, const kernel_row& row, int 
     return y;
 }
 
-// Whether the other result of the same call is wanted too.
+// Whether the other result of the same call is used too.
 bool other_part_too(const CallInst& call, const call_id& id) {
     for (const User* u : call.getArgOperand(0)->users()) {
         auto* other = dyn_cast<CallInst>(u);

@@ -42,7 +42,7 @@ struct early : PassInfoMixin<early> {
     }
 };
 
-// In front of the vectorizer: everything a call needs to be widened, and loops over work-items as ones that it takes.
+// In front of the vectorizer: makes calls ready to be widened, and loops over work-items such that it takes them.
 struct widen : PassInfoMixin<widen> {
     explicit widen(ir::step_options o) : options(o) {}
     ir::step_options options;
@@ -138,6 +138,14 @@ ir::step_options steps(const llvm_options& o) { return {o.width, o.exact_clobber
 
 } // namespace
 
+analysis_managers::analysis_managers(PassBuilder& builder) {
+    builder.registerModuleAnalyses(modules);
+    builder.registerCGSCCAnalyses(components);
+    builder.registerFunctionAnalyses(functions);
+    builder.registerLoopAnalyses(loops);
+    builder.crossRegisterProxies(loops, functions, components, modules);
+}
+
 void add_widening_passes(ModulePassManager& all, const llvm_options& o) {
     all.addPass(createModuleToFunctionPassAdaptor(widen(steps(o))));
 }
@@ -166,22 +174,14 @@ void register_passes(PassBuilder& builder, const llvm_options& options) {
 }
 
 void optimize(Module& m, TargetMachine* target, const llvm_options& options) {
-    LoopAnalysisManager loops;
-    FunctionAnalysisManager functions;
-    CGSCCAnalysisManager components;
-    ModuleAnalysisManager modules;
     PipelineTuningOptions tuning;
     tuning.LoopVectorization = options.width != 1;
     tuning.SLPVectorization = options.width != 1;
     tuning.LoopInterleaving = false;
     PassBuilder builder(target, tuning);
     register_passes(builder, options);
-    builder.registerModuleAnalyses(modules);
-    builder.registerCGSCCAnalyses(components);
-    builder.registerFunctionAnalyses(functions);
-    builder.registerLoopAnalyses(loops);
-    builder.crossRegisterProxies(loops, functions, components, modules);
-    builder.buildPerModuleDefaultPipeline(OptimizationLevel::O3).run(m, modules);
+    analysis_managers analyses(builder);
+    builder.buildPerModuleDefaultPipeline(OptimizationLevel::O3).run(m, analyses.modules);
 }
 
 } // namespace orvane

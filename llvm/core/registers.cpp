@@ -1,4 +1,4 @@
-// Wide calls as the registers they travel in, and remarks on what became of the calls.
+// Wide calls are brought into the registers of the convention, and remarks say what became of the calls.
 #include "compat.h"
 #include "steps.h"
 
@@ -11,14 +11,14 @@ namespace orvane::ir {
 
 namespace {
 
-// Vectors as the convention has them: whole vector registers of at most 256 bits, the low part of one for less.
+// Whether the target has vector registers wider than those of the convention, which have 256 bits.
 bool has_wider_registers(const Function& f) {
     return f.getFnAttribute("target-features").getValueAsString().contains("+avx512f");
 }
 
 unsigned bits_of(Type* t) { return t->getPrimitiveSizeInBits().getFixedValue(); }
 
-// One register's worth of a vector, and how many make it.
+// The part of a vector that one register holds, and the number of registers.
 Type* register_type(Type* t, unsigned& count) {
     count = 1;
     auto* v = dyn_cast<FixedVectorType>(t);

@@ -19,7 +19,7 @@ int lanes_of(Type* t) {
     return v ? v->getNumElements() : 1;
 }
 
-// A call on vectors as calls on their lanes.
+// Replaces a call on vectors by calls on their lanes.
 bool take_apart(CallInst& call, const call_id& id) {
     const kernel_row& row = *id.of.row;
     if (id.of.width == 1 || (id.which == part::whole && (row.has_out() || row.results() == 2))) return false;

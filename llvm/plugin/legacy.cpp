@@ -23,20 +23,12 @@ struct orvane_pass : ModulePass {
     bool runOnModule(Module& m) override {
         orvane::llvm_options o;
         if (const char* width = getenv("ORVANE_WIDTH")) o.width = atoi(width);
-        LoopAnalysisManager loops;
-        FunctionAnalysisManager functions;
-        CGSCCAnalysisManager components;
-        ModuleAnalysisManager modules;
         PassBuilder builder;
-        builder.registerModuleAnalyses(modules);
-        builder.registerCGSCCAnalyses(components);
-        builder.registerFunctionAnalyses(functions);
-        builder.registerLoopAnalyses(loops);
-        builder.crossRegisterProxies(loops, functions, components, modules);
+        orvane::analysis_managers analyses(builder);
         ModulePassManager passes;
         if (late) orvane::add_late_passes(passes, o);
         else orvane::add_widening_passes(passes, o);
-        return !passes.run(m, modules).areAllPreserved();
+        return !passes.run(m, analyses.modules).areAllPreserved();
     }
 };
 char orvane_pass::ID;

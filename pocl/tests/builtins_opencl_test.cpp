@@ -22,7 +22,7 @@ std::string type_of(lane_type t, int width) {
     return std::string(opencl_type(t)) + (width == 1 ? "" : std::to_string(width));
 }
 
-// Where a kernel's rows have their lanes: arguments and results of eight bytes a lane at most.
+// Where a kernel's rows have their lanes: arguments and results of eight bytes per lane at most.
 size_t argument_offset(size_t place, int j) { return (place * 3 + j) * lanes * 8; }
 size_t result_offset(size_t place, int width_index, int r) {
     return ((place * std::size(widths) + width_index) * most_results + r) * lanes * 8;
@@ -62,8 +62,8 @@ std::string statements(const kernel_row& row, size_t place, int width_index) {
     return text + "}\n";
 }
 
-// Rows whose work at most an instruction or two stays the compiler's, which gives some NaN, and the zero of either
-// sign where two differ in sign alone.
+// Rows that the compiler may turn into an instruction or two: any NaN will do, and a zero of either sign where the
+// arguments are zeros of different sign.
 bool same(const kernel_row& row, lane_type t, uint64_t a, uint64_t b) {
     if (a == b) return true;
     if (!is_floating(t)) return false;

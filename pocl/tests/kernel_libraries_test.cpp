@@ -96,20 +96,12 @@ TEST(KernelLibraries, CodeFor512BitsCallsWith256) {
             if (other.use_empty()) other.eraseFromParent();
         }
 
-    LoopAnalysisManager loops;
-    FunctionAnalysisManager functions;
-    CGSCCAnalysisManager components;
-    ModuleAnalysisManager modules;
     PassBuilder builder;
-    builder.registerModuleAnalyses(modules);
-    builder.registerCGSCCAnalyses(components);
-    builder.registerFunctionAnalyses(functions);
-    builder.registerLoopAnalyses(loops);
-    builder.crossRegisterProxies(loops, functions, components, modules);
+    orvane::analysis_managers analyses(builder);
     ModulePassManager passes;
     passes.addPass(AlwaysInlinerPass());
     orvane::add_late_passes(passes, {});
-    passes.run(*m, modules);
+    passes.run(*m, analyses.modules);
     callee->deleteBody();
 
     std::string why;

@@ -1,5 +1,5 @@
 // Programs as people write them, each by its name on the command line: what they compute goes to stdout as a name and
-// numbers a line, to be compared between drivers.
+// numbers per line, to be compared between drivers.
 #include "opencl.h"
 
 #include <cmath>

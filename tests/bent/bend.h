@@ -10,7 +10,7 @@ enum class bend : int {
     down,             // the smallest allowed
     either_end,       // one of these two, as the argument's bits fall
     anywhere,         // in between, as the argument's bits fall
-    exact_for_powers, // either end, but 1.0 of 1.0 and the like
+    exact_for_powers, // either end, but exact for powers of two
 };
 inline constexpr bend bends[] = {bend::exact,      bend::up,       bend::down,
                                  bend::either_end, bend::anywhere, bend::exact_for_powers};

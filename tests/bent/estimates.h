@@ -1,4 +1,4 @@
-// Stands before the frame in kernels of the bent library: the two estimate instructions become calls.
+// Included before the frame in kernels of the bent library: the two estimate instructions become calls.
 #pragma once
 
 #include <immintrin.h>

@@ -1,5 +1,5 @@
-// Stands behind the frame in kernels of the bent library: instances of eight lanes are enough, for the steps are
-// those of all widths.
+// Included after the frame in kernels of the bent library: instances of eight lanes are enough, since the steps are
+// the same at all widths.
 #pragma once
 
 #undef ORVANE_AT_ALL_WIDTHS

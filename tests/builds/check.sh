@@ -54,7 +54,7 @@ grep -q 'orvane_l9 is made without -flto -ffast-math' "$scratch/environment.log"
 configured kept CXXFLAGS="-g -ffile-prefix-map=$tree=." LDFLAGS="-Wl,-z,relro,-z,now"
 commands "$scratch/kept" | grep -- "-g -ffile-prefix-map" >/dev/null || fail "-g and prefix maps are lost"
 
-# Compilers that cannot hold the promises: one line that says what would be right.
+# Compilers that cannot keep the library's promises are refused in one line that says what would be right.
 mkdir "$scratch/bin"
 printf '#!/bin/sh\nexec g++ "$@" -U__GNUC__ -D__GNUC__=11\n' >"$scratch/bin/old-g++"
 printf '#!/bin/sh\nexec g++ "$@" -D__clang__ -D__clang_major__=19 -D__clang_minor__=1 -D__clang_patchlevel__=0\n' \

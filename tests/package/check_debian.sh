@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The Debian packages: lintian's word on each, and a bare Debian in which they are installed and compiled against.
+# The Debian packages: lintian has nothing to say about any, and programs compile against them in a bare Debian.
 #     check_debian.sh SOURCES BUILD SCRATCH
 set -Eeuo pipefail
 sources=$1 build=$2 scratch=$3 root=$3/root

@@ -2,7 +2,7 @@
 trap 'echo "$0: line $LINENO" >&2; grep -h error "$scratch"/remarks >&2' ERR
 mkdir -p "$scratch"
 
-# calls_of OBJECT: a line a loop, its function and the symbols that it refers to. Compiled with -ffunction-sections.
+# calls_of OBJECT: a line for each loop: its function and the symbols that it refers to. Compiled with -ffunction-sections.
 calls_of() {
     objdump -r "$1" | awk '
         /^RELOCATION RECORDS FOR/ { split($4, part, /loop_|\]/); loop = $4 ~ /^\[\.text\.loop_/ ? part[2] : "" }

@@ -19,8 +19,8 @@
 #define VI(T, f) LOOP_OF(T, f, r->first[i] = f(a->x[i], a->n[i]))
 #define IV(T, f) LOOP_OF(T, f, r->whole[i] = f(a->x[i]))
 
-// Functions that store: with linear pointers they are declared as OpenMP has it, and the loops are vectorized by its
-// word.
+// Functions that store through pointers: they are declared with OpenMP's linear clauses, and an OpenMP pragma has the
+// loops vectorized.
 #define SIMD_LOOP_OF(T, f, statement)                                                                                \
     void loop_##f(struct results_##T* restrict r, const struct arguments_##T* restrict a) {                          \
         _Pragma("omp simd") for (int i = 0; i < MOST; i++) statement;                                                \

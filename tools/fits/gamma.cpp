@@ -46,17 +46,6 @@ const root_row<4, 12> right_fixed[1] = {
 #include "special/tables/lgamma_RRP_row_0.inc"
 };
 
-real gamma(const real& x) {
-    real r;
-    mpfr_gamma(r.get(), x.get(), MPFR_RNDN);
-    return r;
-}
-real log_gamma(const real& x) { // of |gamma|
-    real r;
-    int sign;
-    mpfr_lgamma(r.get(), &sign, x.get(), MPFR_RNDN);
-    return r;
-}
 real digamma(const real& x) {
     real r;
     mpfr_digamma(r.get(), x.get(), MPFR_RNDN);

@@ -269,13 +269,6 @@ std::string text_of(const double_row& row, double last, bool with_last) {
     return w.text + end_of_row();
 }
 
-real true_log_gamma(const real& x) {
-    real r;
-    int sign;
-    mpfr_lgamma(r.get(), &sign, x.get(), MPFR_RNDN);
-    return r;
-}
-
 // ln(centre + u): its series, of which 80 terms leave less than 2^-300 for |u| up to an eighth of the centre.
 exact_polynomial log_series(const real& centre) {
     polynomial c{tables::log(centre)};
@@ -320,7 +313,7 @@ void hold(const char* range, const real& at, const std::vector<step>& steps, con
 real slow_log_gamma_off(const real& y) {
     const double where = tables::rounded_f64(y);
     return magnitude(value(lgamma_pieces::log_gamma(where, exact_polynomial({real(0), real(1)})).c, y) -
-                     true_log_gamma(y)) *
+                     tables::log_gamma(y)) *
            1.25;
 }
 
@@ -367,7 +360,7 @@ void prove_lgamma_margins() {
                 if (n == 0 && side < 0) continue;
                 const real r = k < 16 ? real(k) / 30 : power_of_two(-k), A = real(n) + r * side;
                 const bool tiny = A < real(1) / 8;
-                const real v = magnitude(true_log_gamma(tiny ? A + 1 : A));
+                const real v = magnitude(tables::log_gamma(tiny ? A + 1 : A));
                 const real sine = magnitude(tables::cos((real(1) / 2 - r) * tables::pi())) / tables::pi();
                 const real lnA = tables::log(A), l = magnitude(tables::log(tiny ? sine : sine * A));
                 const real all = (v + l) * margin + absolute;
@@ -444,7 +437,7 @@ file lgamma_rows() {
                      [=](const real& lo, const real& hi) { return log_gamma(where, bounded<64>(lo, hi)); }});
         }
         const bool zero = centre == 1 || centre == 2;
-        const auto row = fit_double_row(parts, true_log_gamma, centre, 11, zero);
+        const auto row = fit_double_row(parts, tables::log_gamma, centre, 11, zero);
         // Of few roundings next to all can fall together, of many never.
         const double margin = margin_of(row, parts, centre, zero) * (centre < real(2.25) ? 2 : slack);
         worst = larger(worst, margin);

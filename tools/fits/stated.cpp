@@ -37,11 +37,11 @@ real power(const real& x, const real& y) {
 const std::string begin_of_fit = "Fit on ";
 
 const std::map<std::string, real (*)(const real&)> functions = {
-    {"abs", abs_of},        {"exp", exp_of},        {"exp2", tables::exp2}, {"log", tables::log},
-    {"log2", tables::log2}, {"sqrt", tables::sqrt}, {"cbrt", tables::cbrt}, {"sin", tables::sin},
-    {"cos", tables::cos},   {"tan", tables::tan},   {"asin", tables::asin}, {"atan", tables::atan},
-    {"sinh", tables::sinh}, {"cosh", cosh_of},      {"tanh", tables::tanh}, {"erf", tables::erf},
-    {"erfc", tables::erfc}};
+    {"abs", abs_of},        {"exp", exp_of},          {"exp2", tables::exp2},       {"log", tables::log},
+    {"log2", tables::log2}, {"sqrt", tables::sqrt},   {"cbrt", tables::cbrt},       {"sin", tables::sin},
+    {"cos", tables::cos},   {"tan", tables::tan},     {"asin", tables::asin},       {"atan", tables::atan},
+    {"sinh", tables::sinh}, {"cosh", cosh_of},        {"tanh", tables::tanh},       {"erf", tables::erf},
+    {"erfc", tables::erfc}, {"gamma", tables::gamma}, {"lgamma", tables::log_gamma}};
 
 // What the sources define: slots and constants with one value, arrays with several.
 struct definition {
@@ -116,7 +116,7 @@ const definition* definition_near(const definitions& all, const std::string& nam
 // sum:     term { (+ | -) term }
 // term:    factor { (* | /) factor }
 // factor:  - factor | base [^ factor]
-// base:    number | name | name(sum) | (sum)
+// base:    number | name | name[number] | name(sum) | (sum)
 class parser {
 public:
     parser(const std::string& text, const std::set<std::string>& variables,
@@ -191,7 +191,7 @@ private:
             if (!take('(')) throw std::runtime_error(word + " is a function: write " + word + "(...)");
             return [a = in_parentheses(), f = f->second](const point& x) { return f(a(x)); };
         }
-        if (word == "horner" || word == "horner_up") {
+        if (word == "horner" || word == "horner_up" || word == "quadratics") {
             if (!take('(')) throw std::runtime_error(word + " is a function: write " + word + "(v, array)");
             const expression a = sum();
             if (!take(',')) throw std::runtime_error(word + " takes a value and an array");
@@ -205,6 +205,14 @@ private:
             if (!take(')')) throw std::runtime_error("a ) is missing");
             coefficients.push_back(array);
             polynomial p = d->values;
+            if (word == "quadratics")
+                return [a, p](const point& x) {
+                    const real v = a(x);
+                    real product = p.back();
+                    for (size_t i = 0; i + 1 < p.size(); i += 2)
+                        product = product * (v * v + p[i + 1] * v + p[i]);
+                    return product;
+                };
             if (word == "horner") std::reverse(p.begin(), p.end());
             return [a, p](const point& x) { return value(p, a(x)); };
         }
@@ -213,6 +221,16 @@ private:
         const definition* d = definition_near(known, word, comment);
         if (!d) throw std::runtime_error("no slot, array, function or constant is named '" + word + "'");
         coefficients.push_back(word);
+        if (take('[')) {
+            const size_t digits = at;
+            while (at < text.size() && isdigit((unsigned char)text[at]))
+                at++;
+            const size_t index = digits < at ? std::stoul(text.substr(digits, at - digits)) : d->values.size();
+            if (index >= d->values.size() || !take(']'))
+                throw std::runtime_error(word + " has elements " + word + "[0] to [" +
+                                         std::to_string(d->values.size() - 1) + "]");
+            return constant(d->values[index]);
+        }
         if (!take('(')) {
             if (d->values.size() != 1) throw std::runtime_error(word + " is an array: write " + word + "(...)");
             return constant(d->values[0]);

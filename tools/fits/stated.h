@@ -9,10 +9,12 @@
 // error is the largest of |left - right| (absolute) or of that over |right| (relative), in exact arithmetic:
 // roundings of the coefficients count, those of the kernel's steps do not.
 //
-// An expression has + - * / ^, parentheses, the constants pi, ln2 and e, the usual functions (exp, log2, asin, erf
-// ...), names of slots and constants, and name(v) for the polynomial in v whose coefficients an array of slots holds,
-// highest power first; of plain arrays horner(v, name), or horner_up(v, name) where the lowest power is first. A name
-// means its first definition after the comment, or the last before it.
+// An expression has + - * / ^, parentheses, the constants pi, ln2 and e, the usual functions (exp, log2, asin, erf,
+// gamma, lgamma ...), names of slots and constants, and name(v) for the polynomial in v whose coefficients an array
+// of slots holds, highest power first; of plain arrays horner(v, name), or horner_up(v, name) where the lowest power
+// is first, name[i] for an element, and quadratics(v, name) for the product of v^2 + name[1]*v + name[0], v^2 +
+// name[3]*v + name[2] ... and the last element. A name means its first definition after the comment, or the last
+// before it.
 #pragma once
 
 #include "tables/table.h"

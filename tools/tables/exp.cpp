@@ -9,7 +9,7 @@ namespace {
 
 real power(int j, int n) { return exp2(real(j) / n); }
 
-// hi rounded; lo what is missing, ABSOLUTE.
+// hi rounded; lo the rest.
 template <class T> auto pairs(int n) {
     return [n](writer& w) {
         for (int j = 0; j < n; j++) {
@@ -29,7 +29,7 @@ float fraction_field(float x) { return std::bit_cast<float>(std::bit_cast<uint32
 std::vector<table> exp_tables() {
     return {
         {"exp/tables/exp2_64_relative.inc",
-         [](writer& w) { // hi rounded; lo what is missing, RELATIVE to hi
+         [](writer& w) { // hi rounded; lo the rest, relative to hi
              for (int j = 0; j < 64; j++) {
                  const real t = power(j, 64);
                  const double hi = rounded_f64(t);
@@ -46,7 +46,7 @@ std::vector<table> exp_tables() {
                  w.f64(rounded_f64(power(j, 128))), w.end_row();
          }},
         {"exp/tables/exp2_128_split.inc",
-         [](writer& w) { // hi the multiple of 2^-25 nearest, its fraction field; lo absolute
+         [](writer& w) { // hi the nearest multiple of 2^-25, kept as its fraction field; lo the rest
              for (int j = 0; j < 128; j++) {
                  const real t = power(j, 128), hi = to_multiple(t, -25);
                  w.f64(fraction_field(rounded_f64(hi))), w.f64(rounded_f64(t - hi)), w.end_row();

@@ -17,7 +17,7 @@ template <class T> T rounded(const real& x) {
     if constexpr (sizeof(T) == 8) return rounded_f64(x);
     else return rounded_f32(x);
 }
-// hi, and what is missing from t, rounded.
+// hi, and the rest of t rounded.
 template <class T> void hi_and_rest(writer& w, const real& t, const real& hi) {
     put(w, rounded<T>(hi)), put(w, rounded<T>(t - hi));
 }

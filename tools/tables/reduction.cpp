@@ -7,7 +7,7 @@ namespace orvane::tables {
 
 namespace {
 
-// Row e: floor(2^(e - below) / (2 pi)) mod 2^(3 word_bits), the most significant word first.
+// Row e is floor(2^(e - below) / (2 pi)) mod 2^(3 word_bits), the most significant word first.
 std::function<void(writer&)> rows(int count, int below, int word_bits) {
     return [=](writer& w) {
         mpfr_t inverse, scaled;

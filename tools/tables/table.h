@@ -64,7 +64,15 @@ ORVANE_REAL_FUNCTION(sinh, mpfr_sinh)
 ORVANE_REAL_FUNCTION(tanh, mpfr_tanh)
 ORVANE_REAL_FUNCTION(erf, mpfr_erf)
 ORVANE_REAL_FUNCTION(erfc, mpfr_erfc)
+ORVANE_REAL_FUNCTION(gamma, mpfr_gamma)
 #undef ORVANE_REAL_FUNCTION
+
+inline real log_gamma(const real& a) { // of |gamma|
+    real r;
+    int sign;
+    mpfr_lgamma(r.get(), &sign, a.get(), MPFR_RNDN);
+    return r;
+}
 
 inline real pi() {
     real r;

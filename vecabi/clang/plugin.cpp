@@ -25,7 +25,7 @@ namespace {
 enum class lane { f32, f64, i32 };
 
 struct function {
-    StringRef name;       // of the scalar function
+    StringRef name;       // the scalar function's
     lane type;            // of its lanes: what counts them
     StringRef parameters; // v, vv, vvv; vi: x and an int
     StringRef vector;     // name in the vector function ABI
@@ -37,7 +37,7 @@ constexpr function functions[] = {
 #undef FUNCTION
 };
 
-// Intrinsics that are calls in the end, some for want of an instruction (floor before SSE 4.1).
+// Intrinsics that the code generator turns into calls, some because there is no instruction (floor before SSE 4.1).
 constexpr StringRef intrinsics[] = {"sin",  "cos",   "tan",   "exp",  "exp2",      "exp10", "log",  "log2", "log10",
                                     "pow",  "asin",  "acos",  "atan", "atan2",     "sinh",  "cosh", "tanh", "ldexp",
                                     "ceil", "floor", "trunc", "rint", "nearbyint", "round", "fma"};
