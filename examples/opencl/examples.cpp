@@ -570,11 +570,12 @@ int run(const std::vector<std::string>& words) {
         rows += "}";
     }
     if (speed)
-        std::cout << "\nns per work-item on one thread, medians in turns; how many times as long others take, and how "
-                     "many times "
-                     "as fast two threads are\n| example | ns | plain PoCL | scalar libm | two threads "
-                     "|\n|---|---|---|---|---|\n"
-                  << table;
+        std::cout
+            << "\nns per work-item on one thread, medians in turns; how many times as long others take, and how "
+               "many times "
+               "as fast two threads are\n| example | ns | plain PoCL | scalar libm | two threads "
+               "|\n|---|---|---|---|---|\n"
+            << table;
     if (!json.empty()) {
         whole_file f(json);
         f.out << "[\n" << rows << "\n]\n";
